@@ -1,0 +1,7 @@
+// Creation of directories.
+#pragma once
+
+// Creates the missing directories that lead to the file at `path`, not the file itself.
+// Returns 0 when they all exist afterwards and -1 otherwise. The library ignores the
+// result. May be called from any thread.
+int oa_buildpath(const char* path);
