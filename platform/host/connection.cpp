@@ -1,0 +1,114 @@
+#include "connection.h"
+
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Transaction.h>
+
+#include <filesystem>
+#include <stdexcept>
+
+namespace host {
+namespace {
+
+constexpr int kBusyTimeoutMs = 5000;
+
+template <class Action>
+decltype(auto) naming(const std::string& path, Action action) {
+    try {
+        return action();
+    } catch (const SQLite::Exception& error) {
+        throw std::runtime_error(path + ": " + error.what());
+    }
+}
+
+SQLite::Database openFile(const std::string& path) {
+    const auto directory = std::filesystem::path(path).parent_path();
+    if (!directory.empty()) {
+        std::filesystem::create_directories(directory);
+    }
+    return naming(path, [&] {
+        return SQLite::Database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
+                                kBusyTimeoutMs);
+    });
+}
+
+void transact(SQLite::Database& database, const std::string& path,
+              SQLite::TransactionBehavior behavior, const std::function<void()>& work) {
+    naming(path, [&] {
+        SQLite::Transaction transaction(database, behavior);
+        work();
+        transaction.commit();
+    });
+}
+
+}  // namespace
+
+bool Query::next() {
+    return naming(path_, [this] { return statement_.executeStep(); });
+}
+
+int Query::run() {
+    return naming(path_, [this] { return statement_.exec(); });
+}
+
+void Query::bind(int index, const std::optional<std::string>& text) {
+    if (text) {
+        bind(index, *text);
+    } else {
+        statement_.bind(index);
+    }
+}
+
+void Query::bind(int index, const Blob& blob) {
+    statement_.bindNoCopy(index, static_cast<const void*>(blob.bytes.data()),
+                          static_cast<int>(blob.bytes.size()));
+}
+
+Connection::Connection(const std::string& path, const Schema& schema)
+    : path_(path), database_(openFile(path)) {
+    naming(path, [&] {
+        database_.exec("PRAGMA foreign_keys = ON");
+        bringUpToDate(schema);
+        // Fails while another process is at the same point, which then does it for both.
+        database_.tryExec("PRAGMA journal_mode = WAL");
+    });
+}
+
+void Connection::write(const std::function<void()>& work) {
+    transact(database_, path_, SQLite::TransactionBehavior::IMMEDIATE, work);
+}
+
+void Connection::read(const std::function<void()>& work) {
+    transact(database_, path_, SQLite::TransactionBehavior::DEFERRED, work);
+}
+
+void Connection::bringUpToDate(const Schema& schema) {
+    if (schemaVersion() == 0) {
+        write([&] {
+            if (schemaVersion() == 0) {  // nobody created it while this waited for the lock
+                database_.exec(schema.sql);
+                database_.exec("PRAGMA user_version = " + std::to_string(schema.version));
+            }
+        });
+    }
+    if (schemaVersion() > schema.version) {
+        throw std::runtime_error(path_ + ": written by a later version (schema " +
+                                 std::to_string(schemaVersion()) + ", known is " +
+                                 std::to_string(schema.version) + ")");
+    }
+}
+
+std::int64_t Connection::schemaVersion() {
+    return database_.execAndGet("PRAGMA user_version").getInt64();
+}
+
+SQLite::Statement& Connection::prepared(const char* sql) {
+    const auto known = statements_.find(sql);
+    if (known != statements_.end()) {
+        return known->second;
+    }
+    return naming(path_, [&]() -> SQLite::Statement& {
+        return statements_.emplace(sql, SQLite::Statement(database_, sql)).first->second;
+    });
+}
+
+}  // namespace host

@@ -1,0 +1,93 @@
+// A connection to a database file: how it is opened, and its prepared statements.
+#pragma once
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace host {
+
+// What a database file holds: `sql` creates it, `version` is kept in user_version.
+struct Schema {
+    int version;
+    const char* sql;
+};
+
+// Bytes that go into the database as a BLOB.
+struct Blob {
+    const std::string& bytes;
+};
+
+// One execution of a prepared statement, which is reset when this object is destroyed.
+// Bound values must live until then.
+class Query {
+public:
+    // Binds `values` to the statement's parameters, in order. `path` is the database's, for
+    // the messages of failures.
+    template <class... Values>
+    Query(SQLite::Statement& statement, const std::string& path, const Values&... values)
+        : statement_(statement), path_(path) {
+        int index = 0;
+        (bind(++index, values), ...);
+    }
+    ~Query() { statement_.tryReset(); }
+    Query(const Query&) = delete;
+    Query& operator=(const Query&) = delete;
+
+    // Advances to the next row; false when there is none.
+    bool next();
+
+    // Executes a statement that gives no rows, and returns how many rows it changed.
+    int run();
+
+    std::int64_t integer(int column) { return statement_.getColumn(column).getInt64(); }
+    std::string bytes(int column) { return statement_.getColumn(column).getString(); }
+    bool isNull(int column) { return statement_.getColumn(column).isNull(); }
+
+private:
+    void bind(int index, std::int64_t value) { statement_.bind(index, value); }
+    void bind(int index, const std::string& text) { statement_.bindNoCopy(index, text); }
+    void bind(int index, const std::optional<std::string>& text);
+    void bind(int index, const Blob& blob);
+
+    SQLite::Statement& statement_;
+    const std::string& path_;
+};
+
+// Serves one thread at a time. Every failure is a std::runtime_error that names the file.
+class Connection {
+public:
+    // Opens the database at `path`. Missing directories, the file and its tables are
+    // created; several processes may do that at once. A file of a later schema version is a
+    // failure.
+    Connection(const std::string& path, const Schema& schema);
+
+    // The statement `sql`, which is compiled once and lives in static storage, with
+    // `values` bound to its parameters in order.
+    template <class... Values>
+    Query query(const char* sql, const Values&... values) {
+        return Query(prepared(sql), path_, values...);
+    }
+
+    // Runs `work` in one transaction, undone when it throws. A writing one holds the write
+    // lock from the start; a reading one sees one state of the database throughout.
+    void write(const std::function<void()>& work);
+    void read(const std::function<void()>& work);
+
+private:
+    void bringUpToDate(const Schema& schema);
+    std::int64_t schemaVersion();
+    SQLite::Statement& prepared(const char* sql);
+
+    std::string path_;
+    SQLite::Database database_;
+    std::map<std::string_view, SQLite::Statement> statements_;
+};
+
+}  // namespace host

@@ -1,0 +1,51 @@
+#include "db/db_manager.h"
+
+#include "device_paths.h"
+#include "library_store.h"
+
+namespace veloran::db {
+namespace {
+
+constexpr int kFastHashUid = 1;
+
+// A connection a call: each finds the device of the moment, even after the working
+// directory or the device's files were changed, and calls from several threads share
+// nothing.
+host::LibraryStore library() { return host::LibraryStore(host::kLibraryDatabasePath); }
+
+}  // namespace
+
+DbManager* DbManager::Instance() {
+    static DbManager instance;
+    return &instance;
+}
+
+// NOLINTBEGIN(readability-convert-member-functions-to-static): the seam has them so.
+long long DbManager::GetBookIdByUid(int kind, const std::string& uid) {
+    return kind == kFastHashUid ? library().findBook(uid).value_or(-1) : -1;
+}
+
+void DbManager::GetBookTitleAndAuthor(long long bookId, std::string* title,
+                                      std::string* author) {
+    if (const auto book = library().book(bookId)) {
+        *title = book->title;
+        *author = book->author;
+    }
+}
+
+std::filesystem::path DbManager::GetBookLocalFilePath(long long bookId) {
+    const auto book = library().book(bookId);
+    return book ? book->path : std::string();
+}
+
+bool DbManager::SetFileProp(const std::string& hash, FileProp prop,
+                            const std::string& value) {
+    if (hash.empty()) {
+        return false;
+    }
+    library().setFileProp(hash, static_cast<int>(prop), value);
+    return true;
+}
+// NOLINTEND(readability-convert-member-functions-to-static)
+
+}  // namespace veloran::db

@@ -1,0 +1,17 @@
+// Where the device keeps its databases.
+#pragma once
+
+#ifndef NOTES_EXPORT_DEVICE_ROOT
+#define NOTES_EXPORT_DEVICE_ROOT "/mnt/ext1"
+#endif
+
+namespace host {
+
+// A relative root resolves against the working directory of the moment a database is
+// opened.
+inline constexpr const char* kReaderDatabasePath =
+    NOTES_EXPORT_DEVICE_ROOT "/system/config/books.db";
+inline constexpr const char* kLibraryDatabasePath =
+    NOTES_EXPORT_DEVICE_ROOT "/system/config/library.db";
+
+}  // namespace host

@@ -1,0 +1,17 @@
+// Finds the dump in an exported document.
+#pragma once
+
+#include <string>
+
+#include "payload.h"
+
+namespace host {
+
+// The payload of the first dump element of the document at `path`. Whatever surrounds the
+// element need not be well-formed. Nothing is read beyond the element's end (and the block
+// that holds it), nothing is fetched and no entity is expanded.
+// Throws DumpError: kFileUnreadable, kNoDump, or kDumpDamaged when the element does not end
+// or is not Base64.
+Payload readDumpElement(const std::string& path);
+
+}  // namespace host

@@ -1,0 +1,28 @@
+// The dump: what an export carries for a later import. One gzip member that holds, as UTF-8
+// JSON, the exported books with their notes:
+//
+//   {"format": "notes-export-dump", "version": 1, "books": [
+//     {"fast_hash": …, "title": …, "path": …, "notes": [
+//       {"uuid": …, "tags": [
+//         {"tag": 103, "text": …, "json": …, "timestamp": 1741339501}]}]}]}
+//
+// "format", "version" and "books" come in this order, so that a reader of another version
+// knows it in time. A tag's "json" is JSON text inside a string, and missing where the tag
+// has none. Where a string is not text (not UTF-8, or with zero bytes) its key ends in
+// "_base64", and its value is the Base64 of its bytes.
+#pragma once
+
+#include <cstddef>
+
+namespace host {
+
+inline constexpr const char* kDumpMediaType = "application/x-veloran-dbdump";
+inline constexpr const char* kFormatName = "notes-export-dump";
+inline constexpr int kFormatVersion = 1;
+inline constexpr const char* kBase64Suffix = "_base64";
+
+// Of the JSON text; nothing larger is written or read. Room for about 900 pictures of 400
+// KB, and a bound on what a few hundred KB of hostile gzip can become.
+inline constexpr std::size_t kMaxDumpSize = std::size_t{512} << 20;
+
+}  // namespace host

@@ -1,0 +1,33 @@
+#include "dump_reader.h"
+
+#include <utility>
+
+#include "dump_element.h"
+#include "dump_format.h"
+#include "dump_handler.h"
+#include "gunzip_stream.h"
+#include "import_result.h"
+#include "json_sax.h"
+
+namespace host {
+
+std::vector<BookRecord> readDump(const std::string& path) {
+    return readPayload(readDumpElement(path), kMaxDumpSize);
+}
+
+std::vector<BookRecord> readPayload(Payload payload, std::size_t limit) {
+    constexpr unsigned kFlags =
+        rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
+    GunzipStream text(std::move(payload), limit);
+    JsonReader reader;
+    DumpHandler handler;
+    if (reader.Parse<kFlags>(text, handler).IsError()) {
+        throw DumpError(handler.failure(), "the dump does not hold what a dump holds");
+    }
+    if (!text.atEnd()) {
+        throw DumpError(kDumpDamaged, "something follows the records of the dump");
+    }
+    return std::move(handler.books());
+}
+
+}  // namespace host

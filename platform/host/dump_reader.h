@@ -1,0 +1,20 @@
+// Reads the dump of an exported document into records.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "payload.h"
+#include "records.h"
+
+namespace host {
+
+// The records of the dump (dump_format.h) in the document at `path`, complete and checked.
+// Throws DumpError, with what the import is to answer.
+std::vector<BookRecord> readDump(const std::string& path);
+
+// The same of a payload whose JSON text is no larger than `limit`.
+std::vector<BookRecord> readPayload(Payload payload, std::size_t limit);
+
+}  // namespace host

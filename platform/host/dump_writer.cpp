@@ -1,0 +1,162 @@
+#include "dump_writer.h"
+
+#include <rapidjson/memorystream.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include "base64.h"
+#include "dump_format.h"
+#include "gzip_writer.h"
+#include "json_sax.h"
+#include "note_json.h"
+
+namespace host {
+namespace {
+
+struct Nowhere {
+    void Put(char /*c*/) {}
+};
+
+bool isText(const std::string& bytes) {
+    if (bytes.find('\0') != std::string::npos) {
+        return false;
+    }
+    rapidjson::MemoryStream stream(bytes.data(), bytes.size());
+    Nowhere nowhere;
+    while (stream.Tell() < bytes.size()) {
+        if (!rapidjson::UTF8<>::Validate(stream, nowhere)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+class DumpWriter {
+public:
+    DumpWriter(ReaderStore& store, const std::set<unsigned long long>& selected,
+               std::string& out)
+        : store_(store), selected_(selected), gzip_(out, kMaxDumpSize), json_(gzip_) {}
+
+    void write(const std::vector<BookEntry>& books);
+
+private:
+    void book(const BookEntry& book);
+    void note(std::int64_t id);
+    void tag(const TagRecord& tag);
+
+    void key(const std::string& name) { json_.Key(name.data(), length(name)); }
+    void string(const std::string& text) { json_.String(text.data(), length(text)); }
+    void bytes(const std::string& name, const std::string& value);
+    static rapidjson::SizeType length(const std::string& text) {
+        return static_cast<rapidjson::SizeType>(text.size());
+    }
+
+    ReaderStore& store_;
+    const std::set<unsigned long long>& selected_;
+    GzipWriter gzip_;
+    JsonWriter<GzipWriter> json_;
+};
+
+void DumpWriter::write(const std::vector<BookEntry>& books) {
+    json_.StartObject();
+    key("format");
+    json_.String(kFormatName);
+    key("version");
+    json_.Int(kFormatVersion);
+    key("books");
+    json_.StartArray();
+    for (const BookEntry& entry : books) {
+        book(entry);
+    }
+    json_.EndArray();
+    json_.EndObject();
+    gzip_.finish();
+}
+
+void DumpWriter::book(const BookEntry& book) {
+    json_.StartObject();
+    bytes("fast_hash", book.fastHash);
+    bytes("title", book.title);
+    bytes("path", book.path);
+    key("notes");
+    json_.StartArray();
+    for (const std::int64_t id : store_.noteIdsByCreation(book.id)) {
+        if (selected_.empty() || selected_.count(static_cast<unsigned long long>(id)) > 0) {
+            note(id);
+        }
+    }
+    json_.EndArray();
+    json_.EndObject();
+}
+
+void DumpWriter::note(std::int64_t id) {
+    const NoteRecord note = store_.note(id).value();
+    json_.StartObject();
+    bytes("uuid", note.uuid);
+    key("tags");
+    json_.StartArray();
+    for (const TagRecord& record : note.tags) {
+        tag(record);
+    }
+    json_.EndArray();
+    json_.EndObject();
+}
+
+void DumpWriter::tag(const TagRecord& tag) {
+    json_.StartObject();
+    key("tag");
+    json_.Int(tag.tag);
+    bytes("text", tag.text);
+    if (tag.json && isJson(*tag.json)) {
+        key("json");
+        string(*tag.json);
+    }
+    key("timestamp");
+    json_.Int64(tag.timestamp);
+    json_.EndObject();
+}
+
+void DumpWriter::bytes(const std::string& name, const std::string& value) {
+    if (isText(value)) {
+        key(name);
+        string(value);
+        return;
+    }
+    key(name + kBase64Suffix);
+    gzip_.beginNoise();
+    string(encodeBase64(value));
+    gzip_.endNoise();
+}
+
+std::vector<BookEntry> findBooks(ReaderStore& store,
+                                 const std::set<unsigned long long>& ids) {
+    std::vector<BookEntry> found;
+    for (const unsigned long long id : ids) {
+        if (auto book = store.findBook(static_cast<std::int64_t>(id))) {
+            found.push_back(std::move(*book));
+        }
+    }
+    std::sort(found.begin(), found.end(), [](const BookEntry& a, const BookEntry& b) {
+        return a.fastHash < b.fastHash;
+    });
+    return found;
+}
+
+}  // namespace
+
+bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
+               const std::set<unsigned long long>& notes, std::string& out) {
+    bool any = false;
+    store.readTogether([&] {
+        const std::vector<BookEntry> found = findBooks(store, books);
+        any = !found.empty();
+        if (any) {
+            DumpWriter(store, notes, out).write(found);
+        }
+    });
+    return any;
+}
+
+}  // namespace host

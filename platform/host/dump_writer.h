@@ -1,0 +1,20 @@
+// Writes the dump of some books of the reader database.
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "reader_store.h"
+
+namespace host {
+
+// Appends to `out` the dump (dump_format.h) of the books with the identifiers `books`, with
+// those of their notes that `notes` names, or all when it is empty. Identifiers of nothing
+// are ignored. Only one note at a time is held in memory. The same records give the same
+// bytes, whatever the row identifiers are. Returns false when there is none of the books.
+// Throws std::runtime_error when the database cannot be read or the dump exceeds its
+// largest size. `out` is unspecified in both cases.
+bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
+               const std::set<unsigned long long>& notes, std::string& out);
+
+}  // namespace host

@@ -1,0 +1,26 @@
+#include "readerlib/database.h"
+
+#include <stdexcept>
+
+#include "reader_database_state.h"
+
+namespace SqliteCpp {
+
+DB::DB() = default;
+DB::~DB() = default;
+
+}  // namespace SqliteCpp
+
+namespace Veloran::ReaderLib {
+
+bool DataBase::open(std::string& path) {
+    state.reset();
+    try {
+        state = std::make_unique<State>(State{host::ReaderStore(path)});
+    } catch (const std::runtime_error&) {  // the result says it; the file may be anything
+        return false;
+    }
+    return true;
+}
+
+}  // namespace Veloran::ReaderLib

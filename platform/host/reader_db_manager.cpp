@@ -1,0 +1,115 @@
+#include "utilities/reader_db_manager.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+
+#include "device_paths.h"
+#include "note_json.h"
+#include "note_tags.h"
+#include "reader_store.h"
+
+namespace veloran::utilities {
+
+struct Sqlite::Connection {
+    host::ReaderStore store{host::kReaderDatabasePath};
+};
+
+void Sqlite::close() {
+    delete handle_;
+    handle_ = nullptr;
+}
+
+namespace {
+
+host::ReaderStore& connected(Sqlite& connection) {
+    if (connection.handle() == nullptr) {
+        connection.setHandle(new Sqlite::Connection);
+    }
+    return connection.handle()->store;
+}
+
+// A note's key is its identifier in decimal; 0, which no note has, for any other text.
+std::int64_t noteIdOf(const std::string& key) {
+    std::int64_t id = 0;
+    const char* end = key.data() + key.size();
+    return std::from_chars(key.data(), end, id).ptr == end ? id : 0;
+}
+
+std::time_t toTime(std::int64_t seconds) {
+    using Limits = std::numeric_limits<std::time_t>;
+    return static_cast<std::time_t>(
+        std::clamp<std::int64_t>(seconds, Limits::min(), Limits::max()));
+}
+
+void setTag(Note& note, host::TagRecord& record) {
+    Note::Value& value = note.tags[Note::Tag{record.tag}];
+    value.str = std::move(record.text);
+    if (record.json) {
+        value.json = host::parseJson(*record.json);
+    }
+    value.timestamp = toTime(record.timestamp);
+}
+
+// A note is known by its uuid even when it came without the tag that repeats it.
+void setUuid(Note& note, const std::string& uuid) {
+    const auto [tag, added] = note.tags.try_emplace(Note::Tag::Uuid);
+    if (added) {
+        tag->second.str = uuid;
+        tag->second.timestamp = 0;
+    }
+}
+
+}  // namespace
+
+ReaderDbManager::ReaderDbManager() = default;
+
+long long ReaderDbManager::getItemId(const std::string& bookHash) {
+    const auto book = connected(connection_).findBook(bookHash);
+    return book ? book->id : -1;
+}
+
+std::vector<Book> ReaderDbManager::getBookByFastHash(const std::string& bookHash) {
+    const auto entry = connected(connection_).findBook(bookHash);
+    if (!entry) {
+        return {};
+    }
+    Book book;
+    book.unread1 = entry->id;
+    book.title = entry->title;
+    book.path = entry->path;
+    return {book};
+}
+
+std::string ReaderDbManager::getBookFastHashById(long long itemId) {
+    const auto book = connected(connection_).findBook(std::int64_t{itemId});
+    return book ? book->fastHash : std::string();
+}
+
+std::vector<std::pair<std::string, unsigned long long>>
+ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*/) {
+    std::vector<std::pair<std::string, unsigned long long>> keys;
+    host::ReaderStore& store = connected(connection_);
+    if (const auto book = store.findBook(bookHash)) {
+        for (const std::int64_t id : store.noteIds(book->id)) {
+            keys.emplace_back(std::to_string(id), static_cast<unsigned long long>(id));
+        }
+    }
+    return keys;
+}
+
+Note ReaderDbManager::getNote(const std::string& noteKey) {
+    const std::int64_t id = noteIdOf(noteKey);
+    Note note;
+    if (auto record = connected(connection_).note(id)) {
+        for (host::TagRecord& tag : record->tags) {
+            setTag(note, tag);
+        }
+        setUuid(note, record->uuid);
+        note.noteId = static_cast<unsigned long long>(id);
+    }
+    return note;
+}
+
+}  // namespace veloran::utilities

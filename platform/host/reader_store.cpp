@@ -1,0 +1,137 @@
+#include "reader_store.h"
+
+#include "connection.h"
+#include "note_tags.h"
+
+namespace host {
+namespace {
+
+// A table with row identifiers suits tags better than one without: pictures are far larger
+// than a page.
+constexpr Schema kSchema = {1, R"(
+    CREATE TABLE books (
+        id INTEGER PRIMARY KEY,
+        fast_hash TEXT NOT NULL UNIQUE CHECK (fast_hash <> ''),
+        title TEXT NOT NULL,
+        path TEXT NOT NULL);
+    CREATE TABLE notes (
+        id INTEGER PRIMARY KEY,
+        book_id INTEGER NOT NULL REFERENCES books (id),
+        uuid TEXT NOT NULL CHECK (uuid <> ''),
+        UNIQUE (book_id, uuid));
+    CREATE TABLE tags (
+        note_id INTEGER NOT NULL REFERENCES notes (id),
+        tag INTEGER NOT NULL,
+        text BLOB NOT NULL,
+        json TEXT,
+        timestamp INTEGER NOT NULL,
+        PRIMARY KEY (note_id, tag));
+)"};
+
+BookEntry bookEntry(Query& row) {
+    return {row.integer(0), row.bytes(1), row.bytes(2), row.bytes(3)};
+}
+
+std::optional<BookEntry> firstBook(Query&& rows) {
+    if (!rows.next()) {
+        return std::nullopt;
+    }
+    return bookEntry(rows);
+}
+
+std::vector<std::int64_t> identifiers(Query&& rows) {
+    std::vector<std::int64_t> ids;
+    while (rows.next()) {
+        ids.push_back(rows.integer(0));
+    }
+    return ids;
+}
+
+TagRecord tagRecord(Query& row) {
+    TagRecord record;
+    record.tag = static_cast<std::int32_t>(row.integer(1));
+    record.text = row.bytes(2);
+    if (!row.isNull(3)) {
+        record.json = row.bytes(3);
+    }
+    record.timestamp = row.integer(4);
+    return record;
+}
+
+}  // namespace
+
+ReaderStore::ReaderStore(const std::string& path)
+    : connection_(std::make_unique<Connection>(path, kSchema)) {}
+
+ReaderStore::~ReaderStore() = default;
+ReaderStore::ReaderStore(ReaderStore&&) noexcept = default;
+ReaderStore& ReaderStore::operator=(ReaderStore&&) noexcept = default;
+
+std::vector<BookEntry> ReaderStore::books() {
+    Query rows = connection_->query(
+        "SELECT id, fast_hash, title, path FROM books ORDER BY fast_hash");
+    std::vector<BookEntry> found;
+    while (rows.next()) {
+        found.push_back(bookEntry(rows));
+    }
+    return found;
+}
+
+std::optional<BookEntry> ReaderStore::findBook(const std::string& fastHash) {
+    return firstBook(connection_->query(
+        "SELECT id, fast_hash, title, path FROM books WHERE fast_hash = ?", fastHash));
+}
+
+std::optional<BookEntry> ReaderStore::findBook(std::int64_t id) {
+    return firstBook(connection_->query(
+        "SELECT id, fast_hash, title, path FROM books WHERE id = ?", id));
+}
+
+std::vector<std::int64_t> ReaderStore::noteIds(std::int64_t bookId) {
+    return identifiers(
+        connection_->query("SELECT id FROM notes WHERE book_id = ? ORDER BY id", bookId));
+}
+
+std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
+    return identifiers(connection_->query(
+        "SELECT id FROM notes LEFT JOIN tags ON note_id = id AND tag = ? "
+        "WHERE book_id = ? ORDER BY timestamp, uuid",
+        std::int64_t{kUuidTag}, bookId));
+}
+
+std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
+    // A note without tags still gives one row, whose tag is null.
+    Query rows = connection_->query(
+        "SELECT uuid, tag, text, json, timestamp FROM notes LEFT JOIN tags ON note_id = id "
+        "WHERE id = ? ORDER BY tag",
+        noteId);
+    std::optional<NoteRecord> record;
+    while (rows.next()) {
+        if (!record) {
+            record.emplace().uuid = rows.bytes(0);
+        }
+        if (!rows.isNull(1)) {
+            record->tags.push_back(tagRecord(rows));
+        }
+    }
+    return record;
+}
+
+std::vector<BookRecord> ReaderStore::records() {
+    std::vector<BookRecord> all;
+    readTogether([&] {
+        for (BookEntry& book : books()) {
+            all.push_back({book.fastHash, book.title, book.path, {}});
+            for (const std::int64_t id : noteIdsByCreation(book.id)) {
+                all.back().notes.push_back(note(id).value());
+            }
+        }
+    });
+    return all;
+}
+
+void ReaderStore::readTogether(const std::function<void()>& work) {
+    connection_->read(work);
+}
+
+}  // namespace host
