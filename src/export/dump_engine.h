@@ -1,0 +1,9 @@
+// The configuration of the import/export engine: what one side writes, the other reads.
+#pragma once
+
+namespace veloran {
+
+inline constexpr unsigned long long kEngineLimit = 10;
+inline constexpr int kEngineMode = 3;
+
+}  // namespace veloran

@@ -1,0 +1,30 @@
+// The members of the note record that the device's library leaves to its users.
+#include <type_traits>
+
+#include "utilities/note.h"
+
+namespace veloran::utilities {
+
+// Notes move through containers with their pictures; a throwing move would copy them.
+static_assert(std::is_nothrow_move_constructible_v<Note>);
+
+Note::Value::Value() : timestamp(std::time(nullptr)) {}
+
+Note::Value::Value(const Value& other) = default;
+
+Note::Value::~Value() = default;
+
+const Note::Value& Note::operator[](Tag tag) const {
+    static const Value def;
+    const auto entry = tags.find(tag);
+    return entry == tags.end() ? def : entry->second;
+}
+
+std::string Note::uuid() const { return (*this)[Tag::Uuid].str; }
+
+std::string Note::getAnchorUri() const {
+    std::string anchor = getJsonTagElement(Tag::Anchor, "anchor");
+    return anchor.empty() ? getJsonTagElement(Tag::Range, "begin") : anchor;
+}
+
+}  // namespace veloran::utilities
