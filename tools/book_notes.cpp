@@ -1,0 +1,21 @@
+#include "book_notes.h"
+
+#include "complaint.h"
+#include "utilities/reader_db_manager.h"
+
+void complainAboutUnknownBook(const std::string& hash) {
+    throw Complaint("No book has the hash " + hash +
+                    ". \"notes-export books\" lists them.");
+}
+
+std::vector<veloran::utilities::Note> notesOf(const std::string& hash) {
+    veloran::utilities::ReaderDbManager readerDb;
+    if (readerDb.getItemId(hash) == -1) {
+        complainAboutUnknownBook(hash);
+    }
+    std::vector<veloran::utilities::Note> notes;
+    for (const auto& key : readerDb.getBookNotesHashUUIDs(hash, true)) {
+        notes.push_back(readerDb.getNote(key.first));
+    }
+    return notes;
+}

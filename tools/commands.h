@@ -1,0 +1,36 @@
+// The client's commands. Each prints its results on standard output, one a line, and
+// reports what went wrong as an exception.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// Puts the books, notes and style sheet of a device file on the device. Prints how many
+// notes were added or changed.
+void load(const std::string& file);
+
+// Prints hash, title and author of every book, separated by tabs.
+void listBooks();
+
+// Prints identifier, page, colour and text of every note of the book, separated by tabs.
+void listNotes(const std::string& hash);
+
+enum class Order { Page, Id, Newest };
+
+struct ExportRequest {
+    std::string hash;
+    std::vector<unsigned long long> noteIds;  // empty: every note
+    Order order = Order::Page;
+    std::string directory;     // for the file; empty: the device's own
+    std::string deviceFolder;  // what a relative path that is printed is relative to
+};
+
+// Exports the book's notes and prints the path of the file.
+void exportNotes(const ExportRequest& request);
+
+// Prints the path of the file that an export would write; of the request, only the book,
+// the folders count.
+void printName(const ExportRequest& request);
+
+// Imports an exported file. Prints how many notes were added or changed.
+void importNotes(const std::string& file);

@@ -1,0 +1,21 @@
+// The library's handle, held through its C interface.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "notes_export/notes_export.h"
+
+class Exporter {
+public:
+    // An empty directory leaves the device's own.
+    explicit Exporter(const std::string& directory = {});
+
+    // The path of the file that an export of the book would write now.
+    std::string fileName(const std::string& hash) const;
+
+    notes_exporter* handle() const { return handle_.get(); }
+
+private:
+    std::unique_ptr<notes_exporter, decltype(&free_notes_exporter)> handle_;
+};

@@ -1,0 +1,37 @@
+#include <iostream>
+
+#include "commands.h"
+#include "complaint.h"
+#include "exporter.h"
+#include "import_result.h"
+
+namespace {
+
+std::string reason(int result) {
+    switch (result) {
+        case host::kFileUnreadable:
+            return "it cannot be read. Is it there, and a file?";
+        case host::kNoDump:
+            return "it carries no records. Was it exported by this library?";
+        case host::kDumpDamaged:
+            return "its records are damaged. Fetch the file again, byte for byte.";
+        case host::kVersionUnknown:
+            return "its records are of a version that this program does not know. Update "
+                   "it.";
+        case host::kDatabaseError:
+            return "the reader database cannot be written. Is it in use, is there room?";
+        default:
+            return "the library failed with " + std::to_string(result) + ".";
+    }
+}
+
+}  // namespace
+
+void importNotes(const std::string& file) {
+    const Exporter exporter;
+    const int result = notes_exporter_import_from_file(exporter.handle(), file.c_str());
+    if (result < 0) {
+        throw Complaint("Nothing was imported from " + file + ": " + reason(result));
+    }
+    std::cout << result << '\n';
+}
