@@ -8,11 +8,15 @@ void complainAboutUnknownBook(const std::string& hash) {
                     ". \"notes-export books\" lists them.");
 }
 
-std::vector<veloran::utilities::Note> notesOf(const std::string& hash) {
-    veloran::utilities::ReaderDbManager readerDb;
-    if (readerDb.getItemId(hash) == -1) {
+void complainUnlessKnown(const std::string& hash) {
+    if (veloran::utilities::ReaderDbManager().getItemId(hash) == -1) {
         complainAboutUnknownBook(hash);
     }
+}
+
+std::vector<veloran::utilities::Note> notesOf(const std::string& hash) {
+    complainUnlessKnown(hash);
+    veloran::utilities::ReaderDbManager readerDb;
     std::vector<veloran::utilities::Note> notes;
     for (const auto& key : readerDb.getBookNotesHashUUIDs(hash, true)) {
         notes.push_back(readerDb.getNote(key.first));

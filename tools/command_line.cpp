@@ -1,6 +1,7 @@
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <charconv>
 #include <filesystem>
 #include <functional>
 
@@ -17,6 +18,16 @@ void makeAbsolute(std::string& path) {
     if (!path.empty()) {
         path = fs::absolute(path).string();
     }
+}
+
+// Stricter than the parser, which takes signs and octal numbers and lets large ones wrap.
+std::string isIdentifier(const std::string& text) {
+    unsigned long long id = 0;
+    const char* end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, id);
+    return parsed.ec == std::errc() && parsed.ptr == end && text[0] != '0'
+               ? std::string()
+               : text + " is not the identifier of a note";
 }
 
 class CommandLine {
@@ -99,8 +110,6 @@ void CommandLine::addListCommands() {
 }
 
 void CommandLine::addExportCommands() {
-    static const std::map<std::string, Order> orders{
-        {"page", Order::Page}, {"id", Order::Id}, {"newest", Order::Newest}};
     CLI::App* exporting =
         addCommand("export", "Export a book's notes and print the path of the file",
                    Device::MustExist, [this] { exportNotes(request_); });
@@ -108,11 +117,12 @@ void CommandLine::addExportCommands() {
     exporting
         ->add_option("--note", request_.noteIds, "Export only this note; may be repeated")
         ->type_name("ID")
-        ->allow_extra_args(false);
+        ->allow_extra_args(false)
+        ->check(isIdentifier);
     exporting
         ->add_option("--order", request_.order, "Order of the notes: page, id or newest")
         ->type_name("ORDER")
-        ->transform(CLI::CheckedTransformer(orders).description(""));
+        ->check(CLI::IsMember({"page", "id", "newest"}));
     addDirectory(exporting);
 
     CLI::App* naming =

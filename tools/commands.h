@@ -15,13 +15,11 @@ void listBooks();
 // Prints identifier, page, colour and text of every note of the book, separated by tabs.
 void listNotes(const std::string& hash);
 
-enum class Order { Page, Id, Newest };
-
 struct ExportRequest {
     std::string hash;
     std::vector<unsigned long long> noteIds;  // empty: every note
-    Order order = Order::Page;
-    std::string directory;     // for the file; empty: the device's own
+    std::string order;                        // "id" or "newest"; else by page
+    std::string directory;                    // for the file; empty: the device's own
     std::string deviceFolder;  // what a relative path that is printed is relative to
 };
 

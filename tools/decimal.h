@@ -2,11 +2,13 @@
 #pragma once
 
 #include <charconv>
+#include <limits>
 #include <string>
 
-// The shortest text that reads back as `number`.
+// The shortest decimal text without an exponent that reads back as `number`.
 inline std::string decimal(double number) {
-    char digits[32];
-    char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    char digits[std::numeric_limits<double>::max_exponent10 + 400];
+    char* end =
+        std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed).ptr;
     return {digits, end};
 }

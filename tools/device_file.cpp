@@ -29,10 +29,14 @@ Json::Value parse(const std::string& text, const std::string& path) {
     const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
     Json::Value json;
     std::string errors;
-    if (!reader->parse(text.data(), text.data() + text.size(), &json, &errors)) {
-        throw Complaint(path + " is not JSON:\n" + errors);
+    try {
+        if (reader->parse(text.data(), text.data() + text.size(), &json, &errors)) {
+            return json;
+        }
+    } catch (const Json::Exception& error) {  // nested too deep
+        errors = error.what();
     }
-    return json;
+    throw Complaint(path + " is not JSON that a device file may hold:\n" + errors);
 }
 
 // Puts the tags of one note together; an empty text or JSON gives no tag.

@@ -43,16 +43,16 @@ void checkThatNotesExist(const ExportRequest& request, const std::vector<Note>& 
 }
 
 int callLibrary(const Exporter& exporter, const ExportRequest& request, Timestamps& times) {
-    const notes_exporter_before before = request.order == Order::Id       ? byId
-                                         : request.order == Order::Newest ? byNewest
-                                                                          : nullptr;
+    const notes_exporter_before before = request.order == "id"       ? byId
+                                         : request.order == "newest" ? byNewest
+                                                                     : nullptr;
     return notes_exporter_export_bookmarks_to_html(exporter.handle(), request.hash.c_str(),
                                                    request.noteIds.data(),
                                                    request.noteIds.size(), before, &times);
 }
 
 // The library does not report what became of the file.
-void checkThatFileIsWhole(const std::string& path) {
+void checkThatFileIsWhole(const std::string& path, const std::string& shownPath) {
     constexpr char kEnd[] = "</html>";
     constexpr std::streamoff kLength = sizeof kEnd - 1;
     std::ifstream file(path, std::ios::binary);
@@ -60,13 +60,14 @@ void checkThatFileIsWhole(const std::string& path) {
     char end[sizeof kEnd] = {};
     file.read(end, kLength);
     if (!file || std::string(end) != kEnd) {
-        throw Complaint("Could not write all of " + path +
-                        ": is there room, and may you write there?");
+        throw Complaint("Could not write all of " + shownPath +
+                        ": is there room, may you write there, is the title too long?");
     }
 }
 
-void print(const ExportRequest& request, const std::string& path) {
-    std::cout << (std::filesystem::path(request.deviceFolder) / path).string() << '\n';
+// The path as the caller of the client can use it.
+std::string shown(const ExportRequest& request, const std::string& path) {
+    return (std::filesystem::path(request.deviceFolder) / path).string();
 }
 
 }  // namespace
@@ -80,10 +81,11 @@ void exportNotes(const ExportRequest& request) {
     if (callLibrary(exporter, request, times) != 0) {
         complainAboutUnknownBook(request.hash);
     }
-    checkThatFileIsWhole(path);
-    print(request, path);
+    checkThatFileIsWhole(path, shown(request, path));
+    std::cout << shown(request, path) << '\n';
 }
 
 void printName(const ExportRequest& request) {
-    print(request, Exporter(request.directory).fileName(request.hash));
+    complainUnlessKnown(request.hash);
+    std::cout << shown(request, Exporter(request.directory).fileName(request.hash)) << '\n';
 }

@@ -5,11 +5,15 @@
 
 #include "complaint.h"
 
-std::string readFile(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path)) {
+void complainUnlessReadable(const std::filesystem::path& path) {
+    if (!std::ifstream(path) || std::filesystem::is_directory(path)) {
         throw Complaint("Cannot read " + path.string() + ": is it there, and a file?");
     }
+}
+
+std::string readFile(const std::filesystem::path& path) {
+    complainUnlessReadable(path);
+    std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 

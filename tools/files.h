@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+void complainUnlessReadable(const std::filesystem::path& path);
+
 std::string readFile(const std::filesystem::path& path);
 
 // Creates the missing folders that lead to it.

@@ -3,16 +3,21 @@
 #include "commands.h"
 #include "complaint.h"
 #include "exporter.h"
+#include "files.h"
 #include "import_result.h"
 
 namespace {
 
+// The library's own result; the import engine has others for its failures.
+constexpr int kException = -1;
+
 std::string reason(int result) {
     switch (result) {
         case host::kFileUnreadable:
-            return "it cannot be read. Is it there, and a file?";
+            return "it cannot be read to its end.";
         case host::kNoDump:
-            return "it carries no records. Was it exported by this library?";
+            return "it carries no records. Was it exported by this library, and the book "
+                   "not too large?";
         case host::kDumpDamaged:
             return "its records are damaged. Fetch the file again, byte for byte.";
         case host::kVersionUnknown:
@@ -28,8 +33,14 @@ std::string reason(int result) {
 }  // namespace
 
 void importNotes(const std::string& file) {
+    complainUnlessReadable(file);  // before the exporter makes a device for it
     const Exporter exporter;
     const int result = notes_exporter_import_from_file(exporter.handle(), file.c_str());
+    if (result == kException) {
+        throw Complaint("The import of " + file +
+                        " failed part-way: its notes may be in, but the file could not be "
+                        "marked. Is the library database in use, is there room?");
+    }
     if (result < 0) {
         throw Complaint("Nothing was imported from " + file + ": " + reason(result));
     }

@@ -8,12 +8,6 @@
 #include "reader_store.h"
 #include "utilities/serialization_utils.h"
 
-namespace {
-
-constexpr char kNoteStyleSheet[] = NOTES_EXPORT_DEVICE_ROOT "/system/reader/notes.css";
-
-}  // namespace
-
 void load(const std::string& file) {
     using veloran::utilities::SerializationUtils;
     DeviceFile device = readDeviceFile(file);
@@ -26,7 +20,7 @@ void load(const std::string& file) {
         records.push_back(std::move(record));
     }
     if (!device.styleSheet.empty()) {
-        writeFile(kNoteStyleSheet, device.styleSheet);
+        writeFile(host::kNoteStyleSheetPath, device.styleSheet);
     }
     std::cout << host::ReaderStore(host::kReaderDatabasePath).merge(records) << '\n';
 }

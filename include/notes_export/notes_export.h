@@ -6,7 +6,7 @@
  *
  * 1. A handle is opaque. new_notes_exporter makes it, free_notes_exporter ends it, and in
  *    between it serves any number of calls in any order. Each handle has its own export
- *    directory; handles share nothing.
+ *    directory; handles share nothing but the device's databases.
  * 2. Text is a sequence of bytes that ends with a zero byte, UTF-8 by convention. It is
  *    copied before the function returns: the caller keeps what it passed, and frees it.
  * 3. A pointer may be null only where its function says so.
@@ -25,11 +25,12 @@
  *
  * Example: export all notes of a book in page order, then import the file.
  *
- *     notes_exporter *exporter = new_notes_exporter();
- *     char path[1024];
- *     notes_exporter_get_exported_file_name(exporter, path, sizeof path, book_hash);
- *     if (notes_exporter_export_bookmarks_to_html(exporter, book_hash, NULL, 0, NULL, NULL)
- * == 0) notes_exporter_import_from_file(exporter, path); free_notes_exporter(exporter);
+ *     char path[4096] = "";
+ *     notes_exporter* exporter = new_notes_exporter();
+ *     notes_exporter_get_exported_file_name(exporter, path, sizeof path - 1, hash);
+ *     notes_exporter_export_bookmarks_to_html(exporter, hash, NULL, 0, NULL, NULL);
+ *     notes_exporter_import_from_file(exporter, path);
+ *     free_notes_exporter(exporter);
  */
 #ifndef NOTES_EXPORT_NOTES_EXPORT_H
 #define NOTES_EXPORT_NOTES_EXPORT_H
@@ -85,7 +86,7 @@ NOTES_EXPORT_API void notes_exporter_set_export_dir(notes_exporter* exporter,
 /*
  * Writes notes of one book into a new XHTML file under the export directory, creating
  * missing directories, and marks the file in the device's library database. The file is
- * named after the book's title; a file that exists is never overwritten.
+ * named after the book's title; a name that is taken when the export begins gets a counter.
  *
  * exporter   the handle; not null
  * book_hash  the book; not null

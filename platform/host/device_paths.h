@@ -1,4 +1,4 @@
-// Where the device keeps its databases.
+// Where the device keeps its databases and the style sheet of exported notes.
 #pragma once
 
 #ifndef NOTES_EXPORT_DEVICE_ROOT
@@ -13,5 +13,7 @@ inline constexpr const char* kReaderDatabasePath =
     NOTES_EXPORT_DEVICE_ROOT "/system/config/books.db";
 inline constexpr const char* kLibraryDatabasePath =
     NOTES_EXPORT_DEVICE_ROOT "/system/config/library.db";
+inline constexpr const char* kNoteStyleSheetPath =
+    NOTES_EXPORT_DEVICE_ROOT "/system/reader/notes.css";
 
 }  // namespace host

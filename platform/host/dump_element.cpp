@@ -171,8 +171,7 @@ xmlSAXHandler DumpFinder::handlers() {
 int DumpFinder::read(void* self, char* buffer, int size) {
     DumpFinder& finder = *static_cast<DumpFinder*>(self);
     if (finder.hasTooManyAttributes()) {
-        finder.failure_ = std::make_exception_ptr(DumpError(kNoDump, "this is no export"));
-        return -1;  // to stop the parser is not allowed here
+        return -1;  // ends the document for the parser
     }
     finder.file_.read(buffer, size);
     return finder.file_.bad() ? -1 : static_cast<int>(finder.file_.gcount());

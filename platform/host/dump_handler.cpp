@@ -171,7 +171,7 @@ std::string* DumpHandler::destination() {
 }
 
 bool DumpHandler::number(std::int64_t value) {
-    switch (field_) {
+    switch (std::exchange(field_, Field::kNone)) {
         case Field::kVersion:
             return version(value);
         case Field::kTag:

@@ -15,7 +15,7 @@ class GzipWriter {
 public:
     using Ch = char;
 
-    // Appends to `out`. At most `limit` bytes of input, give or take a block.
+    // Appends to `out`. At most `limit` bytes of input.
     GzipWriter(std::string& out, std::size_t limit);
     ~GzipWriter();
     GzipWriter(const GzipWriter&) = delete;

@@ -6,7 +6,7 @@
 
 namespace host {
 
-// Pieces of any size but empty ones, taken off the front and released as they are used: the
+// Pieces of any size, taken off the front and released as they are used: the
 // records grow as the payload shrinks.
 using Payload = std::deque<std::string>;
 

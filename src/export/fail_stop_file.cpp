@@ -16,12 +16,6 @@ std::streamsize FailStopFilebuf::xsputn(const char* bytes, std::streamsize count
     return written;
 }
 
-int FailStopFilebuf::sync() {
-    const int result = failed_ ? -1 : std::filebuf::sync();
-    failed_ = result != 0;
-    return result;
-}
-
 FailStopFile::FailStopFile(const std::string& path) : std::ostream(nullptr) {
     rdbuf(&buffer_);
     imbue(std::locale::classic());  // a global locale may convert bytes on their way out

@@ -17,7 +17,6 @@ public:
 protected:
     int_type overflow(int_type byte) override;
     std::streamsize xsputn(const char* bytes, std::streamsize count) override;
-    int sync() override;
 
 private:
     bool failed_ = false;

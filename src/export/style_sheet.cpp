@@ -13,10 +13,7 @@ namespace {
 constexpr char kOpening[] = "<!--/*--><![CDATA[/*><!--*/\n";
 constexpr char kClosing[] = "\n/*]]>*/-->";
 
-void copyFile(const char* path, Writer& writer) {
-    std::ifstream file;
-    file.imbue(std::locale::classic());
-    file.open(path);
+void copy(std::istream& file, Writer& writer) {
     std::array<char, 1024> block;
     while (file.good()) {
         file.read(block.data(), block.size());
@@ -30,8 +27,12 @@ void copyFile(const char* path, Writer& writer) {
 }  // namespace
 
 int NotesExporterImpl::writeExportCss(Writer& writer) {
+    std::ifstream file;
+    file.imbue(std::locale::classic());  // a global locale may convert bytes
+    file.open(kNoteStyleSheet);
     writer.openElt("style").writeAttr("type", "text/css").writeRaw(kOpening);
-    copyFile(kNoteStyleSheet, writer);
+    copy(file, writer);
+    file.close();
     writer.writeRaw(kClosing).closeElt();
     return 0;
 }

@@ -9,7 +9,8 @@ namespace Veloran::ReaderLib {
 
 class DataBase;
 
-// One engine serves one export or one import, on one thread.
+// One engine serves one export or one import, on one thread. Every member but the
+// destructor may throw exceptions derived from std::exception.
 class ImportExportDBV2 {
 public:
     // An engine on `database`, which it does not own and which must outlive it.

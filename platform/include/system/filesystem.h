@@ -1,4 +1,4 @@
-// Questions about paths and files.
+// Questions about paths and files. Each may throw std::bad_alloc.
 #pragma once
 
 #include <string>

@@ -14,7 +14,7 @@ namespace veloran::utilities {
 
 // A plain value: copied, moved and destroyed freely, shared between threads only while
 // nobody modifies it. Members marked "library" are defined by notes_export; the
-// platform defines the others.
+// platform defines the others. Whatever returns or copies text may throw std::bad_alloc.
 class Note {
 public:
     // What a tagged value says about the note. The platform uses further numbers.
