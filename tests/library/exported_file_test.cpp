@@ -1,0 +1,86 @@
+#include <sys/resource.h>
+
+#include <csignal>
+
+#include "device_test.h"
+
+namespace library_tests {
+namespace {
+
+using ExportedFile = DeviceTest;
+
+Calls callsOfExport() {
+    Exporter exporter;
+    EXPECT_EQ(exporter.exportAll(), 0);
+    return script().calls;
+}
+
+TEST_F(ExportedFile, IsMarkedByAHashThatFitsItsBuffer) {
+    const std::pair<int, std::size_t> cases[] = {
+        // reported and trusted length
+        {-1, 0}, {0, 0}, {1, 1}, {16, 16}, {256, 256}, {257, 0}, {1000, 0}};
+    loadSampleBook();
+    script().hashText = std::string(300, 'h');
+    for (const auto& [reported, trusted] : cases) {
+        script().hashResult = reported;
+        const std::string mark =
+            "DbManager::SetFileProp(" + std::string(trusted, 'h') + ", 7, 2)";
+        EXPECT_EQ(callsOfExport().back(), mark);
+
+        Exporter exporter;
+        EXPECT_EQ(exporter.import_from_file("in.html"), 0);
+        EXPECT_EQ(script().calls.back(), trusted > 0 ? mark : "FastBookHash(in.html, 256)");
+    }
+}
+
+TEST_F(ExportedFile, ThatCannotBeCreatedChangesNoCallButTheMark) {
+    loadSampleBook();
+    Calls expected = callsOfExport();
+    expected.back() = "DbManager::SetFileProp(, 7, 2)";
+    std::filesystem::remove_all("Notes");
+    writeFile("Notes", "not a directory");
+    EXPECT_EQ(joined(callsOfExport()), joined(expected));
+    EXPECT_EQ(readFile("Notes"), "not a directory");
+}
+
+// Limits the size of every file that this process writes.
+void limitFileSize(rlim_t bytes) {
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+TEST_F(ExportedFile, EndsWhereTheDiskWasFullEvenIfThereIsRoomAgain) {
+    loadSampleBook();
+    for (unsigned long long id = 100; id < 400; id++) {
+        scripted::addNote(kBook, {id, "", "", "", "", "", "at 12.9"});
+    }
+    const Calls expected = callsOfExport();
+    const std::string whole = withoutDate(readFile(kFile));
+    const std::string late = "Note(399)::getText()";
+    std::signal(SIGXFSZ, SIG_IGN);
+    for (const auto& [roomAgainAt, throws] :
+         {std::pair(late, false),
+          {late, true},
+          {"FastBookHash(" + kFile + ", 256)", false}}) {
+        std::filesystem::remove(kFile);
+        script().onCall = [&, end = roomAgainAt, fails = throws](const std::string& call) {
+            if (startsWith(call, "oa_buildpath")) {
+                limitFileSize(5000);
+            } else if (call == end) {
+                limitFileSize(RLIM_INFINITY);
+                fails ? throw 42 : 0;
+            }
+        };
+        try {
+            EXPECT_EQ(joined(callsOfExport()), joined(expected));
+        } catch (int) {
+        }
+        EXPECT_EQ(std::filesystem::file_size(kFile), 5000U);
+        EXPECT_TRUE(startsWith(whole, withoutDate(readFile(kFile))));
+    }
+}
+
+}  // namespace
+}  // namespace library_tests

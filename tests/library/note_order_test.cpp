@@ -1,0 +1,153 @@
+#include <algorithm>
+#include <climits>
+#include <functional>
+#include <numeric>
+#include <random>
+
+#include "device_test.h"
+
+namespace library_tests {
+namespace {
+
+using NoteOrder = DeviceTest;
+using Predicate = DeviceTest;
+using Ids = std::vector<unsigned long long>;
+using Before = std::function<bool(long long, long long)>;
+
+constexpr int kNoPage = INT_MIN;
+constexpr unsigned long long k2To63 = 1ULL << 63U;
+
+void addNote(unsigned long long id, int page = kNoPage) {
+    const std::string uri = page == kNoPage ? "" : "at " + std::to_string(page);
+    script().pages["at " + std::to_string(page)] = page;
+    scripted::addNote(kBook, {id, "u", "", "", "", "", uri});
+}
+
+Ids ascendingIds(std::size_t count) {
+    Ids ids(count);
+    std::iota(ids.begin(), ids.end(), 1);
+    return ids;
+}
+
+// A book of notes 1, 2, 3 … on those pages.
+void loadPages(const std::vector<int>& pages) {
+    script() = {};
+    for (const unsigned long long id : ascendingIds(pages.size())) {
+        addNote(id, pages[id - 1]);
+    }
+}
+
+void loadNotes(std::size_t count) { loadPages(std::vector<int>(count, kNoPage)); }
+
+// The identifiers of the notes that are rendered, in order.
+Ids exportedIds(const std::set<unsigned long long>& selected, const Before& before) {
+    written([&](Writer& w) {
+        EXPECT_EQ(Exporter().writeBookmarks(w, kBook, selected, before), 0);
+    });
+    Ids ids;
+    for (const std::string& call : script().calls) {
+        if (call.find("::getColor()") != std::string::npos) {
+            ids.push_back(std::stoull(call.substr(call.find('(') + 1)));
+        }
+    }
+    return ids;
+}
+
+TEST_F(NoteOrder, IsByPageThenAsTheDatabaseHasThem) {
+    const std::pair<std::vector<int>, Ids> cases[] = {
+        {{}, {}},
+        {{12, 0, kNoPage, 0}, {2, 3, 4, 1}},
+        {{-2, 5, -1, INT_MAX, -3, kNoPage}, {3, 6, 2, 4, 5, 1}},
+        {{7, 5, 10, 5, 7, 5}, {2, 4, 6, 1, 5, 3}},
+        {std::vector<int>(100, 4), ascendingIds(100)},
+    };
+    for (const auto& [pages, expected] : cases) {
+        loadPages(pages);
+        EXPECT_EQ(exportedIds({}, nullptr), expected);
+        EXPECT_EQ(script().copiedNotes, 0);
+    }
+}
+
+TEST_F(NoteOrder, SelectsByIdentifierAndAsksNoOtherNote) {
+    const std::pair<std::set<unsigned long long>, Ids> cases[] = {
+        {{}, {5, 4, 3, 2, 1}}, {{2, 4}, {4, 2}}, {{4, 99}, {4}}, {{99}, {}}};
+    loadPages({5, 4, 3, 2, 1});
+    for (const auto& [selected, expected] : cases) {
+        EXPECT_EQ(exportedIds(selected, nullptr), expected);
+        for (const unsigned long long id : ascendingIds(5)) {
+            const std::string asked = "Note(" + std::to_string(id);
+            EXPECT_EQ(joined(script().calls).find(asked) != std::string::npos,
+                      std::count(expected.begin(), expected.end(), id) != 0);
+        }
+    }
+}
+
+TEST_F(Predicate, LeavesEquivalentNotesAsTheDatabaseHasThem) {
+    loadNotes(100);
+    EXPECT_EQ(exportedIds({}, [](auto, auto) { return false; }), ascendingIds(100));
+}
+
+TEST_F(Predicate, GetsLargeIdentifiersAsNegativeNumbersAndNoPages) {
+    int page = 4;
+    for (const unsigned long long id : {ULLONG_MAX, 5ULL, k2To63 - 1, k2To63}) {
+        addNote(id, page--);
+    }
+    EXPECT_EQ(exportedIds({}, std::less<>()), (Ids{k2To63, ULLONG_MAX, 5, k2To63 - 1}));
+    EXPECT_EQ(exportedIds({5, k2To63}, std::greater<>()), (Ids{5, k2To63}));
+}
+
+// Counts the calls of each object, not of its copies.
+struct CountsItself {
+    CountsItself() = default;
+    CountsItself(const CountsItself&) {}
+    bool operator()(long long a, long long b) {
+        scripted::recordCall("before");
+        return calls++, a > b;
+    }
+    int calls = 0;
+};
+
+TEST_F(Predicate, IsCopiedAndAskedOnlyBetweenFetchingAndWriting) {
+    loadNotes(5);
+    const Before before = CountsItself();
+    EXPECT_EQ(exportedIds({}, before), (Ids{5, 4, 3, 2, 1}));
+    EXPECT_EQ(before.target<CountsItself>()->calls, 0);
+
+    const Calls& calls = script().calls;
+    const auto first = std::find(calls.begin(), calls.end(), "before");
+    const auto last = std::find(calls.rbegin(), calls.rend(), "before").base();
+    EXPECT_EQ(*(first - 1), "extractPageFromnURI()");
+    EXPECT_EQ(std::count(first, last, "before"), last - first);
+    EXPECT_EQ(*last, "Note(5)::getColor()");
+}
+
+TEST_F(Predicate, OfAnyConsistencyWritesEveryNoteOnce) {
+    const Before predicates[] = {
+        [](auto, auto) { return true; },
+        [](auto a, auto b) { return (b - a + 3) % 3 == 1; },  // a circle of three
+        [answer = false](auto, auto) mutable { return answer = !answer; },
+        [random = std::mt19937(1)](auto, auto) mutable { return random() % 2 == 0; },
+    };
+    for (const std::size_t size : {0U, 1U, 2U, 3U, 17U, 1000U}) {
+        loadNotes(size);
+        for (const Before& before : predicates) {
+            Ids ids = exportedIds({}, before);
+            std::sort(ids.begin(), ids.end());
+            EXPECT_EQ(ids, ascendingIds(size));
+        }
+    }
+}
+
+TEST_F(Predicate, MayThrowAtAnyCall) {
+    loadNotes(17);
+    for (int calls = 0; calls < 16; calls++) {
+        const auto before = [left = calls](auto a, auto b) mutable {
+            return left-- == 0 ? throw 42 : a > b;
+        };
+        EXPECT_THROW(exportedIds({}, before), int);
+        EXPECT_EQ(exportedIds({2}, before), Ids{2}) << "one note needs no order";
+    }
+}
+
+}  // namespace
+}  // namespace library_tests

@@ -1,0 +1,44 @@
+#include "process.h"
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+std::string quoted(const std::string& word) {
+    std::string result = "'";
+    for (const char byte : word) {
+        result += byte == '\'' ? "'\\''" : std::string(1, byte);
+    }
+    return result + "' ";
+}
+
+}  // namespace
+
+std::string contentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+Outcome run(const std::vector<std::string>& words) {
+    std::string command;
+    for (const std::string& word : words) {
+        command += quoted(word);
+    }
+    const int status = std::system((command + ">.out 2>.err </dev/null").c_str());
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(".out"),
+            contentOf(".err")};
+}

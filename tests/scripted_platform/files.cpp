@@ -1,0 +1,42 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "fast_book_hash.h"
+#include "oa_buildpath.h"
+#include "script.h"
+#include "system/filesystem.h"
+
+using scripted::recordCall;
+using scripted::script;
+
+int FastBookHash(const char* path, char* buffer, int size) {
+    recordCall("FastBookHash(" + std::string(path) + ", " + std::to_string(size) + ")");
+    // What follows the hash is filled, so that reading too far shows.
+    std::fill_n(buffer, size, '#');
+    script().hashText.copy(buffer, static_cast<std::size_t>(size));
+    const auto length = static_cast<int>(script().hashText.size());
+    return script().hashResult.value_or(std::ifstream(path) ? length : 0);
+}
+
+int oa_buildpath(const char* path) {
+    recordCall("oa_buildpath(" + std::string(path) + ")");
+    std::error_code error;
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), error);
+    return error ? -1 : 0;
+}
+
+namespace veloran::system::filesystem {
+
+bool IsFileExist(const std::string& path) {
+    recordCall("IsFileExist(" + path + ")");
+    std::error_code error;
+    return std::filesystem::exists(path, error);
+}
+
+std::string GetFileNameFromPath(const std::string& path) {
+    recordCall("GetFileNameFromPath(" + path + ")");
+    return path.substr(path.rfind('/') + 1);
+}
+
+}  // namespace veloran::system::filesystem

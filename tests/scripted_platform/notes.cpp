@@ -1,0 +1,68 @@
+#include "script.h"
+
+using scripted::recordCall;
+using scripted::script;
+using veloran::utilities::Note;
+
+namespace {
+
+// This platform's own tags.
+constexpr auto kColor = static_cast<Note::Tag>(201);
+constexpr auto kText = static_cast<Note::Tag>(202);
+constexpr auto kImage = static_cast<Note::Tag>(203);
+constexpr auto kComment = static_cast<Note::Tag>(204);
+
+void recordNoteCall(const Note& note, const std::string& call) {
+    recordCall("Note(" + std::to_string(note.noteId) + ")::" + call);
+}
+
+std::string textOf(const Note& note, Note::Tag tag, const std::string& getter) {
+    recordNoteCall(note, getter + "()");
+    return note[tag].str;
+}
+
+}  // namespace
+
+namespace scripted {
+
+Note makeNote(const NoteFields& fields) {
+    Note note;
+    note.noteId = fields.id;
+    note.tags[Note::Tag::Uuid].str = fields.uuid;
+    note.tags[Note::Tag::Anchor].json.emplace()["anchor"] = fields.anchor;
+    note.tags[Note::Tag::Range].json.emplace()["begin"] = fields.begin;
+    note.tags[kColor].str = fields.color;
+    note.tags[kText].str = fields.text;
+    note.tags[kImage].str = fields.image;
+    note.tags[kComment].str = fields.comment;
+    return note;
+}
+
+void addNote(const std::string& bookHash, const NoteFields& fields) {
+    const std::string key = "key-" + std::to_string(fields.id);
+    script().noteKeys[bookHash].push_back(key);
+    script().notes[key] = makeNote(fields);
+}
+
+}  // namespace scripted
+
+namespace veloran::utilities {
+
+std::string Note::getJsonTagElement(Tag tag, const std::string& key) const {
+    recordNoteCall(*this, "getJsonTagElement(" +
+                              std::to_string(static_cast<std::int32_t>(tag)) + ", " + key +
+                              ")");
+    const auto& json = (*this)[tag].json;
+    return json ? json->get(key, "").asString() : "";
+}
+
+std::string Note::getColor() const {
+    script().copiedNotes += script().fetchedRecords.count(&(*this)[Tag::Uuid]) == 0 ? 1 : 0;
+    return textOf(*this, kColor, "getColor");
+}
+
+std::string Note::getText() const { return textOf(*this, kText, "getText"); }
+std::string Note::getImage() const { return textOf(*this, kImage, "getImage"); }
+std::string Note::getNote() const { return textOf(*this, kComment, "getNote"); }
+
+}  // namespace veloran::utilities

@@ -1,0 +1,65 @@
+#include "utilities/reader_db_manager.h"
+
+#include <memory>
+
+#include "script.h"
+
+using scripted::found;
+using scripted::recordCall;
+using scripted::recordRelease;
+using scripted::script;
+
+namespace veloran::utilities {
+
+struct Sqlite::Connection {};
+
+void Sqlite::close() {
+    recordRelease("Sqlite::close()");
+    delete handle_;
+    handle_ = nullptr;
+    script().openHandles--;
+}
+
+ReaderDbManager::ReaderDbManager() {
+    recordCall("ReaderDbManager::ReaderDbManager()");
+    const std::shared_ptr<void> stored(
+        nullptr, [](void*) { recordRelease("ReaderDbManager::onError_ destroyed"); });
+    onError_ = [stored](const std::string&) {};
+    connection_.setHandle(new Sqlite::Connection);
+    script().openHandles++;
+}
+
+long long ReaderDbManager::getItemId(const std::string& bookHash) {
+    recordCall("ReaderDbManager::getItemId(" + bookHash + ")");
+    return found(script().itemIds, bookHash, -1);
+}
+
+std::vector<Book> ReaderDbManager::getBookByFastHash(const std::string& bookHash) {
+    recordCall("ReaderDbManager::getBookByFastHash(" + bookHash + ")");
+    return found(script().readerBooks, bookHash);
+}
+
+std::string ReaderDbManager::getBookFastHashById(long long itemId) {
+    recordCall("ReaderDbManager::getBookFastHashById(" + std::to_string(itemId) + ")");
+    return found(script().fastHashes, itemId);
+}
+
+std::vector<std::pair<std::string, unsigned long long>>
+ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool flag) {
+    recordCall("ReaderDbManager::getBookNotesHashUUIDs(" + bookHash +
+               (flag ? ", true)" : ", false)"));
+    std::vector<std::pair<std::string, unsigned long long>> keys;
+    for (const std::string& key : found(script().noteKeys, bookHash)) {
+        keys.emplace_back(key, 0xdeadbeef);
+    }
+    return keys;
+}
+
+Note ReaderDbManager::getNote(const std::string& noteKey) {
+    recordCall("ReaderDbManager::getNote(" + noteKey + ")");
+    Note note = found(script().notes, noteKey);
+    script().fetchedRecords.insert(&note[Note::Tag::Uuid]);
+    return note;
+}
+
+}  // namespace veloran::utilities

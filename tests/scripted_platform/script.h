@@ -1,0 +1,95 @@
+// What the scripted platform answers, and what it was asked.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "utilities/note.h"
+#include "utilities/reader_db_manager.h"
+
+namespace scripted {
+
+struct LibraryBook {
+    std::string title;
+    std::string author;
+    std::string path = {};
+};
+
+// The answers are data, and keep the seam's promises unless a test makes them lie. Each
+// test starts from a fresh script: `script() = {}`.
+struct Script {
+    // Library database
+    std::map<std::string, long long> libraryIds;  // by raw uid
+    std::map<long long, LibraryBook> libraryBooks;
+
+    // Reader database
+    std::map<std::string, long long> itemIds;  // by book hash, as the next two
+    std::map<std::string, std::vector<veloran::utilities::Book>> readerBooks;
+    std::map<std::string, std::vector<std::string>> noteKeys;
+    std::map<std::string, veloran::utilities::Note> notes;  // by note key
+    std::map<long long, std::string> fastHashes;            // by item identifier
+    std::map<std::string, double> pages;                    // by position URI
+
+    // Import/export engine
+    bool exportSucceeds = true;
+    std::string payload;
+    int importResult = 0;
+
+    // Files
+    std::string hashText;           // of every readable file
+    std::optional<int> hashResult;  // in place of the length of `hashText`
+
+    // Every call in order, as text; then `onCall` is told, and what it throws, the call
+    // throws. Destructors and closing, which must not fail, are recorded only.
+    std::vector<std::string> calls;
+    std::function<void(const std::string& call)> onCall;
+
+    int openHandles = 0;                   // connections and databases
+    std::set<const void*> fetchedRecords;  // where getNote put what it fetched
+    int copiedNotes = 0;                   // notes that were rendered from elsewhere
+};
+
+inline Script& script() {
+    static Script instance;
+    return instance;
+}
+
+inline void recordRelease(const std::string& release) { script().calls.push_back(release); }
+
+inline void recordCall(const std::string& call) {
+    script().calls.push_back(call);
+    if (script().onCall) {
+        script().onCall(call);
+    }
+}
+
+// The entry under `key`, or the value that stands for none.
+template <class Map>
+typename Map::mapped_type found(const Map& map, const typename Map::key_type& key,
+                                typename Map::mapped_type none = {}) {
+    const auto entry = map.find(key);
+    return entry == map.end() ? none : entry->second;
+}
+
+struct NoteFields {
+    unsigned long long id;
+    std::string uuid = {};
+    std::string color = {};
+    std::string text = {};
+    std::string image = {};
+    std::string comment = {};
+    std::string anchor = {};  // URI of the note's position
+    std::string begin = {};   // URI of the start of the passage
+};
+
+// A note of those fields.
+veloran::utilities::Note makeNote(const NoteFields& fields);
+
+// Appends a note to the book, under the key "key-ID".
+void addNote(const std::string& bookHash, const NoteFields& fields);
+
+}  // namespace scripted

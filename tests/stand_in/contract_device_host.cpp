@@ -1,0 +1,27 @@
+#include "contract_device.h"
+#include "library_store.h"
+#include "reader_records.h"
+#include "utilities/serialization_utils.h"
+
+void putOnDevice(const ContractBook& book) {
+    host::BookRecord record{book.hash, book.title, book.path, {}};
+    for (const ContractNote& note : book.notes) {
+        const std::string anchor = R"({"anchor":")" + note.anchor + R"("})";
+        record.notes.push_back({note.uuid,
+                                {{host::kAnchorTag, "", anchor, 1},
+                                 {host::kColorTag, note.color, {}, 1},
+                                 {host::kTextTag, note.text, {}, 1},
+                                 {host::kCommentTag, note.comment, {}, 1},
+                                 {host::kImageTag, note.image, {}, 1}}});
+    }
+    merge({record});
+    host::LibraryStore(host::kLibraryDatabasePath)
+        .putBook({veloran::utilities::SerializationUtils::FromHex(book.hash), book.title,
+                  book.author, book.path});
+}
+
+std::string readerDatabasePath() { return host::kReaderDatabasePath; }
+
+std::optional<std::string> filePropOnDevice(const std::string& hash, int prop) {
+    return host::LibraryStore(host::kLibraryDatabasePath).fileProp(hash, prop);
+}

@@ -1,0 +1,69 @@
+// The formats that the seam leaves to the platform.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "base64.h"
+#include "note_json.h"
+#include "readerlib/position_uri.h"
+#include "utilities/note.h"
+
+TEST(PositionUri, NamesThePageInItsQuery) {
+    const auto page = [](const std::string& uri) {
+        double number = 0;
+        const bool found = Veloran::ReaderLib::extractPageFromnURI(uri, number);
+        return found ? std::optional(number) : std::nullopt;
+    };
+    EXPECT_EQ(page("book?page=12.5"), 12.5);
+    EXPECT_EQ(page("?page=0"), 0);
+    EXPECT_EQ(page("b?a=1&page=-2.25&page=9"), -2.25);
+    EXPECT_EQ(page("b?page=007#page=8"), 7);
+    EXPECT_EQ(page("b?x?page&page=3"), 3);
+    EXPECT_EQ(page("?page=" + std::string(400, '9')), std::nullopt);
+    for (const char* uri :
+         {"", "page=1", "b#?page=1", "b?page=", "b?page", "b?Page=1", "b?mypage=1",
+          "b?page=1x", "b?page= 1", "b?page=+1", "b?page=0x1", "b?page=inf", "b?page=nan",
+          "b?page=1,5", "b?page=x&page=1", "b?page=1e5"}) {
+        EXPECT_EQ(page(uri), std::nullopt) << uri;
+    }
+}
+
+TEST(Base64, SkipsWhiteSpaceAndRefusesEverythingElseForeign) {
+    EXPECT_EQ(host::decodeBase64(""), "");
+    EXPECT_EQ(host::decodeBase64(" Z m\r\n8\t= "), "fo");
+    EXPECT_EQ(host::decodeBase64("Zm9vZg=="), "foof");
+    for (const char* text : {"Z", "Zg", "Zg=", "Zm9vZ", "=", "====", "Z===", "Zg=g",
+                             "Z=g=", "Zg==Zg==", "Zm9vZg==Zm9v", "Zm9-", "Zm9v----",
+                             "Zm9\v", "Zm9\xff", "Zm9v=", "Zm9v\f"}) {
+        EXPECT_EQ(host::decodeBase64(text), std::nullopt) << text;
+    }
+}
+
+TEST(JsonElement, IsTheTextOfAStringInAnObject) {
+    using veloran::utilities::Note;
+    const auto anchor = [](const std::string& json) {
+        Note note;
+        note.tags[Note::Tag::Anchor].json = host::parseJson(json);
+        return note.getJsonTagElement(Note::Tag::Anchor, "anchor");
+    };
+    EXPECT_EQ(anchor(R"({"anchor":"\u00e9 &"})"), "\xc3\xa9 &");
+    EXPECT_EQ(anchor(R"({"anchor":"a","anchor":"b"})"), "b");
+    const std::string tooDeep = std::string(33, '[') + std::string(33, ']');
+    const std::string others[] = {
+        "",
+        R"({"other":"x"})",
+        R"({"anchor":1.5})",
+        R"({"anchor":{"anchor":"x"}})",
+        R"(["anchor"])",
+        R"("anchor")",
+        R"({"anchor":"x"} trailing)",
+        R"({"anchor":"x"})" + std::string(1, '\0'),
+        R"({"anchor":"x")",
+        R"({"anchor":"x","deep":)" + tooDeep + "}",
+        R"({"anchor":")" + std::string(300000, 'x') + "\"}",
+    };
+    for (const std::string& json : others) {
+        EXPECT_EQ(anchor(json), "") << json.substr(0, 100);
+    }
+}
