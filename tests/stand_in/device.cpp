@@ -17,8 +17,8 @@ std::string documentOf(const std::string& payload, const std::string& head) {
         text.append(at == 0 ? "" : "\n").append(base64, at, 72);
     }
     return "<!DOCTYPE html><html>\n  <head>" + head +
-           "\n    <script type=\"application/x-veloran-dbdump\" book_hash=\"ab\">" +
-           base64 + "</script>\n  </head>\n  <body></body>\n</html>";
+           "\n    <script type=\"application/x-veloran-dbdump\" book_hash=\"ab\">" + text +
+           "</script>\n  </head>\n  <body></body>\n</html>";
 }
 
 int imported(const std::string& document) {

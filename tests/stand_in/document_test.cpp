@@ -60,6 +60,10 @@ TEST_F(Document, FirstDumpCountsAndWhatFollowsItIsNotRead) {
 
 TEST_F(Document, WithoutADumpElementHoldsNoDump) {
     const std::string script = scriptOf(base64_);
+    std::string attributes;
+    for (int number = 0; number < 300000; ++number) {
+        attributes += " a" + std::to_string(number) + "=''";
+    }
     const std::string documents[] = {
         "",
         "text",
@@ -68,9 +72,10 @@ TEST_F(Document, WithoutADumpElementHoldsNoDump) {
         "<html><!--" + script + "--></html>",
         "<html><![CDATA[" + script + "]]></html>",
         "<html a='" + script + "'></html>",
+        "<html" + attributes + ">" + script + "</html>",  // minutes, if all were compared
     };
     for (const std::string& document : documents) {
-        EXPECT_EQ(imported(document), host::kNoDump) << document;
+        EXPECT_EQ(imported(document), host::kNoDump) << document.substr(0, 100);
     }
 }
 

@@ -136,6 +136,8 @@ TEST_F(Dump, IsRefusedWhenItIsNotOne) {
         tagOf(R"("tag":1,"timestamp":2.5)"),
         tagOf(R"("tag":1,"timestamp":9223372036854775808)"),
         tagOf(R"("tag":1,"timestamp":2},{)"),
+        dumpOf(
+            R"({"fast_hash":"ab","notes":[{"uuid":"n","tags":[{"tag":1,"timestamp":2},3]}]})"),
         moreOfTag(R"("text":null)"),
         moreOfTag(R"("text":"\ud800")"),
         moreOfTag("\"text\":\"\xff\""),
