@@ -25,4 +25,8 @@ inline constexpr const char* kBase64Suffix = "_base64";
 // KB, and a bound on what a few hundred KB of hostile gzip can become.
 inline constexpr std::size_t kMaxDumpSize = std::size_t{512} << 20;
 
+// Books, notes and tags of a dump together; more are neither written nor read. An empty
+// record takes ten times as much memory as it has bytes in the dump.
+inline constexpr std::size_t kMaxRecords = 4000000;
+
 }  // namespace host

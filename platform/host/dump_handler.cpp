@@ -90,7 +90,8 @@ bool DumpHandler::StartObject() {
         note().tags.emplace_back();
         tagKnown_ = timestampKnown_ = false;
     }
-    return depth_ <= kTagDepth;
+    records_ += depth_ >= kBookDepth ? 1 : 0;
+    return depth_ <= kTagDepth && records_ <= kMaxRecords;
 }
 
 bool DumpHandler::EndObject(rapidjson::SizeType /*members*/) {

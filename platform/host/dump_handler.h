@@ -3,6 +3,7 @@
 
 #include <rapidjson/rapidjson.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -57,6 +58,7 @@ private:
     ImportResult failure_ = kDumpDamaged;
     int depth_ = 0;  // of open brackets: objects at odd depths, arrays at even ones
     Field field_{};  // the key whose value comes next
+    std::size_t records_ = 0;
     bool base64_ = false;
     bool formatKnown_ = false;
     bool versionKnown_ = false;

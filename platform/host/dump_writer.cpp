@@ -3,7 +3,9 @@
 #include <rapidjson/memorystream.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <stdexcept>
 #include <vector>
 
 #include "base64.h"
@@ -45,6 +47,7 @@ private:
     void book(const BookEntry& book);
     void note(std::int64_t id);
     void tag(const TagRecord& tag);
+    void startRecord();
 
     void key(const std::string& name) { json_.Key(name.data(), length(name)); }
     void string(const std::string& text) { json_.String(text.data(), length(text)); }
@@ -57,6 +60,7 @@ private:
     const std::set<unsigned long long>& selected_;
     GzipWriter gzip_;
     JsonWriter<GzipWriter> json_;
+    std::size_t records_ = 0;
 };
 
 void DumpWriter::write(const std::vector<BookEntry>& books) {
@@ -75,8 +79,15 @@ void DumpWriter::write(const std::vector<BookEntry>& books) {
     gzip_.finish();
 }
 
-void DumpWriter::book(const BookEntry& book) {
+void DumpWriter::startRecord() {
+    if (++records_ > kMaxRecords) {
+        throw std::runtime_error("the dump exceeds its largest number of records");
+    }
     json_.StartObject();
+}
+
+void DumpWriter::book(const BookEntry& book) {
+    startRecord();
     bytes("fast_hash", book.fastHash);
     bytes("title", book.title);
     bytes("path", book.path);
@@ -93,7 +104,7 @@ void DumpWriter::book(const BookEntry& book) {
 
 void DumpWriter::note(std::int64_t id) {
     const NoteRecord note = store_.note(id).value();
-    json_.StartObject();
+    startRecord();
     bytes("uuid", note.uuid);
     key("tags");
     json_.StartArray();
@@ -105,7 +116,7 @@ void DumpWriter::note(std::int64_t id) {
 }
 
 void DumpWriter::tag(const TagRecord& tag) {
-    json_.StartObject();
+    startRecord();
     key("tag");
     json_.Int(tag.tag);
     bytes("text", tag.text);

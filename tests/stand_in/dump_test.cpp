@@ -7,6 +7,7 @@
 #include <random>
 #include <string>
 
+#include "dump_format.h"
 #include "dump_reader.h"
 #include "import_result.h"
 #include "reader_records.h"
@@ -162,11 +163,20 @@ TEST_F(Dump, IsRefusedWhenItIsNotOne) {
     EXPECT_TRUE(databaseBytes() == before);
 }
 
-TEST(DumpReader, RefusesWhatInflatesBeyondTheLimitOrGoesOnInAnotherPiece) {
+TEST(DumpReader, RefusesWhatExceedsALimitOrGoesOnInAnotherPiece) {
     const std::string text = R"({"format":"notes-export-dump","version":1,"books":[)" +
                              std::string(1000000, ' ') + "]}";
     const std::string bomb = gzipped(text);
     EXPECT_TRUE(host::readPayload({bomb}, text.size()).empty());
     EXPECT_THROW(host::readPayload({bomb}, text.size() - 1), host::DumpError);
     EXPECT_THROW(host::readPayload({bomb, "more"}, text.size()), host::DumpError);
+
+    std::string notes = R"({"fast_hash":"ab","notes":[{"uuid":"n"})";
+    for (std::size_t records = 2; records < host::kMaxRecords; ++records) {
+        notes += R"(,{"uuid":"n"})";
+    }
+    EXPECT_NO_THROW(host::readPayload({dumpOf(notes + "]}")}, host::kMaxDumpSize));
+    notes += R"(,{"uuid":"n"})";
+    EXPECT_THROW(host::readPayload({dumpOf(notes + "]}")}, host::kMaxDumpSize),
+                 host::DumpError);
 }
