@@ -73,9 +73,12 @@ std::string shown(const ExportRequest& request, const std::string& path) {
 }  // namespace
 
 void exportNotes(const ExportRequest& request) {
-    const std::vector<Note> notes = notesOf(request.hash);
-    checkThatNotesExist(request, notes);
-    Timestamps times = timestampsOf(notes);
+    Timestamps times;
+    if (!request.noteIds.empty() || request.order == "newest") {
+        const std::vector<Note> notes = notesOf(request.hash);
+        checkThatNotesExist(request, notes);
+        times = timestampsOf(notes);
+    }
     const Exporter exporter(request.directory);
     const std::string path = exporter.fileName(request.hash);
     if (callLibrary(exporter, request, times) != 0) {

@@ -29,10 +29,23 @@ std::string formatted(std::time_t time) {
     return {text, std::strftime(text, sizeof text, "%F %T", &local)};
 }
 
+std::string documentTitle(const std::string& bookHash) {
+    const std::string date = formatted(std::time(nullptr));
+    return date + " - " + NotesExporterImpl::getBookTitle(bookHash);
+}
+
 void writeHeading(Writer& writer, const char* element, const std::string& text) {
     writer.openElt("div").writeAttr("class", kHeadingClass);
     writer.openElt(element).writeText(text.c_str()).closeElt();
     writer.closeElt();
+}
+
+void writeHeadings(Writer& writer, const std::string& title, const std::string& bookHash) {
+    writeHeading(writer, "h1", title);
+    const std::string author = NotesExporterImpl::getBookAuthorFromExplorerDB(bookHash);
+    if (!author.empty()) {
+        writeHeading(writer, "span", author);
+    }
 }
 
 void writeMetadata(Writer& writer, const std::string& title) {
@@ -59,8 +72,7 @@ int NotesExporterImpl::export_bookmarks_to_html(const std::string& bookHash,
     const std::string path = getExportFilename(bookHash);
     oa_buildpath(path.c_str());
     FailStopFile file(path);
-    const std::string date = formatted(std::time(nullptr));
-    const std::string title = date + " - " + getBookTitle(bookHash);
+    const std::string title = documentTitle(bookHash);
     file.write(kDocumentType.data(), kDocumentType.size());
 
     Writer writer(file);
@@ -71,11 +83,7 @@ int NotesExporterImpl::export_bookmarks_to_html(const std::string& bookHash,
     writeBinaryDump(writer, itemId, ids);
     writer.closeElt();
     writer.openElt("body");
-    writeHeading(writer, "h1", title);
-    const std::string author = getBookAuthorFromExplorerDB(bookHash);
-    if (!author.empty()) {
-        writeHeading(writer, "span", author);
-    }
+    writeHeadings(writer, title, bookHash);
     writeBookmarks(writer, bookHash, ids, before);
     while (writer.depth() != 0) {
         writer.closeElt();
