@@ -5,6 +5,7 @@
 #include <exception>
 #include <fstream>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <string_view>
 
@@ -94,6 +95,8 @@ Payload DumpFinder::find() {
 }
 
 void DumpFinder::parse() {
+    static std::once_flag initialized;  // several threads may be the first to import
+    std::call_once(initialized, xmlInitParser);
     xmlSAXHandler sax = handlers();
     parser_.reset(
         xmlCreateIOParserCtxt(&sax, this, read, nullptr, this, XML_CHAR_ENCODING_NONE));
