@@ -8,15 +8,24 @@ void complainAboutUnknownBook(const std::string& hash) {
                     ". \"notes-export books\" lists them.");
 }
 
-void complainUnlessKnown(const std::string& hash) {
-    if (veloran::utilities::ReaderDbManager().getItemId(hash) == -1) {
+namespace {
+
+void check(veloran::utilities::ReaderDbManager& readerDb, const std::string& hash) {
+    if (readerDb.getItemId(hash) == -1) {
         complainAboutUnknownBook(hash);
     }
 }
 
-std::vector<veloran::utilities::Note> notesOf(const std::string& hash) {
-    complainUnlessKnown(hash);
+}  // namespace
+
+void complainUnlessKnown(const std::string& hash) {
     veloran::utilities::ReaderDbManager readerDb;
+    check(readerDb, hash);
+}
+
+std::vector<veloran::utilities::Note> notesOf(const std::string& hash) {
+    veloran::utilities::ReaderDbManager readerDb;
+    check(readerDb, hash);
     std::vector<veloran::utilities::Note> notes;
     for (const auto& key : readerDb.getBookNotesHashUUIDs(hash, true)) {
         notes.push_back(readerDb.getNote(key.first));

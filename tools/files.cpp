@@ -5,15 +5,22 @@
 
 #include "complaint.h"
 
-void complainUnlessReadable(const std::filesystem::path& path) {
-    if (!std::ifstream(path) || std::filesystem::is_directory(path)) {
+namespace {
+
+std::ifstream opened(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file || std::filesystem::is_directory(path)) {
         throw Complaint("Cannot read " + path.string() + ": is it there, and a file?");
     }
+    return file;
 }
 
+}  // namespace
+
+void complainUnlessReadable(const std::filesystem::path& path) { opened(path); }
+
 std::string readFile(const std::filesystem::path& path) {
-    complainUnlessReadable(path);
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file = opened(path);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 

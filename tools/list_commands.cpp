@@ -3,17 +3,15 @@
 
 #include "book_notes.h"
 #include "commands.h"
-#include "db/db_manager.h"
 #include "decimal.h"
 #include "device_paths.h"
+#include "library_store.h"
 #include "reader_store.h"
 #include "readerlib/position_uri.h"
-#include "utilities/reader_db_manager.h"
 #include "utilities/serialization_utils.h"
 
 namespace {
 
-using veloran::db::DbManager;
 using veloran::utilities::Note;
 
 bool isControl(char byte) {
@@ -35,24 +33,19 @@ std::string page(const Note& note) {
     return decimal(number);
 }
 
-std::string author(const std::string& hash) {
-    const std::string uid = veloran::utilities::SerializationUtils::FromHex(hash);
-    const long long id = DbManager::Instance()->GetBookIdByUid(1, uid);
-    std::string title;
-    std::string result;
-    if (id >= 0) {
-        DbManager::Instance()->GetBookTitleAndAuthor(id, &title, &result);
-    }
-    return result;
+std::string author(host::LibraryStore& library, const std::string& hash) {
+    const auto id = library.findBook(veloran::utilities::SerializationUtils::FromHex(hash));
+    return id ? library.book(*id).value_or(host::LibraryBook{}).author : std::string();
 }
 
 }  // namespace
 
 void listBooks() {
+    host::LibraryStore library(host::kLibraryDatabasePath);
     for (const host::BookEntry& book :
          host::ReaderStore(host::kReaderDatabasePath).books()) {
         std::cout << field(book.fastHash) << '\t' << field(book.title) << '\t'
-                  << field(author(book.fastHash)) << '\n';
+                  << field(author(library, book.fastHash)) << '\n';
     }
 }
 

@@ -1,6 +1,5 @@
 #include "device_test.h"
 
-#include <fstream>
 #include <regex>
 
 namespace library_tests {
@@ -27,17 +26,6 @@ void loadSampleBook() {
 Exporter::Exporter() {
     setExportDir("Notes");
     script().calls.clear();
-}
-
-std::string readFile(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
-
-void writeFile(const std::string& path, const std::string& text) {
-    std::filesystem::create_directories(std::filesystem::absolute(path).parent_path());
-    std::ofstream(path) << text;
 }
 
 std::string golden(const std::string& name) { return readFile(GOLDEN_DIR "/" + name); }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "export/notes_exporter_impl.h"
+#include "files.h"
 #include "scratch_directory.h"
 #include "script.h"
 
@@ -44,8 +45,6 @@ struct Exporter : veloran::NotesExporterImpl {
     int exportAll() { return export_bookmarks_to_html(kBook, {}, nullptr); }
 };
 
-std::string readFile(const std::string& path);
-void writeFile(const std::string& path, const std::string& text);
 std::string golden(const std::string& name);
 
 // The document with its first date, and whatever repeats it, replaced by "@DATE@".

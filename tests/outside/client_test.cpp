@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
+#include "files.h"
 #include "process.h"
 #include "scratch_directory.h"
 
@@ -24,9 +24,9 @@ constexpr char kDevice[] = R"({"style_sheet": "s.css", "books": [
 class Client : public testing::Test {
 protected:
     Client() {
-        std::ofstream("device.json") << kDevice;
-        std::ofstream("s.css") << "p { margin: 0 }";
-        std::ofstream("p.jpg") << "\xFF\xD8\xFF";
+        writeFile("device.json", kDevice);
+        writeFile("s.css", "p { margin: 0 }");
+        writeFile("p.jpg", "\xFF\xD8\xFF");
         std::filesystem::create_directory("one");
         std::filesystem::create_directory("two");
     }
@@ -69,7 +69,7 @@ TEST_F(Client, CarriesNotesFromOneDeviceToAnother) {
     const std::string name = result({"-C", "one", "name", kWhale});
     EXPECT_EQ(name, "one/mnt/ext1/Notes/The Whale or \u201cLeviathan\u201d.html");
     EXPECT_EQ(result({"-C", "one", "export", kWhale}), name);
-    EXPECT_NE(contentOf(name).find("p { margin: 0 }"), std::string::npos);
+    EXPECT_NE(readFile(name).find("p { margin: 0 }"), std::string::npos);
 
     EXPECT_EQ(result({"-C", "two", "import", name}), "3");
     EXPECT_EQ(result({"-C", "two", "import", name}), "0");
@@ -94,16 +94,15 @@ TEST_F(Client, OrdersAndSelectsNotes) {
         words.insert(words.end(), options.begin(), options.end());
         const std::string path = result(words);
         EXPECT_EQ(std::filesystem::path(path).parent_path(), scratch_.path() / "out");
-        EXPECT_EQ(order(contentOf(path)), uuids) << testing::PrintToString(options);
+        EXPECT_EQ(order(readFile(path)), uuids) << testing::PrintToString(options);
     }
 }
 
 TEST_F(Client, ExplainsWhatWentWrong) {
     result({"-C", "one", "load", "device.json"});
-    std::ofstream("empty.html") << "<html></html>";
-    std::ofstream("broken.json")
-        << R"({"books": [{"hash": "01", "notes": [{"uuid": 5}]}]})";
-    std::ofstream("typo.json") << R"({"books": [{"hash": "01", "tilte": "x"}]})";
+    writeFile("empty.html", "<html></html>");
+    writeFile("broken.json", R"({"books": [{"hash": "01", "notes": [{"uuid": 5}]}]})");
+    writeFile("typo.json", R"({"books": [{"hash": "01", "tilte": "x"}]})");
     const struct {
         int status;
         std::vector<std::string> words;

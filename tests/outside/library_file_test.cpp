@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
+#include "files.h"
 #include "process.h"
 #include "scratch_directory.h"
 
@@ -21,18 +21,18 @@ TEST(SharedObject, ExportsTheInterfaceAndNothingElse) {
         names.push_back(line.substr(0, line.find(' ')));
     }
     std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, linesOf(contentOf(EXPORTED_SYMBOLS)));
+    EXPECT_EQ(names, linesOf(readFile(EXPORTED_SYMBOLS)));
 }
 
 TEST(CProgram, ExportsAndImportsThroughThePublicHeader) {
     const ScratchDirectory scratch;
-    std::ofstream("device.json") << kDevice;
+    writeFile("device.json", kDevice);
     run({CLIENT, "load", "device.json"});
 
     const Outcome exported = run({C_CLIENT, "ab12"});
     EXPECT_EQ(exported.status, 0) << exported.err;
     EXPECT_EQ(exported.out, "mnt/ext1/Notes/Emma.html\n");
-    EXPECT_NE(contentOf("mnt/ext1/Notes/Emma.html").find("clever"), std::string::npos);
+    EXPECT_NE(readFile("mnt/ext1/Notes/Emma.html").find("clever"), std::string::npos);
 
     std::filesystem::remove("mnt/ext1/system/config/books.db");
     EXPECT_EQ(run({C_CLIENT, "--import", "mnt/ext1/Notes/Emma.html"}).out, "1\n");

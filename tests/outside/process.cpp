@@ -3,9 +3,9 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <sstream>
+
+#include "files.h"
 
 namespace {
 
@@ -18,11 +18,6 @@ std::string quoted(const std::string& word) {
 }
 
 }  // namespace
-
-std::string contentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::vector<std::string> linesOf(const std::string& text) {
     std::istringstream stream(text);
@@ -39,6 +34,6 @@ Outcome run(const std::vector<std::string>& words) {
         command += quoted(word);
     }
     const int status = std::system((command + ">.out 2>.err </dev/null").c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(".out"),
-            contentOf(".err")};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(".out"),
+            readFile(".err")};
 }

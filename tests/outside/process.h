@@ -13,6 +13,4 @@ struct Outcome {
 // Runs `words` (the program's path first) in the working directory.
 Outcome run(const std::vector<std::string>& words);
 
-std::string contentOf(const std::string& path);
-
 std::vector<std::string> linesOf(const std::string& text);

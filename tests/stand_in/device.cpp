@@ -1,7 +1,5 @@
 #include "device.h"
 
-#include <fstream>
-
 #include "contract_device.h"
 #include "utilities/serialization_utils.h"
 
@@ -24,8 +22,4 @@ std::string documentOf(const std::string& payload, const std::string& head) {
 int imported(const std::string& document) {
     writeFile("export.html", document);
     return Engine()->books_import("export.html");
-}
-
-void writeFile(const std::string& path, const std::string& content) {
-    std::ofstream(path, std::ios::binary) << content;
 }

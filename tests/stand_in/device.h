@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "files.h"
 #include "readerlib/database.h"
 #include "readerlib/import_export_db.h"
 #include "scratch_directory.h"
@@ -30,5 +31,3 @@ std::string documentOf(const std::string& payload, const std::string& head = "")
 
 // What importing the document gives.
 int imported(const std::string& document);
-
-void writeFile(const std::string& path, const std::string& content);

@@ -1,6 +1,5 @@
 #include "reader_records.h"
 
-#include <fstream>
 #include <sstream>
 
 #include "dump_format.h"
@@ -42,9 +41,7 @@ std::string recordsOnDevice() {
 
 std::string databaseBytes() {
     const std::string path = host::kReaderDatabasePath;
-    std::ostringstream bytes;
-    bytes << std::ifstream(path).rdbuf() << std::ifstream(path + "-wal").rdbuf();
-    return bytes.str();
+    return readFile(path) + readFile(path + "-wal");
 }
 
 int merge(const std::vector<host::BookRecord>& books) {
