@@ -17,7 +17,7 @@ DbManager* DbManager::Instance() {
 
 long long DbManager::GetBookIdByUid(int kind, const std::string& uid) {
     recordCall("DbManager::GetBookIdByUid(" + to_string(kind) + ", " + uid + ")");
-    return found(script().libraryIds, uid, -2);
+    return kind == 1 ? found(script().libraryIds, uid, -2) : -2;
 }
 
 void DbManager::GetBookTitleAndAuthor(long long bookId, std::string* title,

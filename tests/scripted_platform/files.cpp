@@ -21,9 +21,10 @@ int FastBookHash(const char* path, char* buffer, int size) {
 
 int oa_buildpath(const char* path) {
     recordCall("oa_buildpath(" + std::string(path) + ")");
+    const auto directory = std::filesystem::absolute(path).parent_path();
     std::error_code error;
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), error);
-    return error ? -1 : 0;
+    std::filesystem::create_directories(directory, error);
+    return std::filesystem::is_directory(directory, error) ? 0 : -1;
 }
 
 namespace veloran::system::filesystem {
@@ -31,7 +32,7 @@ namespace veloran::system::filesystem {
 bool IsFileExist(const std::string& path) {
     recordCall("IsFileExist(" + path + ")");
     std::error_code error;
-    return std::filesystem::exists(path, error);
+    return std::filesystem::exists(std::filesystem::symlink_status(path, error));
 }
 
 std::string GetFileNameFromPath(const std::string& path) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "device.h"
+#include "engine.h"
 #include "device_paths.h"
 #include "note_tags.h"
 #include "reader_store.h"

@@ -1,4 +1,4 @@
-#include "device.h"
+#include "engine.h"
 
 #include "contract_device.h"
 #include "utilities/serialization_utils.h"

@@ -1,7 +1,14 @@
+#include <sstream>
+
 #include "contract_device.h"
+#include "device_paths.h"
 #include "library_store.h"
-#include "reader_records.h"
+#include "note_tags.h"
+#include "reader_store.h"
 #include "utilities/serialization_utils.h"
+
+// Databases come into being where they are looked for.
+void startEmptyDevice() {}
 
 void putOnDevice(const ContractBook& book) {
     host::BookRecord record{book.hash, book.title, book.path, {}};
@@ -14,10 +21,16 @@ void putOnDevice(const ContractBook& book) {
                                  {host::kCommentTag, note.comment, {}, 1},
                                  {host::kImageTag, note.image, {}, 1}}});
     }
-    merge({record});
+    host::ReaderStore(host::kReaderDatabasePath).merge({record});
     host::LibraryStore(host::kLibraryDatabasePath)
         .putBook({veloran::utilities::SerializationUtils::FromHex(book.hash), book.title,
                   book.author, book.path});
+}
+
+std::string uriOfPage(double page) {
+    std::ostringstream uri;
+    uri << "book?page=" << page;
+    return uri.str();
 }
 
 std::string readerDatabasePath() { return host::kReaderDatabasePath; }

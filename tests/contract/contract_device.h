@@ -23,8 +23,14 @@ struct ContractBook {
     std::vector<ContractNote> notes;
 };
 
+// Makes the working directory, which is empty, an empty device.
+void startEmptyDevice();
+
 // Puts the book and its notes, in the order given, into both databases of the device.
 void putOnDevice(const ContractBook& book);
+
+// A position in a book that names the page.
+std::string uriOfPage(double page);
 
 // The path that the platform's reader database has.
 std::string readerDatabasePath();
