@@ -114,4 +114,3 @@ TEST_F(SeamContract, BytesAreSpelledInHexadecimalOfEitherCaseAndInPaddedBase64) 
         EXPECT_TRUE(SerializationUtils::ToBase64(bytes) == text) << text.substr(0, 9);
     }
 }
-

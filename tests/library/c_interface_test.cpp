@@ -1,49 +1,22 @@
-#include <memory>
-
+#include "c_exporter.h"
 #include "device_test.h"
-#include "notes_export/notes_export.h"
 
 namespace library_tests {
 namespace {
 
-struct Free {
-    void operator()(notes_exporter* exporter) const { free_notes_exporter(exporter); }
-};
-using Handle = std::unique_ptr<notes_exporter, Free>;
-
 class CInterface : public DeviceTest {
 protected:
     CInterface() { loadSampleBook(); }
-
-    static Handle newHandle(const char* directory) {
-        Handle handle(new_notes_exporter());
-        notes_exporter_set_export_dir(handle.get(), directory);
-        script().calls.clear();
-        return handle;
-    }
-    static int exportNotes(const Handle& handle, const std::vector<unsigned long long>& ids,
-                           notes_exporter_before before = nullptr,
-                           void* userData = nullptr) {
-        return notes_exporter_export_bookmarks_to_html(handle.get(), kBook.c_str(),
-                                                       ids.empty() ? nullptr : ids.data(),
-                                                       ids.size(), before, userData);
-    }
-    static std::string name(const Handle& handle) {
-        char buffer[100];
-        notes_exporter_get_exported_file_name(handle.get(), buffer, sizeof buffer,
-                                              kBook.c_str());
-        return buffer;
-    }
 };
 
 TEST_F(CInterface, ExportsEveryNoteForANullArrayIntoTheFileItNamed) {
-    const Handle handle = newHandle("./x//y/");
-    const Handle other = newHandle("other");
-    EXPECT_EQ(name(handle), "./x//y//Dune  Sons.html");
-    EXPECT_EQ(exportNotes(handle, {}), 0);
+    const CExporter exporter(kBook, "./x//y/");
+    const CExporter other(kBook, "other");
+    EXPECT_EQ(exporter.fileName(), "./x//y//Dune  Sons.html");
+    EXPECT_EQ(exporter.exportNotes(), 0);
     EXPECT_EQ(withoutDate(readFile("x/y/Dune  Sons.html")), golden("full_export.html"));
-    EXPECT_EQ(name(handle), "./x//y//Dune  Sons (1).html");
-    EXPECT_EQ(name(other), "other/Dune  Sons.html");
+    EXPECT_EQ(exporter.fileName(), "./x//y//Dune  Sons (1).html");
+    EXPECT_EQ(other.fileName(), "other/Dune  Sons.html");
 }
 
 TEST_F(CInterface, ExportsRepeatedIdentifiersOnceInTheOrderOfTheFunction) {
@@ -52,7 +25,7 @@ TEST_F(CInterface, ExportsRepeatedIdentifiersOnceInTheOrderOfTheFunction) {
         static_cast<decltype(seen)*>(userData)->emplace_back(first, second);
         return first > second;
     };
-    exportNotes(newHandle("Notes"), {13, 11, 13, 11, 12}, before, &seen);
+    CExporter(kBook, "Notes").exportNotes(before, &seen, {13, 11, 13, 11, 12});
     EXPECT_GE(seen.size(), 2U);
     EXPECT_NE(joined(script().calls).find("set_export_bookmark_ids({11, 12, 13})"),
               std::string::npos);
@@ -64,12 +37,12 @@ TEST_F(CInterface, ExportsRepeatedIdentifiersOnceInTheOrderOfTheFunction) {
 }
 
 TEST_F(CInterface, CopiesAsMuchOfTheNameAsTheBufferHolds) {
-    const Handle handle = newHandle("Notes");
+    const CExporter exporter(kBook, "Notes");
     const std::size_t length = kFile.size();
     for (const std::size_t size :
          {std::size_t{0}, std::size_t{1}, length, length + 1, length + 9}) {
         std::string buffer(length + 20, '~');
-        notes_exporter_get_exported_file_name(handle.get(), buffer.data(), size,
+        notes_exporter_get_exported_file_name(exporter.handle(), buffer.data(), size,
                                               kBook.c_str());
         std::string expected(length + 20, '~');
         const std::string copied = (kFile + '\0').substr(0, size);
@@ -78,9 +51,10 @@ TEST_F(CInterface, CopiesAsMuchOfTheNameAsTheBufferHolds) {
 }
 
 TEST_F(CInterface, ImportOfANullPathFailsWithoutTheEngine) {
-    const Handle handle = newHandle("Notes");
-    EXPECT_EQ(notes_exporter_import_from_file(handle.get(), nullptr), -1);
-    EXPECT_TRUE(script().calls.empty());
+    const CExporter exporter(kBook, "Notes");
+    const Calls calls = script().calls;
+    EXPECT_EQ(exporter.importFile(nullptr), -1);
+    EXPECT_EQ(script().calls, calls);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
+#include <functional>
 #include <stdexcept>
 
+#include "c_exporter.h"
 #include "device_test.h"
 #include "notes_export/notes_exporter.h"
 
@@ -36,32 +38,41 @@ protected:
 };
 
 // Orders the sample book's notes as their pages do. Each answer counts as a platform call.
-bool recordedOrder(long long a, long long b) {
+bool recordedOrder(void* /*userData*/, long long a, long long b) {
     scripted::recordCall("before");
     return a % 12 < b % 12;
 }
 
-TEST_P(Exceptions, OfEveryCallOfAnExportReachTheCaller) {
+// Calls of the C interface that export, ask for a name, and create and free an exporter.
+TEST_P(Exceptions, OfEveryCallReachTheCallerAndTheExporterServesOn) {
     loadSampleBook();
     veloran::utilities::Book book;
     std::swap(book.title, script().libraryBooks[kLibraryId].title);
     script().readerBooks[kBook] = {book};
     const std::string whole = golden("full_export.html");
-    const auto exportNotes = [] {
-        std::filesystem::remove_all("Notes");
-        veloran::NotesExporter exporter;
-        exporter.setExportDir("Notes");
-        exporter.export_bookmarks_to_html(kBook, {}, recordedOrder);
+    const CExporter exporter(kBook, "Notes");
+    const int open = script().openHandles;
+    const std::function<void()> calls[] = {
+        [] { CExporter(kBook, "Notes"); },
+        [&] { EXPECT_EQ(exporter.fileName(), kFile); },
+        [&] { EXPECT_EQ(exporter.exportNotes(recordedOrder), 0); },
     };
     std::string text;
-    Outcome outcome = GetParam();
-    for (int n = 1; outcome == GetParam(); n++) {
-        const std::string earlier = text;
-        outcome = failing(n, exportNotes);
-        text = withoutDate(readFile(kFile));
-        EXPECT_TRUE(startsWith(whole, text) && startsWith(text, earlier)) << text;
-        EXPECT_EQ(outcome == Outcome::Returned, made_ < n) << "call " << n;
-        EXPECT_EQ(script().openHandles, 0);
+    for (const auto& call : calls) {
+        Outcome outcome = GetParam();
+        for (int n = 1; outcome == GetParam(); n++) {
+            std::filesystem::remove_all("Notes");
+            const std::string earlier = text;
+            outcome = failing(n, call);
+            text = withoutDate(readFile(kFile));
+            EXPECT_TRUE(startsWith(whole, text) && startsWith(text, earlier)) << text;
+            EXPECT_EQ(outcome == Outcome::Returned, made_ < n) << "call " << n;
+            EXPECT_EQ(script().openHandles, open);
+
+            std::filesystem::remove_all("Notes");
+            EXPECT_EQ(exporter.exportNotes(recordedOrder), 0);
+            EXPECT_EQ(withoutDate(readFile(kFile)), whole) << "after call " << n;
+        }
     }
     EXPECT_EQ(text, whole);
 }
@@ -71,16 +82,17 @@ TEST_P(Exceptions, OfEveryCallOfAnImportReachCppAndOfStandardKindBecomeMinusOneI
     script().hashText = "abc123";
     script().importResult = 5;
     veloran::NotesExporter exporter;
+    const CExporter cExporter(kBook, "Notes");
     for (int n = 1; n <= 5; n++) {
         EXPECT_EQ(failing(n, [&] { exporter.import_from_file("in.html"); }), GetParam());
         int result = 0;
-        const Outcome outcome = failing(
-            n, [&] { result = notes_exporter_import_from_file(&exporter, "in.html"); });
+        const Outcome outcome =
+            failing(n, [&] { result = cExporter.importFile("in.html"); });
         const bool isCaught = GetParam() == Outcome::Threw;
         EXPECT_EQ(outcome, isCaught ? Outcome::Returned : GetParam());
         EXPECT_EQ(result, isCaught ? -1 : 0);
+        EXPECT_EQ(cExporter.importFile("in.html"), 5);
     }
-    EXPECT_EQ(notes_exporter_import_from_file(&exporter, "in.html"), 5);
 }
 
 INSTANTIATE_TEST_SUITE_P(OfEachKind, Exceptions,

@@ -59,19 +59,21 @@ TEST_F(ExportedFile, EndsWhereTheDiskWasFullEvenIfThereIsRoomAgain) {
     const Calls expected = callsOfExport();
     const std::string whole = withoutDate(readFile(kFile));
     std::signal(SIGXFSZ, SIG_IGN);
-    for (const std::string& roomAgainAt :
-         {std::string("Note(399)::getText()"), "FastBookHash(" + kFile + ", 256)"}) {
-        std::filesystem::remove(kFile);
-        script().onCall = [&](const std::string& call) {
-            if (startsWith(call, "oa_buildpath")) {
-                limitFileSize(5000);
-            } else if (call == roomAgainAt) {
-                limitFileSize(RLIM_INFINITY);
-            }
-        };
-        EXPECT_EQ(joined(callsOfExport()), joined(expected));
-        EXPECT_EQ(std::filesystem::file_size(kFile), 5000U);
-        EXPECT_TRUE(startsWith(whole, withoutDate(readFile(kFile))));
+    for (const rlim_t room : {0U, 1U, 100U, 4096U, 8191U, 8192U, 8193U, 16500U}) {
+        for (const std::string& roomAgainAt :
+             {std::string("Note(399)::getText()"), "FastBookHash(" + kFile + ", 256)"}) {
+            std::filesystem::remove(kFile);
+            script().onCall = [&](const std::string& call) {
+                if (startsWith(call, "oa_buildpath")) {
+                    limitFileSize(room);
+                } else if (call == roomAgainAt) {
+                    limitFileSize(RLIM_INFINITY);
+                }
+            };
+            EXPECT_EQ(joined(callsOfExport()), joined(expected));
+            EXPECT_EQ(std::filesystem::file_size(kFile), room);
+            EXPECT_TRUE(startsWith(whole, withoutDate(readFile(kFile)))) << room;
+        }
     }
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "engine.h"
 #include "device_paths.h"
+#include "engine.h"
 #include "note_tags.h"
 #include "reader_store.h"
 
