@@ -68,8 +68,6 @@ Connection::Connection(const std::string& path, const Schema& schema)
     naming(path, [&] {
         database_.exec("PRAGMA foreign_keys = ON");
         bringUpToDate(schema);
-        // Fails while another process is at the same point, which then does it for both.
-        database_.tryExec("PRAGMA journal_mode = WAL");
     });
 }
 

@@ -1,5 +1,7 @@
 #include "db/db_manager.h"
 
+#include <stdexcept>
+
 #include "device_paths.h"
 #include "library_store.h"
 
@@ -43,7 +45,11 @@ bool DbManager::SetFileProp(const std::string& hash, FileProp prop,
     if (hash.empty()) {
         return false;
     }
-    library().setFileProp(hash, static_cast<int>(prop), value);
+    try {
+        library().setFileProp(hash, static_cast<int>(prop), value);
+    } catch (const std::runtime_error&) {  // the result says it
+        return false;
+    }
     return true;
 }
 // NOLINTEND(readability-convert-member-functions-to-static)

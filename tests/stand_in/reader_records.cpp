@@ -41,7 +41,7 @@ std::string recordsOnDevice() {
 
 std::string databaseBytes() {
     const std::string path = host::kReaderDatabasePath;
-    return readFile(path) + readFile(path + "-wal");
+    return readFile(path) + readFile(path + "-journal");
 }
 
 int merge(const std::vector<host::BookRecord>& books) {

@@ -8,7 +8,7 @@ namespace veloran::db {
 
 // One instance serves the process, from any thread: the platform serialises its use.
 // Any call may throw an exception derived from std::exception when the database cannot
-// be read or written; finding nothing is not such a failure.
+// be read; finding nothing is not such a failure.
 class DbManager {
 public:
     // Properties of a file, by number; their meaning is the platform's.
@@ -30,7 +30,8 @@ public:
 
     // Records `value` as the property `prop` of the file with this fast hash, in place of
     // an earlier value. `hash` may be empty (the file could not be hashed): nothing is
-    // recorded then. Returns whether it was recorded.
+    // recorded then. Returns whether it was recorded. A database that cannot be written
+    // gives false or an exception; false spares callers in C, who cannot catch.
     bool SetFileProp(const std::string& hash, FileProp prop, const std::string& value);
 };
 

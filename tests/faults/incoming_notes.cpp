@@ -1,0 +1,44 @@
+#include "incoming_notes.h"
+
+#include "contract_device.h"
+
+#include <filesystem>
+#include <random>
+
+host::BookRecord bookOf(int first, int last, std::int64_t timestamp, std::size_t textSize) {
+    std::mt19937 random(1);
+    host::BookRecord book{"b00c", "Book", "", {}};
+    for (int number = first; number < last; ++number) {
+        std::string text = std::to_string(timestamp) + ' ';
+        while (text.size() < textSize) {
+            text += static_cast<char>('a' + random() % 26);
+        }
+        const std::string uuid = "n" + std::to_string(number);
+        book.notes.push_back({uuid,
+                              {{host::kUuidTag, uuid, {}, timestamp},
+                               {host::kTextTag, text, {}, timestamp}}});
+    }
+    return book;
+}
+
+void IncomingNotes::prepare(int notes, std::size_t textSize) {
+    std::string document;
+    {
+        const ScratchDirectory elsewhere;
+        merge({bookOf(notes / 2, notes + notes / 2, 2, textSize)});
+        document = documentOf(exported());
+    }
+    writeFile(kDocument, document);
+    putOnDevice({kBook, "Book", "Author", "", {}});
+    merge({bookOf(0, notes, 1, textSize)});
+    before_ = recordsOnDevice();
+    std::filesystem::copy("mnt", "saved", std::filesystem::copy_options::recursive);
+    CExporter(kBook, "Notes").importFile(kDocument);
+    after_ = recordsOnDevice();
+    restore();
+}
+
+void IncomingNotes::restore() const {
+    std::filesystem::remove_all("mnt");
+    std::filesystem::copy("saved", "mnt", std::filesystem::copy_options::recursive);
+}
