@@ -1,7 +1,7 @@
 // A connection to a database file: how it is opened, and its prepared statements.
 //
-// The journal is SQLite's default, for rollback: a write-ahead log would need room for files
-// of its own even to read, so that a full disk would lock the user out of the notes.
+// The journal is SQLite's default, for rollback: a write-ahead log would need room for
+// files of its own even to read, so that a full disk would lock the user out of the notes.
 #pragma once
 
 #include <SQLiteCpp/Database.h>

@@ -108,8 +108,8 @@ bool DumpHandler::EndObject(rapidjson::SizeType /*members*/) {
 }
 
 bool DumpHandler::endTag() const {
-    const TagRecord& tag = books_.back().notes.back().tags.back();
-    return tagKnown_ && timestampKnown_ && (!tag.json || isJson(*tag.json));
+    const TagRecord& ended = books_.back().notes.back().tags.back();
+    return tagKnown_ && timestampKnown_ && (!ended.json || isJson(*ended.json));
 }
 
 bool DumpHandler::StartArray() {

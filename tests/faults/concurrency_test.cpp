@@ -72,13 +72,13 @@ TEST_F(Together, TwoThreadsExportAndImportEachWithItsOwnExporter) {
     std::vector<std::thread> threads;
     for (const char* directory : {"one", "two"}) {
         threads.emplace_back([directory] {
-            for (int round = 0; round < 5; ++round) {
+            for (int round = 0; round < 20; ++round) {
                 const CExporter exporter(kBook, directory);
+                EXPECT_GE(exporter.importFile(kDocument), 0);
                 const std::string name = exporter.fileName();
                 EXPECT_EQ(exporter.exportNotes(), 0);
                 EXPECT_NE(readFile(name).find("</html>"), std::string::npos);
                 EXPECT_EQ(exporter.importFile(name.c_str()), 0);
-                EXPECT_GE(exporter.importFile(kDocument), 0);
             }
         });
     }

@@ -40,7 +40,7 @@ protected:
         return records == after_;
     }
 
-    static constexpr int kNotes = 60;
+    static constexpr int kNotes = 30;
     static constexpr int kMoments = 100;
     int operations_ = 0;
 };

@@ -22,20 +22,21 @@ host::BookRecord bookOf(int first, int last, std::int64_t timestamp, std::size_t
 }
 
 void IncomingNotes::prepare(int notes, std::size_t textSize) {
+    const host::BookRecord there = bookOf(0, notes, 1, textSize);
+    const host::BookRecord incoming = bookOf(notes / 2, notes + notes / 2, 2, textSize);
     std::string document;
     {
         const ScratchDirectory elsewhere;
-        merge({bookOf(notes / 2, notes + notes / 2, 2, textSize)});
+        merge({incoming});
         document = documentOf(exported());
+        merge({there});
+        after_ = recordsOnDevice();
     }
     writeFile(kDocument, document);
     putOnDevice({kBook, "Book", "Author", "", {}});
-    merge({bookOf(0, notes, 1, textSize)});
+    merge({there});
     before_ = recordsOnDevice();
     std::filesystem::copy("mnt", "saved", std::filesystem::copy_options::recursive);
-    CExporter(kBook, "Notes").importFile(kDocument);
-    after_ = recordsOnDevice();
-    restore();
 }
 
 void IncomingNotes::restore() const {

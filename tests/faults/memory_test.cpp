@@ -16,8 +16,9 @@ protected:
     template <class Call, class Check>
     void failEveryAllocation(Call call, Check check) {
         call();  // what stays for the life of the process is there from now on
-        bool failed = true;
-        for (long nth = 1; failed; ++nth) {
+        long nth = 0;
+        for (bool failed = true; failed;) {
+            ++nth;
             restore();
             const long live = liveAllocations();
             bool arrived = false;
@@ -32,6 +33,7 @@ protected:
             EXPECT_EQ(liveAllocations(), live) << "allocation " << nth;
             check(arrived);
         }
+        EXPECT_GT(nth, 50);
     }
 };
 

@@ -62,7 +62,7 @@ TEST_F(Store, MergeThatFailsHalfwayLeavesNoTrace) {
     EXPECT_EQ(store.merge(sampleBooks()), 4) << "the connection is still of use";
 }
 
-TEST_F(Store, IsCreatedOnceByManyAtTheSameTime) {
+TEST_F(Store, IsCreatedOnceByManyThreads) {
     const std::vector<host::BookRecord> books = sampleBooks();
     for (int round = 0; round < 20; ++round) {
         const ScratchDirectory device;
