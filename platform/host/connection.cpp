@@ -1,9 +1,10 @@
 #include "connection.h"
 
 #include <SQLiteCpp/Exception.h>
-#include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
 
 #include <filesystem>
+#include <new>
 #include <stdexcept>
 
 namespace host {
@@ -16,6 +17,9 @@ decltype(auto) naming(const std::string& path, Action action) {
     try {
         return action();
     } catch (const SQLite::Exception& error) {
+        if (error.getErrorCode() == SQLITE_NOMEM) {
+            throw std::bad_alloc();
+        }
         throw std::runtime_error(path + ": " + error.what());
     }
 }
@@ -28,15 +32,6 @@ SQLite::Database openFile(const std::string& path) {
     return naming(path, [&] {
         return SQLite::Database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
                                 kBusyTimeoutMs);
-    });
-}
-
-void transact(SQLite::Database& database, const std::string& path,
-              SQLite::TransactionBehavior behavior, const std::function<void()>& work) {
-    naming(path, [&] {
-        SQLite::Transaction transaction(database, behavior);
-        work();
-        transaction.commit();
     });
 }
 
@@ -72,11 +67,26 @@ Connection::Connection(const std::string& path, const Schema& schema)
 }
 
 void Connection::write(const std::function<void()>& work) {
-    transact(database_, path_, SQLite::TransactionBehavior::IMMEDIATE, work);
+    transact("BEGIN IMMEDIATE", work);
 }
 
-void Connection::read(const std::function<void()>& work) {
-    transact(database_, path_, SQLite::TransactionBehavior::DEFERRED, work);
+void Connection::read(const std::function<void()>& work) { transact("BEGIN", work); }
+
+// Not SQLite::Transaction: when memory is too short for its destructor to roll back, that
+// throws and ends the process.
+void Connection::transact(const char* begin, const std::function<void()>& work) {
+    SQLite::Statement& rollback = prepared("ROLLBACK");  // while there is memory
+    naming(path_, [&] {
+        database_.exec(begin);
+        try {
+            work();
+            database_.exec("COMMIT");
+        } catch (...) {
+            rollback.tryExecuteStep();
+            rollback.tryReset();
+            throw;
+        }
+    });
 }
 
 void Connection::bringUpToDate(const Schema& schema) {

@@ -63,7 +63,8 @@ private:
     const std::string& path_;
 };
 
-// Serves one thread at a time. Every failure is a std::runtime_error that names the file.
+// Serves one thread at a time. Every failure is a std::runtime_error that names the file,
+// but for std::bad_alloc.
 class Connection {
 public:
     // Opens the database at `path`. Missing directories, the file and its tables are
@@ -84,6 +85,7 @@ public:
     void read(const std::function<void()>& work);
 
 private:
+    void transact(const char* begin, const std::function<void()>& work);
     void bringUpToDate(const Schema& schema);
     std::int64_t schemaVersion();
     SQLite::Statement& prepared(const char* sql);

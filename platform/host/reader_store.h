@@ -23,7 +23,8 @@ struct BookEntry {
 };
 
 // One connection to the database; serves one thread at a time. Every failure is an
-// exception of the std::runtime_error family that names the file and what is wrong with it.
+// exception of the std::runtime_error family that names the file and what is wrong with it,
+// but for std::bad_alloc.
 class ReaderStore {
 public:
     // Opens the database at `path`, creating it, and the directories to it, when missing.

@@ -1,9 +1,14 @@
 #include "failing_allocations.h"
 
+#include <libxml/xmlmemory.h>
+#include <sqlite3.h>
+
 #include <atomic>
 #include <climits>
 #include <cstdlib>
+#include <cstring>
 #include <new>
+#include <stdexcept>
 
 namespace {
 
@@ -12,28 +17,81 @@ constexpr long kNever = LONG_MAX;
 std::atomic<long> live{0};
 std::atomic<long> left{kNever};  // allocations up to the one that fails
 bool failsOn = false;
+Failed first = Failed::kNothing;
 
-bool fails() {
+bool fails(Failed kind) {
     if (left == kNever) {
         return false;
     }
     const long before = left--;
+    first = before == 1 ? kind : first;
     return before == 1 || (before < 1 && failsOn);
 }
+
+void* allocate(std::size_t size) {
+    return fails(Failed::kOther) ? nullptr : std::malloc(size);
+}
+
+void* reallocate(void* block, std::size_t size) {
+    return fails(Failed::kOther) ? nullptr : std::realloc(block, size);
+}
+
+char* duplicate(const char* text) { return fails(Failed::kOther) ? nullptr : strdup(text); }
+
+// SQLite asks for the size of its blocks: it stands in front of each.
+constexpr int kHeader = 16;
+
+char* start(void* block) { return static_cast<char*>(block) - kHeader; }
+
+void* withSize(void* block, int size) {
+    return block == nullptr
+               ? nullptr
+               : static_cast<char*>(std::memcpy(block, &size, sizeof size)) + kHeader;
+}
+
+std::size_t whole(int size) { return static_cast<std::size_t>(size) + kHeader; }
+
+bool interceptLibraries() {
+    sqlite3_mem_methods methods = {};
+    methods.xMalloc = [](int size) { return withSize(allocate(whole(size)), size); };
+    methods.xFree = [](void* block) { std::free(start(block)); };
+    methods.xRealloc = [](void* block, int size) {
+        return withSize(reallocate(start(block), whole(size)), size);
+    };
+    methods.xSize = [](void* block) {
+        int size = 0;
+        std::memcpy(&size, start(block), sizeof size);
+        return size;
+    };
+    methods.xRoundup = [](int size) { return (size + 7) & ~7; };
+    methods.xInit = [](void*) { return SQLITE_OK; };
+    methods.xShutdown = [](void*) {};
+    return sqlite3_config(SQLITE_CONFIG_MALLOC, &methods) == SQLITE_OK &&
+           xmlMemSetup(std::free, allocate, reallocate, duplicate) == 0;
+}
+
+const bool intercepted = interceptLibraries();  // before either is used
 
 }  // namespace
 
 void failAllocation(long nth, Shortage shortage) {
+    if (!intercepted) {
+        throw std::logic_error("the libraries allocate by other means");
+    }
     failsOn = shortage == Shortage::kFromThenOn;
+    first = Failed::kNothing;
     left = nth;
 }
 
-bool endShortage() { return left.exchange(kNever) <= 0; }
+Failed endShortage() {
+    left = kNever;
+    return first;
+}
 
 long liveAllocations() { return live; }
 
 void* operator new(std::size_t size) {
-    void* block = fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
+    void* block = fails(Failed::kNew) ? nullptr : std::malloc(size == 0 ? 1 : size);
     if (block == nullptr) {
         throw std::bad_alloc();
     }

@@ -1,4 +1,5 @@
-// The allocations of this process with `new`, counted and failed at will.
+// The allocations of this process, by `new`, SQLite and libxml2, counted and failed at
+// will.
 #pragma once
 
 enum class Shortage { kOnce, kFromThenOn };
@@ -6,8 +7,10 @@ enum class Shortage { kOnce, kFromThenOn };
 // Lets the `nth` allocation from here on fail, and with kFromThenOn all that follow it.
 void failAllocation(long nth, Shortage shortage);
 
-// Lets allocations succeed again. Tells whether one had failed.
-bool endShortage();
+enum class Failed { kNothing, kNew, kOther };
 
-// Blocks that are allocated and not released.
+// Lets allocations succeed again. Tells which one failed first.
+Failed endShortage();
+
+// Blocks that are allocated with `new` and not released.
 long liveAllocations();

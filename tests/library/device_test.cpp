@@ -1,7 +1,5 @@
 #include "device_test.h"
 
-#include <regex>
-
 namespace library_tests {
 
 void loadSampleBook() {
@@ -29,14 +27,6 @@ Exporter::Exporter() {
 }
 
 std::string golden(const std::string& name) { return readFile(GOLDEN_DIR "/" + name); }
-
-std::string withoutDate(std::string document) {
-    std::smatch date;
-    const std::regex dates("\\d{4}(-\\d\\d){2} \\d\\d(:\\d\\d){2}");
-    return std::regex_search(document, date, dates)
-               ? std::regex_replace(document, std::regex(date.str()), "@DATE@")
-               : document;
-}
 
 bool startsWith(const std::string& text, const std::string& start) {
     return text.compare(0, start.size(), start) == 0;

@@ -47,9 +47,6 @@ struct Exporter : veloran::NotesExporterImpl {
 
 std::string golden(const std::string& name);
 
-// The document with its first date, and whatever repeats it, replaced by "@DATE@".
-std::string withoutDate(std::string document);
-
 bool startsWith(const std::string& text, const std::string& start);
 
 // One line each.

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 std::string readFile(const std::string& path) {
@@ -13,4 +14,12 @@ std::string readFile(const std::string& path) {
 void writeFile(const std::string& path, const std::string& content) {
     std::filesystem::create_directories(std::filesystem::absolute(path).parent_path());
     std::ofstream(path, std::ios::binary) << content;
+}
+
+std::string withoutDate(std::string document) {
+    std::smatch date;
+    const std::regex dates("\\d{4}(-\\d\\d){2} \\d\\d(:\\d\\d){2}");
+    return std::regex_search(document, date, dates)
+               ? std::regex_replace(document, std::regex(date.str()), "@DATE@")
+               : document;
 }
