@@ -1,12 +1,8 @@
 #include "book_notes.h"
 
-#include "complaint.h"
+#include "readerlib/position_uri.h"
+#include "unknown_book.h"
 #include "utilities/reader_db_manager.h"
-
-void complainAboutUnknownBook(const std::string& hash) {
-    throw Complaint("No book has the hash " + hash +
-                    ". \"notes-export books\" lists them.");
-}
 
 namespace {
 
@@ -31,4 +27,11 @@ std::vector<veloran::utilities::Note> notesOf(const std::string& hash) {
         notes.push_back(readerDb.getNote(key.first));
     }
     return notes;
+}
+
+std::optional<double> pageOf(const veloran::utilities::Note& note) {
+    double page = 0;
+    return Veloran::ReaderLib::extractPageFromnURI(note.getAnchorUri(), page)
+               ? std::optional(page)
+               : std::nullopt;
 }

@@ -1,34 +1,14 @@
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
-#include <charconv>
-#include <filesystem>
 #include <functional>
 
 #include "commands.h"
-#include "complaint.h"
-#include "device_paths.h"
+#include "device_folder.h"
+#include "examples.h"
+#include "misuse.h"
 
 namespace {
-
-namespace fs = std::filesystem;
-
-// A path as the caller means it, whichever folder the device is in.
-void makeAbsolute(std::string& path) {
-    if (!path.empty()) {
-        path = fs::absolute(path).string();
-    }
-}
-
-// Stricter than the parser, which takes signs and octal numbers and lets large ones wrap.
-std::string isIdentifier(const std::string& text) {
-    unsigned long long id = 0;
-    const char* end = text.data() + text.size();
-    const auto parsed = std::from_chars(text.data(), end, id);
-    return parsed.ec == std::errc() && parsed.ptr == end && text[0] != '0'
-               ? std::string()
-               : text + " is not the identifier of a note";
-}
 
 class CommandLine {
 public:
@@ -36,16 +16,17 @@ public:
     int run(int argc, const char* const* argv);
 
 private:
-    enum class Device { MayBeEmpty, MustExist };
-
     CLI::App* addCommand(const char* name, const char* description, Device device,
                          std::function<void()> action);
     void addFileCommands();
-    void addListCommands();
-    void addExportCommands();
+    void addBooks();
+    void addNotes();
+    void addExport();
+    void addName();
     void addHash(CLI::App* command);
+    void addFormat(CLI::App* command);
     void addDirectory(CLI::App* command);
-    void enterDevice(Device device);
+    void resolvePaths();
 
     CLI::App app_{
         "Exports the notes of a book into one file that any browser opens, and "
@@ -53,18 +34,24 @@ private:
         "notes-export"};
     std::string device_;
     std::string file_;
+    Format format_ = Format::Lines;
     ExportRequest request_;
 };
 
 CommandLine::CommandLine() {
     app_.require_subcommand(1);
+    app_.failure_message(misuse);
+    app_.set_version_flag("--version", "notes-export " NOTES_EXPORT_VERSION);
     app_.add_option("-C", device_,
                     "The folder that holds the device (default: this folder)")
         ->type_name("DIR")
-        ->check(CLI::ExistingDirectory);
+        ->check(CLI::Validator(CLI::ExistingDirectory).description(""));
     addFileCommands();
-    addListCommands();
-    addExportCommands();
+    addBooks();
+    addNotes();
+    addExport();
+    addName();
+    app_.footer(examples::kAll);  // last, as commands take over the one there is
 }
 
 int CommandLine::run(int argc, const char* const* argv) {
@@ -85,7 +72,8 @@ CLI::App* CommandLine::addCommand(const char* name, const char* description, Dev
                                   std::function<void()> action) {
     CLI::App* command = app_.add_subcommand(name, description);
     command->callback([this, device, action = std::move(action)] {
-        enterDevice(device);
+        resolvePaths();
+        enterDevice(device_, device);
         action();
     });
     return command;
@@ -102,14 +90,23 @@ void CommandLine::addFileCommands() {
         ->required();
 }
 
-void CommandLine::addListCommands() {
-    addCommand("books", "List the books: hash, title, author", Device::MustExist,
-               listBooks);
-    addHash(addCommand("notes", "List a book's notes: identifier, page, colour, text",
-                       Device::MustExist, [this] { listNotes(request_.hash); }));
+void CommandLine::addBooks() {
+    CLI::App* books = addCommand("books", "List the books: hash, title, author",
+                                 Device::MustExist, [this] { listBooks(format_); });
+    addFormat(books);
+    books->footer(examples::kBooks);
 }
 
-void CommandLine::addExportCommands() {
+void CommandLine::addNotes() {
+    CLI::App* notes =
+        addCommand("notes", "List a book's notes: identifier, page, colour, text",
+                   Device::MustExist, [this] { listNotes(request_.hash, format_); });
+    addHash(notes);
+    addFormat(notes);
+    notes->footer(examples::kNotes);
+}
+
+void CommandLine::addExport() {
     CLI::App* exporting =
         addCommand("export", "Export a book's notes and print the path of the file",
                    Device::MustExist, [this] { exportNotes(request_); });
@@ -124,7 +121,10 @@ void CommandLine::addExportCommands() {
         ->type_name("ORDER")
         ->check(CLI::IsMember({"page", "id", "newest"}));
     addDirectory(exporting);
+    exporting->footer(examples::kExport);
+}
 
+void CommandLine::addName() {
     CLI::App* naming =
         addCommand("name", "Print the path of the file that an export would write",
                    Device::MustExist, [this] { printName(request_); });
@@ -137,6 +137,12 @@ void CommandLine::addHash(CLI::App* command) {
         ->required();
 }
 
+void CommandLine::addFormat(CLI::App* command) {
+    command->add_flag_callback(
+        "--json", [this] { format_ = Format::Json; },
+        "Print one JSON array, with every field");
+}
+
 void CommandLine::addDirectory(CLI::App* command) {
     command
         ->add_option("--dir", request_.directory,
@@ -144,20 +150,11 @@ void CommandLine::addDirectory(CLI::App* command) {
         ->type_name("DIR");
 }
 
-// The library finds the device in the working directory. Paths that the caller types, and
-// those printed, stay relative to the caller's own.
-void CommandLine::enterDevice(Device device) {
+// Paths that the caller types, and those printed, stay relative to the caller's own folder.
+void CommandLine::resolvePaths() {
     makeAbsolute(file_);
     makeAbsolute(request_.directory);
-    if (!device_.empty()) {
-        request_.deviceFolder = device_;
-        fs::current_path(device_);
-    }
-    if (device == Device::MustExist && !fs::exists(host::kReaderDatabasePath)) {
-        throw Complaint(
-            "There is no device in " + fs::current_path().string() +
-            ". Name its folder with -C, or make one with \"notes-export load\".");
-    }
+    request_.deviceFolder = device_;
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The client's commands. Each prints its results on standard output, one a line, and
-// reports what went wrong as an exception.
+// The client's commands. Each prints its results on standard output, one a line unless it
+// says otherwise, and reports what went wrong as an exception.
 #pragma once
 
 #include <string>
@@ -9,11 +9,15 @@
 // notes were added or changed.
 void load(const std::string& file);
 
-// Prints hash, title and author of every book, separated by tabs.
-void listBooks();
+enum class Format { Lines, Json };
 
-// Prints identifier, page, colour and text of every note of the book, separated by tabs.
-void listNotes(const std::string& hash);
+// Prints every book: in lines its hash, title and author, separated by tabs, or in one JSON
+// array all that is known of it.
+void listBooks(Format format);
+
+// Prints every note of the book: in lines its identifier, page, colour and text, separated
+// by tabs, or in one JSON array all fields, of the picture its size in bytes.
+void listNotes(const std::string& hash, Format format);
 
 struct ExportRequest {
     std::string hash;

@@ -7,3 +7,6 @@
 struct Complaint : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
+
+// What every complaint on standard error starts with: the program's name.
+const char* complaintStart();

@@ -8,6 +8,8 @@
 #include "commands.h"
 #include "complaint.h"
 #include "exporter.h"
+#include "progress_line.h"
+#include "unknown_book.h"
 
 namespace {
 
@@ -70,9 +72,9 @@ std::string shown(const ExportRequest& request, const std::string& path) {
     return (std::filesystem::path(request.deviceFolder) / path).string();
 }
 
-}  // namespace
-
-void exportNotes(const ExportRequest& request) {
+// The path of the file that now holds the notes.
+std::string exported(const ExportRequest& request) {
+    const ProgressLine progress("Exporting");
     Timestamps times;
     if (!request.noteIds.empty() || request.order == "newest") {
         const std::vector<Note> notes = notesOf(request.hash);
@@ -85,8 +87,12 @@ void exportNotes(const ExportRequest& request) {
         complainAboutUnknownBook(request.hash);
     }
     checkThatFileIsWhole(path, shown(request, path));
-    std::cout << shown(request, path) << '\n';
+    return shown(request, path);
 }
+
+}  // namespace
+
+void exportNotes(const ExportRequest& request) { std::cout << exported(request) << '\n'; }
 
 void printName(const ExportRequest& request) {
     complainUnlessKnown(request.hash);

@@ -5,6 +5,7 @@
 #include "exporter.h"
 #include "files.h"
 #include "import_result.h"
+#include "progress_line.h"
 
 namespace {
 
@@ -30,12 +31,17 @@ std::string reason(int result) {
     }
 }
 
+int callLibrary(const std::string& file) {
+    const ProgressLine progress("Importing");
+    const Exporter exporter;
+    return notes_exporter_import_from_file(exporter.handle(), file.c_str());
+}
+
 }  // namespace
 
 void importNotes(const std::string& file) {
     complainUnlessReadable(file);  // before the exporter makes a device for it
-    const Exporter exporter;
-    const int result = notes_exporter_import_from_file(exporter.handle(), file.c_str());
+    const int result = callLibrary(file);
     if (result == kException) {
         throw Complaint("The import of " + file +
                         " failed part-way: its notes may be in, but the file could not be "

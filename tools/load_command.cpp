@@ -5,11 +5,15 @@
 #include "device_paths.h"
 #include "files.h"
 #include "library_store.h"
+#include "progress_line.h"
 #include "reader_store.h"
 #include "utilities/serialization_utils.h"
 
-void load(const std::string& file) {
+namespace {
+
+int loaded(const std::string& file) {
     using veloran::utilities::SerializationUtils;
+    const ProgressLine progress("Loading");
     DeviceFile device = readDeviceFile(file);
     host::LibraryStore library(host::kLibraryDatabasePath);
     std::vector<host::BookRecord> records;
@@ -22,5 +26,9 @@ void load(const std::string& file) {
     if (!device.styleSheet.empty()) {
         writeFile(host::kNoteStyleSheetPath, device.styleSheet);
     }
-    std::cout << host::ReaderStore(host::kReaderDatabasePath).merge(records) << '\n';
+    return host::ReaderStore(host::kReaderDatabasePath).merge(records);
 }
+
+}  // namespace
+
+void load(const std::string& file) { std::cout << loaded(file) << '\n'; }

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
         }
         return status;
     } catch (const std::exception& error) {
-        std::cerr << "notes-export: " << error.what() << '\n';
+        std::cerr << complaintStart() << error.what() << '\n';
         return 1;
     }
 }

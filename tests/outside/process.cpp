@@ -17,6 +17,14 @@ std::string quoted(const std::string& word) {
     return result + "' ";
 }
 
+std::string quoted(const std::vector<std::string>& words) {
+    std::string command;
+    for (const std::string& word : words) {
+        command += quoted(word);
+    }
+    return command;
+}
+
 }  // namespace
 
 std::vector<std::string> linesOf(const std::string& text) {
@@ -29,11 +37,12 @@ std::vector<std::string> linesOf(const std::string& text) {
 }
 
 Outcome run(const std::vector<std::string>& words) {
-    std::string command;
-    for (const std::string& word : words) {
-        command += quoted(word);
-    }
-    const int status = std::system((command + ">.out 2>.err </dev/null").c_str());
+    const int status = std::system((quoted(words) + ">.out 2>.err </dev/null").c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(".out"),
             readFile(".err")};
+}
+
+Outcome runOnTerminal(const std::vector<std::string>& words) {
+    return run({"script", "--quiet", "--return", "--echo", "never", "--command",
+                quoted(words), "/dev/null"});
 }

@@ -13,4 +13,7 @@ struct Outcome {
 // Runs `words` (the program's path first) in the working directory.
 Outcome run(const std::vector<std::string>& words);
 
+// The same on a terminal, which is where the output and the errors then go, as `out`.
+Outcome runOnTerminal(const std::vector<std::string>& words);
+
 std::vector<std::string> linesOf(const std::string& text);

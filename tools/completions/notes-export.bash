@@ -1,0 +1,80 @@
+# Completes the command line of notes-export: commands, options, the hashes of the books on
+# the device that -C names, and files.
+
+# The word as the shell would pass it on, but for variables.
+_notes_export_plain() {
+    local word=${1/#'~/'/$HOME/}
+    word=${word//\\/}
+    printf '%s' "${word//[\"\']/}"
+}
+
+# Sets the caller's command, device and hash from the words before the current one.
+_notes_export_read_line() {
+    local i
+    for ((i = 1; i < COMP_CWORD; i++)); do
+        case ${COMP_WORDS[i]} in
+            -C)
+                ((++i))
+                device=$(_notes_export_plain "${COMP_WORDS[i]}")
+                ;;
+            --note | --order | --dir) ((++i)) ;;
+            -*) ;;
+            *)
+                if [[ -z $command ]]; then
+                    command=${COMP_WORDS[i]}
+                else
+                    argument=${COMP_WORDS[i]}
+                fi
+                ;;
+        esac
+    done
+}
+
+# Prints the books' hashes, and beside them the titles where readline lists the choices.
+_notes_export_books() {
+    local program hash title
+    program=$(_notes_export_plain "${COMP_WORDS[0]}")
+    "$program" -C "$device" books 2>/dev/null | while IFS=$'\t' read -r hash title _; do
+        [[ $hash == "$1"* ]] || continue
+        case ${COMP_TYPE-} in
+            33 | 63 | 64) printf '%s  %s\n' "$hash" "$title" ;;
+            *) printf '%s\n' "$hash" ;;
+        esac
+    done
+}
+
+# What may stand where no option's value is wanted.
+_notes_export_words() {
+    local -A options=([books]='--json' [notes]='--json'
+        [export]='--note --order --dir' [name]='--dir')
+    if [[ -z $command && $1 == -* ]]; then
+        compgen -W '-C --help --version' -- "$1"
+    elif [[ -z $command ]]; then
+        compgen -W 'load import books notes export name' -- "$1"
+    elif [[ $1 == -* ]]; then
+        compgen -W "${options[$command]-} --help" -- "$1"
+    elif [[ -z $argument && $command =~ ^(notes|export|name)$ ]]; then
+        _notes_export_books "$1"
+    fi
+}
+
+_notes_export() {
+    local command='' device=. argument='' current=${COMP_WORDS[COMP_CWORD]}
+    COMPREPLY=()
+    _notes_export_read_line
+    case ${COMP_WORDS[COMP_CWORD - 1]} in
+        -C | --dir)
+            compopt -o dirnames
+            return
+            ;;
+        --note) return ;;
+        --order) mapfile -t COMPREPLY < <(compgen -W 'page id newest' -- "$current") ;;
+        *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;
+    esac
+    # Readline itself quotes the names of files.
+    if [[ $command =~ ^(load|import)$ && -z $argument && $current != -* ]]; then
+        compopt -o default
+    fi
+}
+
+complete -F _notes_export notes-export

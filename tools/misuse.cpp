@@ -1,0 +1,23 @@
+#include "misuse.h"
+
+#include <charconv>
+
+#include "complaint.h"
+
+std::string isIdentifier(const std::string& text) {
+    unsigned long long id = 0;
+    const char* end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, id);
+    return parsed.ec == std::errc() && parsed.ptr == end && text[0] != '0'
+               ? std::string()
+               : text + " is not the identifier of a note";
+}
+
+std::string misuse(const CLI::App* app, const CLI::Error& error) {
+    std::string command = app->get_name();
+    for (const CLI::App* typed : app->get_subcommands()) {
+        command += " " + typed->get_name();
+    }
+    return complaintStart() + std::string(error.what()) + "\n\"" + command +
+           " --help\" tells what can be typed.\n";
+}

@@ -1,0 +1,12 @@
+// What is wrong with what the user typed.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+// The parser's check of a note's identifier: empty, or what is wrong. Stricter than the
+// parser itself, which takes signs and octal numbers and lets large ones wrap.
+std::string isIdentifier(const std::string& text);
+
+// The parser's error as the user reads it, with the help text to turn to.
+std::string misuse(const CLI::App* app, const CLI::Error& error);
