@@ -20,6 +20,14 @@ if(NOTES_EXPORT_SANITIZE)
   add_compile_options(-fsanitize=${NOTES_EXPORT_SANITIZE} -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${NOTES_EXPORT_SANITIZE})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    add_compile_options(
+      -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/sanitizer_exceptions.txt)
+  endif()
+endif()
+
+if(NOTES_EXPORT_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 find_package(PkgConfig REQUIRED)

@@ -9,7 +9,9 @@ namespace veloran::system::filesystem {
 
 bool IsFileExist(const std::string& path) {
     std::error_code unreachable;
-    return std::filesystem::exists(std::filesystem::symlink_status(path, unreachable));
+    // The system would look for what stands before a zero byte.
+    return path.find('\0') == std::string::npos &&
+           std::filesystem::exists(std::filesystem::symlink_status(path, unreachable));
 }
 
 std::string GetFileNameFromPath(const std::string& path) {

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "document.h"
 #include "files.h"
 #include "readerlib/database.h"
 #include "readerlib/import_export_db.h"
@@ -25,9 +26,6 @@ private:
     Veloran::ReaderLib::DataBase database_;
     Veloran::ReaderLib::ImportExportDBV2 engine_{&database_, 10, 3};
 };
-
-// The exported document around the payload; `head` goes before the dump's element.
-std::string documentOf(const std::string& payload, const std::string& head = "");
 
 // What importing the document gives.
 int imported(const std::string& document);

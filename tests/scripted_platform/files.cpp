@@ -32,7 +32,9 @@ namespace veloran::system::filesystem {
 bool IsFileExist(const std::string& path) {
     recordCall("IsFileExist(" + path + ")");
     std::error_code error;
-    return std::filesystem::exists(std::filesystem::symlink_status(path, error));
+    return script().existing.count(path) > 0 ||
+           (path.find('\0') == std::string::npos &&
+            std::filesystem::exists(std::filesystem::symlink_status(path, error)));
 }
 
 std::string GetFileNameFromPath(const std::string& path) {

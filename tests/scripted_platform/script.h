@@ -40,8 +40,9 @@ struct Script {
     int importResult = 0;
 
     // Files
-    std::string hashText;           // of every readable file
-    std::optional<int> hashResult;  // in place of the length of `hashText`
+    std::set<std::string> existing;  // paths, besides those on disk
+    std::string hashText;            // of every readable file
+    std::optional<int> hashResult;   // in place of the length of `hashText`
 
     // Every call in order, as text; then `onCall` is told, and what it throws, the call
     // throws. Destructors and closing, which must not fail, are recorded only.

@@ -1,4 +1,4 @@
-// Records in the stand-in's reader database, and their dumps.
+// Records in the reader database of the stand-in's device.
 #pragma once
 
 #include <string>
@@ -8,13 +8,7 @@
 #include "engine.h"
 #include "note_tags.h"
 #include "reader_store.h"
-
-// Everything in the records as text, so that a difference shows.
-std::string show(const std::vector<host::BookRecord>& books);
-
-// Two books in the dump's order, with every kind of tag and string: unknown tags, bytes
-// that are no text, a uuid of two notes.
-std::vector<host::BookRecord> sampleBooks();
+#include "sample_records.h"
 
 // What the device's reader database holds, as records and as bytes.
 std::string recordsOnDevice();
@@ -25,7 +19,3 @@ int merge(const std::vector<host::BookRecord>& books);
 
 // The payload of the device's first two books.
 std::string exported();
-
-// The payloads that hold `text`, and a dump of the books that the JSON text lists.
-std::string gzipped(const std::string& text);
-std::string dumpOf(const std::string& books);

@@ -1,0 +1,166 @@
+// Exports of any texts, read back by an XML parser. The input holds title and author, then
+// notes: identifier, colour, page, text, comment and picture.
+#include "canonical_xml.h"
+#include "export/notes_exporter_impl.h"
+#include "files.h"
+#include "fuzz_target.h"
+#include "scratch_directory.h"
+#include "script.h"
+#include "utilities/serialization_utils.h"
+
+namespace {
+
+using scripted::NoteFields;
+using scripted::script;
+
+constexpr char kBook[] = "626f6f6b";
+
+std::vector<NoteFields> notesOf(const std::vector<std::string>& records) {
+    std::vector<NoteFields> notes;
+    for (std::size_t id = 1; id < records.size(); ++id) {
+        const auto note = fuzz::fieldsOf(records[id], '\x1f', 6);
+        notes.push_back({id, note[0], note[1], note[3], note[5], note[4], note[2]});
+    }
+    return notes;
+}
+
+long pageOf(const NoteFields& note) {
+    return std::strtol(note.anchor.c_str(), nullptr, 10);
+}
+
+std::string exported(const scripted::LibraryBook& book,
+                     const std::vector<NoteFields>& notes) {
+    script() = {};
+    script().libraryIds["book"] = 7;
+    script().libraryBooks[7] = book;
+    script().itemIds[kBook] = 42;
+    script().fastHashes[42] = kBook;
+    script().payload = "records";
+    for (const NoteFields& note : notes) {
+        scripted::addNote(kBook, note);
+        script().pages[note.anchor] = static_cast<double>(pageOf(note));
+    }
+    veloran::NotesExporterImpl exporter;
+    exporter.setExportDir("Notes");
+    const std::string path = exporter.getExportFilename(kBook);
+    const auto asInInput = [](long long a, long long b) { return a < b; };
+    fuzz::check(exporter.export_bookmarks_to_html(kBook, {}, asInInput) == 0,
+                "it succeeds");
+    return fuzz::canonical(fuzz::legal(readFile(path)));
+}
+
+using Replacements = std::vector<std::pair<std::string, std::string>>;
+
+// The field up to its first zero byte, with one replacement after the other.
+std::string rewritten(const std::string& field, const Replacements& replacements) {
+    std::string text = fuzz::legal(field.c_str());
+    for (const auto& [from, to] : replacements) {
+        for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos;) {
+            text.replace(at, from.size(), to);
+            at += to.size();
+        }
+    }
+    return text;
+}
+
+// What Canonical XML has for a field. Parsers see one kind of line end, and in attributes
+// nothing but spaces.
+std::string text(const std::string& field) {
+    return rewritten(
+        field,
+        {{"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\r\n", "\n"}, {"\r", "\n"}});
+}
+
+std::string attribute(const std::string& field) {
+    return rewritten(field, {{"&", "&amp;"},
+                             {"<", "&lt;"},
+                             {"\"", "&quot;"},
+                             {"\r\n", " "},
+                             {"\r", " "},
+                             {"\n", " "},
+                             {"\t", " "}});
+}
+
+std::string paragraphs(const std::string& field) {
+    return "<p>" +
+           rewritten(field, {{"&", "&amp;"},
+                             {"<", "&lt;"},
+                             {">", "&gt;"},
+                             {"\u2028", "<br></br>"},
+                             {"\n", "<br></br>"},
+                             {"\u2029", "</p><p>"},
+                             {"\r", "\n"}}) +
+           "</p>";
+}
+
+std::string picture(const std::string& image) {
+    using veloran::utilities::SerializationUtils;
+    return "<img src=\"data:image/jpeg;base64," + SerializationUtils::ToBase64(image) +
+           "\"></img>";
+}
+
+std::string block(const std::string& name, const std::string& field,
+                  std::string (*contentOf)(const std::string&)) {
+    return field.empty() ? ""
+                         : "\n      <div class=\"" + name + "\">\n        " +
+                               contentOf(field) + "\n      </div>";
+}
+
+std::string expectedNote(const NoteFields& note) {
+    const long page = pageOf(note);
+    return "\n    <div class=\"bookmark bm-color-" +
+           (note.color.empty() ? "note" : attribute(note.color)) + "\" id=\"" +
+           attribute(note.uuid) + "\">\n      <p class=\"bm-page\">" +
+           (static_cast<int>(page) == page ? std::to_string(page) : "") + "</p>" +
+           block("bm-text", note.text, paragraphs) +
+           block("bm-image", note.image, picture) +
+           block("bm-note", note.comment, paragraphs) + "\n    </div>";
+}
+
+std::string heading(const std::string& content) {
+    return "\n    <div class=\"bookmark bm-color-note\">\n      " + content +
+           "\n    </div>";
+}
+
+std::string expected(const scripted::LibraryBook& book,
+                     const std::vector<NoteFields>& notes, const std::string& date) {
+    const std::string title = date + " - " + text(book.title);
+    std::string body = heading("<h1>" + title + "</h1>");
+    if (!book.author.empty()) {
+        body += heading("<span>" + text(book.author) + "</span>");
+    }
+    for (const NoteFields& note : notes) {
+        body += expectedNote(note);
+    }
+    return R"(<html xmlns="http://www.w3.org/1999/xhtml">
+  <head>
+    <meta content="Veloran Bookmarks Export" name="generator"></meta>
+    <meta charset="UTF-8"></meta>
+    <title>)" +
+           title + R"(</title>
+    <style type="text/css"><!--/*-->/*&gt;&lt;!--*/
+
+/**/--&gt;</style>
+    <script book_hash="626f6f6b" type="application/x-veloran-dbdump">cmVjb3Jkcw==</script>
+  </head>
+  <body>)" +
+           body + "\n  </body>\n</html>";
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const ScratchDirectory scratch;
+    const auto records =
+        fuzz::fieldsOf({reinterpret_cast<const char*>(data), size}, '\x1e');
+    const auto head = fuzz::fieldsOf(records[0], '\x1f', 2);
+    // A longer title would name no file.
+    const scripted::LibraryBook book = {head[0].substr(0, 200), head[1]};
+    const auto notes = notesOf(records);
+    const std::string document = exported(book, notes);
+    const std::string date = document.substr(document.find("<title>") + 7, 19);
+    fuzz::check(date.find_first_not_of("0123456789-: ") == std::string::npos, date);
+    const std::string wanted = expected(book, notes, date);
+    fuzz::check(document == wanted, document + "\nis " + wanted);
+    return 0;
+}
