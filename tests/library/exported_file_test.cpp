@@ -41,6 +41,11 @@ TEST_F(ExportedFile, ThatCannotBeCreatedChangesNoCallButTheMark) {
     writeFile("Notes", "not a directory");
     EXPECT_EQ(joined(callsOfExport()), joined(expected));
     EXPECT_EQ(readFile("Notes"), "not a directory");
+
+    Exporter exporter;
+    exporter.setExportDir(std::string("Notes\0", 6));
+    EXPECT_EQ(exporter.exportAll(), 0);
+    EXPECT_EQ(readFile("Notes"), "not a directory") << "what stands before a zero byte";
 }
 
 // Limits the size of every file that this process writes.
