@@ -8,10 +8,13 @@
 namespace veloran::system::filesystem {
 
 bool IsFileExist(const std::string& path) {
-    std::error_code unreachable;
-    // The system would look for what stands before a zero byte.
-    return path.find('\0') == std::string::npos &&
-           std::filesystem::exists(std::filesystem::symlink_status(path, unreachable));
+    if (path.find('\0') != std::string::npos) {
+        return false;  // the system would look for what stands before it
+    }
+    std::error_code failure;
+    const auto status = std::filesystem::symlink_status(path, failure);
+    // A file dated after 2038 is too large for a status whose times have 32 bits.
+    return std::filesystem::exists(status) || failure == std::errc::value_too_large;
 }
 
 std::string GetFileNameFromPath(const std::string& path) {

@@ -1,4 +1,5 @@
 // The seam's promises that a platform keeps by answering. Nothing here knows which it is.
+#include <cstdlib>
 #include <filesystem>
 
 #include "contract_test.h"
@@ -78,6 +79,8 @@ TEST_F(SeamContract, AnythingAtAPathExistsAndWhatCannotBeLookedUpDoesNot) {
     writeFile("file", "");
     std::filesystem::create_symlink("nowhere", "dangling");
     EXPECT_TRUE(IsFileExist("file") && IsFileExist(".") && IsFileExist("dangling"));
+    ASSERT_EQ(std::system("touch -d 2040-01-01 file"), 0);
+    EXPECT_TRUE(IsFileExist("file")) << "although its time takes more than 32 bits";
     EXPECT_FALSE(IsFileExist("") || IsFileExist("missing") || IsFileExist("file/below"));
     EXPECT_FALSE(IsFileExist(std::string(10000, 'x')) || IsFileExist({"file\0x", 6}));
 }

@@ -33,8 +33,9 @@ Ids ascendingIds(std::size_t count) {
 // A book of notes 1, 2, 3 … on those pages.
 void loadPages(const std::vector<int>& pages) {
     script() = {};
-    for (const unsigned long long id : ascendingIds(pages.size())) {
-        addNote(id, pages[id - 1]);
+    unsigned long long id = 0;
+    for (const int page : pages) {
+        addNote(++id, page);
     }
 }
 

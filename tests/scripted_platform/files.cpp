@@ -32,9 +32,12 @@ namespace veloran::system::filesystem {
 bool IsFileExist(const std::string& path) {
     recordCall("IsFileExist(" + path + ")");
     std::error_code error;
-    return script().existing.count(path) > 0 ||
-           (path.find('\0') == std::string::npos &&
-            std::filesystem::exists(std::filesystem::symlink_status(path, error)));
+    if (path.find('\0') != std::string::npos) {
+        return false;
+    }
+    const auto status = std::filesystem::symlink_status(path, error);
+    return script().existing.count(path) > 0 || std::filesystem::exists(status) ||
+           error == std::errc::value_too_large;
 }
 
 std::string GetFileNameFromPath(const std::string& path) {

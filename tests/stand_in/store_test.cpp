@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <cstdint>
+#include <ctime>
+#include <limits>
 #include <numeric>
 #include <string>
 #include <thread>
@@ -11,6 +14,10 @@
 #include "connection.h"
 #include "import_result.h"
 #include "reader_records.h"
+#include "utilities/reader_db_manager.h"
+
+using veloran::utilities::Note;
+using veloran::utilities::ReaderDbManager;
 
 namespace {
 
@@ -51,6 +58,15 @@ TEST_F(Store, MergeKeepsTheNewerOfEachTagAndDeletesNothing) {
         EXPECT_EQ(merge(bookWith(incoming, "other title")), after == before ? 0 : 1);
         EXPECT_EQ(recordsOnDevice(), after);
     }
+}
+
+TEST_F(Store, TimesBeyondThoseOfTheClockAreItsLimits) {
+    using Limits = std::numeric_limits<std::time_t>;
+    using Stored = std::numeric_limits<std::int64_t>;
+    merge(bookWith({{1, "", {}, Stored::max()}, {2, "", {}, Stored::min()}}, ""));
+    const Note note = ReaderDbManager().getNote("1");
+    EXPECT_EQ(note[Note::Tag{1}].timestamp, Limits::max());
+    EXPECT_EQ(note[Note::Tag{2}].timestamp, Limits::min());
 }
 
 TEST_F(Store, MergeThatFailsHalfwayLeavesNoTrace) {
