@@ -1,4 +1,5 @@
-/*
+/**
+ * @file
  * notes_export: writes the notes of one book into one self-contained XHTML file, and reads
  * such a file back into the reader database. This is the C interface.
  *
@@ -39,6 +40,7 @@
 #include <stddef.h>
 
 #if defined(__GNUC__)
+/** Marks what the shared object exports. */
 #define NOTES_EXPORT_API __attribute__((visibility("default")))
 #else
 #define NOTES_EXPORT_API
@@ -48,13 +50,14 @@
 namespace veloran {
 class NotesExporter;
 }
+/** An exporter; opaque to C. */
 typedef veloran::NotesExporter notes_exporter;
 extern "C" {
 #else
 typedef struct notes_exporter notes_exporter;
 #endif
 
-/*
+/**
  * Whether the note with the database identifier `first` comes before the note with the
  * identifier `second` in the document. `user_data` is the pointer that was passed beside
  * the function. The answers should form a strict weak ordering; whatever else they are, the
@@ -63,79 +66,80 @@ typedef struct notes_exporter notes_exporter;
  */
 typedef bool (*notes_exporter_before)(void* user_data, long long first, long long second);
 
-/*
+/**
  * Makes an exporter and opens the reader database. The export directory starts as
  * "/mnt/ext1/Notes".
  *
- * Returns the handle, owned by the caller until free_notes_exporter; never null. A database
+ * @return the handle, owned by the caller until free_notes_exporter; never null. A database
  * that cannot be opened is not reported here; the calls that need it fail.
  */
 NOTES_EXPORT_API notes_exporter* new_notes_exporter(void);
 
-/*
+/**
  * Sets the directory that receives exported files, for this handle's later exports and
  * file-name queries. It is taken as it stands: nothing is checked, added, removed or
  * created. A "/" is put between it and the file's name, so it should not end in one.
  *
- * exporter   the handle; not null
- * directory  the directory's path; not null; empty means the root directory
+ * @param exporter the handle; not null
+ * @param directory the directory's path; not null; empty means the root directory
  */
 NOTES_EXPORT_API void notes_exporter_set_export_dir(notes_exporter* exporter,
                                                     const char* directory);
 
-/*
+/**
  * Writes notes of one book into a new XHTML file under the export directory, creating
  * missing directories, and marks the file in the device's library database. The file is
  * named after the book's title; a name that is taken when the export begins gets a counter.
  *
- * exporter   the handle; not null
- * book_hash  the book; not null
- * note_ids   database identifiers of the notes to export, in any order; repeated ones count
- *            once, unknown ones are ignored; may be null when `count` is 0
- * count      number of elements of `note_ids`; 0 exports every note of the book
- * before     the notes' order in the document; null orders them by page, those of one page
- *            as the database has them; a note without a page counts as one of page 0
- * user_data  handed to `before` unchanged, never dereferenced; may be null
+ * @param exporter the handle; not null
+ * @param book_hash the book; not null
+ * @param note_ids database identifiers of the notes to export, in any order; repeated ones
+ * count once, unknown ones are ignored; may be null when `count` is 0
+ * @param count number of elements of `note_ids`; 0 exports every note of the book
+ * @param before the notes' order in the document; null orders them by page, those of one
+ * page as the database has them; a note without a page counts as one of page 0
+ * @param user_data handed to `before` unchanged, never dereferenced; may be null
  *
- * Returns -1 when the reader database does not know the book; nothing has been touched
+ * @return -1 when the reader database does not know the book; nothing has been touched
  * then. Returns 0 in every other case, also when the file could not be written.
  */
 NOTES_EXPORT_API int notes_exporter_export_bookmarks_to_html(
     notes_exporter* exporter, const char* book_hash, const unsigned long long* note_ids,
     size_t count, notes_exporter_before before, void* user_data);
 
-/*
+/**
  * Tells the full path of the file that an export of the book would write now. Once that
  * export is done, the answer is another path, which is free again. Creates nothing.
  *
- * exporter   the handle; not null
- * buffer     receives the path and its terminating zero byte; not null
- * size       capacity of `buffer` in bytes. A path of `size` bytes or more fills the buffer
- *            with its first `size` bytes and no zero byte; nothing tells that it was cut.
- *            0 leaves the buffer untouched.
- * book_hash  the book; not null. A book that no database knows gets its hash as the name.
+ * @param exporter the handle; not null
+ * @param buffer receives the path and its terminating zero byte; not null
+ * @param size capacity of `buffer` in bytes. A path of `size` bytes or more fills the
+ * buffer with its first `size` bytes and no zero byte; nothing tells that it was cut. 0
+ * leaves the buffer untouched.
+ * @param book_hash the book; not null. A book that no database knows gets its hash as the
+ * name.
  */
 NOTES_EXPORT_API void notes_exporter_get_exported_file_name(notes_exporter* exporter,
                                                             char* buffer, size_t size,
                                                             const char* book_hash);
 
-/*
+/**
  * Merges the records that an exported file carries into the reader database, and marks the
  * file in the device's library database.
  *
- * exporter  the handle; not null
- * path      the exported file; null gives -1
+ * @param exporter the handle; not null
+ * @param path the exported file; null gives -1
  *
- * Returns zero or more on success: the number that the device's import engine answers. A
+ * @return zero or more on success: the number that the device's import engine answers. A
  * negative number means failure: the engine's own, or -1 for an exception.
  */
 NOTES_EXPORT_API int notes_exporter_import_from_file(notes_exporter* exporter,
                                                      const char* path);
 
-/*
+/**
  * Ends a handle: closes its databases and releases its memory.
  *
- * exporter  the handle, not to be used again; null does nothing
+ * @param exporter the handle, not to be used again; null does nothing
  */
 NOTES_EXPORT_API void free_notes_exporter(notes_exporter* exporter);
 

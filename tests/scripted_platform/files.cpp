@@ -32,10 +32,8 @@ namespace veloran::system::filesystem {
 bool IsFileExist(const std::string& path) {
     recordCall("IsFileExist(" + path + ")");
     std::error_code error;
-    if (path.find('\0') != std::string::npos) {
-        return false;
-    }
-    const auto status = std::filesystem::symlink_status(path, error);
+    const bool looksUp = path.find('\0') == std::string::npos;
+    const auto status = std::filesystem::symlink_status(looksUp ? path : "", error);
     return script().existing.count(path) > 0 || std::filesystem::exists(status) ||
            error == std::errc::value_too_large;
 }

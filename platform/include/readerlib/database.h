@@ -1,4 +1,5 @@
-// The handle on the reader database.
+/// @file
+/// The handle on the reader database.
 #pragma once
 
 #include <memory>
@@ -6,22 +7,24 @@
 
 namespace SqliteCpp {
 
-// A connection to one SQLite-format database file. The library constructs it, opens it
-// (through DataBase below) and destroys it, all on one thread.
+/// A connection to one SQLite-format database file. The library constructs it, opens it
+/// (through DataBase below) and destroys it, all on one thread.
 class DB {
 public:
-    // A closed connection. Touches no file. May throw std::bad_alloc.
+    /// A closed connection. Touches no file. May throw std::bad_alloc.
     DB();
 
-    // Closes the connection if it is open. Throws nothing.
+    /// Closes the connection if it is open. Throws nothing.
     ~DB();
 
     DB(const DB&) = delete;
     DB& operator=(const DB&) = delete;
 
-    // What the platform keeps for an open connection; defined, created and read by the
-    // platform alone. Null while the connection is closed.
+    /// What the platform keeps for an open connection; defined, created and read by the
+    /// platform alone.
     struct State;
+
+    /// Null while the connection is closed.
     std::unique_ptr<State> state;
 };
 
@@ -29,14 +32,14 @@ public:
 
 namespace Veloran::ReaderLib {
 
-// The reader database: the books, and the notes that the user made in them.
+/// The reader database: the books, and the notes that the user made in them.
 class DataBase : public SqliteCpp::DB {
 public:
-    // Opens the handle on the database file `path`, replacing what was open before.
-    // `path` may be modified; the caller does not look at it again.
-    // Returns true when the database is open. The library ignores the result: an
-    // ImportExportDBV2 on a handle that is not open must answer its calls with
-    // failure, never crash. May throw exceptions derived from std::exception.
+    /// Opens the handle on the database file `path`, replacing what was open before.
+    /// `path` may be modified; the caller does not look at it again.
+    /// Returns true when the database is open. The library ignores the result: an
+    /// ImportExportDBV2 on a handle that is not open must answer its calls with
+    /// failure, never crash. May throw exceptions derived from std::exception.
     bool open(std::string& path);
 };
 

@@ -1,5 +1,6 @@
-// The record of one note: a bookmark, a marked passage with an optional comment, or a
-// note that carries a picture.
+/// @file
+/// The record of one note: a bookmark, a marked passage with an optional comment, or a
+/// note that carries a picture.
 #pragma once
 
 #include <json/value.h>
@@ -12,59 +13,60 @@
 
 namespace veloran::utilities {
 
-// A plain value: copied, moved and destroyed freely, shared between threads only while
-// nobody modifies it. Members marked "library" are defined by notes_export; the
-// platform defines the others. Whatever returns or copies text may throw std::bad_alloc.
+/// A plain value: copied, moved and destroyed freely, shared between threads only while
+/// nobody modifies it. Members marked "library" are defined by notes_export; the
+/// platform defines the others. Whatever returns or copies text may throw std::bad_alloc.
 class Note {
 public:
-    // What a tagged value says about the note. The platform uses further numbers.
+    /// What a tagged value says about the note. The platform uses further numbers.
     enum class Tag : std::int32_t {
-        Uuid = 1,      // `str`: the note's identifier
-        Anchor = 101,  // `json`: an object; "anchor" is the URI of the note's position
-        Range = 104,   // `json`: an object; "begin" is the URI where the passage starts
+        Uuid = 1,      ///< `str`: the note's identifier
+        Anchor = 101,  ///< `json`: an object; "anchor" is the URI of the note's position
+        Range = 104,   ///< `json`: an object; "begin" is the URI where the passage starts
     };
 
+    /// One tagged value.
     struct Value {
-        Value();                    // library: empty, stamped with the current time
-        Value(const Value& other);  // library
-        Value& operator=(const Value&) = default;
-        ~Value();  // library
+        Value();                    ///< library: empty, stamped with the current time
+        Value(const Value& other);  ///< library
+        Value& operator=(const Value&) = default;  ///< copies every member
+        ~Value();                                  ///< library
 
-        std::string str;
-        std::optional<Json::Value> json;
-        std::time_t timestamp;  // seconds since the Unix epoch
+        std::string str;                  ///< the value as text
+        std::optional<Json::Value> json;  ///< the value as JSON, where it has one
+        std::time_t timestamp;            ///< seconds since the Unix epoch
     };
 
-    // library: the value under `tag`, or a shared default value (empty text, no JSON)
-    // when there is none. Never inserts. The reference lives as long as the entry; the
-    // default lives until the process exits.
+    /// library: the value under `tag`, or a shared default value (empty text, no JSON)
+    /// when there is none. Never inserts. The reference lives as long as the entry; the
+    /// default lives until the process exits.
     const Value& operator[](Tag tag) const;
 
-    // library: the text under Tag::Uuid; empty when there is none.
+    /// library: the text under Tag::Uuid; empty when there is none.
     std::string uuid() const;
 
-    // library: the URI of the note's position: "anchor" of Tag::Anchor, or when that is
-    // empty "begin" of Tag::Range; empty when there is neither.
+    /// library: the URI of the note's position: "anchor" of Tag::Anchor, or when that is
+    /// empty "begin" of Tag::Range; empty when there is neither.
     std::string getAnchorUri() const;
 
-    // The text of the element `key` of the JSON value under `tag`; empty when the tag,
-    // its JSON value or the element is missing.
+    /// The text of the element `key` of the JSON value under `tag`; empty when the tag,
+    /// its JSON value or the element is missing.
     std::string getJsonTagElement(Tag tag, const std::string& key) const;
 
-    // The name of the note's colour; empty when it has none.
+    /// The name of the note's colour; empty when it has none.
     std::string getColor() const;
 
-    // The marked text, UTF-8; empty when there is none.
+    /// The marked text, UTF-8; empty when there is none.
     std::string getText() const;
 
-    // The bytes of the note's picture; empty when there is none.
+    /// The bytes of the note's picture; empty when there is none.
     std::string getImage() const;
 
-    // The user's comment, UTF-8; empty when there is none.
+    /// The user's comment, UTF-8; empty when there is none.
     std::string getNote() const;
 
-    std::map<Tag, Value> tags;
-    unsigned long long noteId = 0;  // the note's identifier in the reader database
+    std::map<Tag, Value> tags;      ///< at most one value for each tag
+    unsigned long long noteId = 0;  ///< the note's identifier in the reader database
 };
 
 }  // namespace veloran::utilities

@@ -1,18 +1,19 @@
-// Conversions between bytes and text.
+/// @file
+/// Conversions between bytes and text.
 #pragma once
 
 #include <string>
 
 namespace veloran::utilities {
 
-// Without state; may be called from any thread. Each call may throw std::bad_alloc.
+/// Without state; may be called from any thread. Each call may throw std::bad_alloc.
 class SerializationUtils {
 public:
-    // The bytes that the hexadecimal digits of `hex` spell, upper or lower case.
-    // Text that is not hexadecimal gives unspecified bytes, and no error.
+    /// The bytes that the hexadecimal digits of `hex` spell, upper or lower case.
+    /// Text that is not hexadecimal gives unspecified bytes, and no error.
     static std::string FromHex(const std::string& hex);
 
-    // The Base64 text of `bytes` (RFC 4648, padded), on one line.
+    /// The Base64 text of `bytes` (RFC 4648, padded), on one line.
     static std::string ToBase64(const std::string& bytes);
 };
 
