@@ -78,12 +78,15 @@ void checkAllKept(const Facts& before, const Facts& now) {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const ScratchDirectory scratch;
+    static const ScratchDirectory scratch;
+    static std::optional<Device> device;  // serves until an import succeeds
+    static Facts before;
+    if (!device) {
+        before = factsIn(device.emplace());
+    }
     writeFile(kDocument, documentOfInput(std::string(data, data + size)));
-    Device device;
-    const Facts before = factsIn(device);
-    const int result = device.import();
-    const Facts after = factsIn(device);
+    const int result = device->import();
+    const Facts after = factsIn(*device);
     if (result < 0) {
         check(result == host::kNoDump || result == host::kDumpDamaged ||
                   result == host::kVersionUnknown,
@@ -93,7 +96,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     }
     check(result == 0 || after != before, "what came in is there");
     checkAllKept(before, after);
-    check(device.import() == 0, "a second import brings nothing");
-    check(factsIn(device) == after, "a second import changes nothing");
+    check(device->import() == 0, "a second import brings nothing");
+    check(factsIn(*device) == after, "a second import changes nothing");
+    device.reset();
     return 0;
 }

@@ -1,5 +1,7 @@
 // Exports of any texts, read back by an XML parser. The input holds title and author, then
 // notes: identifier, colour, page, text, comment and picture.
+#include <filesystem>
+
 #include "canonical_xml.h"
 #include "export/notes_exporter_impl.h"
 #include "files.h"
@@ -46,7 +48,9 @@ std::string exported(const scripted::LibraryBook& book,
     const auto asInInput = [](long long a, long long b) { return a < b; };
     fuzz::check(exporter.export_bookmarks_to_html(kBook, {}, asInInput) == 0,
                 "it succeeds");
-    return fuzz::canonical(fuzz::legal(readFile(path)));
+    const std::string document = readFile(path);
+    std::filesystem::remove(path);
+    return fuzz::canonical(fuzz::legal(document));
 }
 
 using Replacements = std::vector<std::pair<std::string, std::string>>;
@@ -150,7 +154,7 @@ std::string expected(const scripted::LibraryBook& book,
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const ScratchDirectory scratch;
+    static const ScratchDirectory scratch;
     const auto records =
         fuzz::fieldsOf({reinterpret_cast<const char*>(data), size}, '\x1e');
     const auto head = fuzz::fieldsOf(records[0], '\x1f', 2);
