@@ -1,0 +1,71 @@
+// What must hold of every view of an exported page; each problem goes to `report`.
+import { isDeepStrictEqual } from 'node:util';
+import * as facts from './page_facts.mjs';
+
+const allowedElements = new Set(['html xmlns', 'head', 'meta name content', 'meta charset', 'title',
+    'style type', 'script type book_hash', 'body', 'div class', 'div id class', 'h1', 'span', 'p',
+    'p class', 'br', 'img src']);
+
+const huesInDegrees = {
+    red: 0, orange: 27, yellow: 46, green: 113, cyan: 187, blue: 216, violet: 263, purple: 263, pink: 333,
+};
+
+function isColored(name, [r, g, b]) {
+    const saturation = 1 - Math.min(r, g, b) / Math.max(r, g, b);
+    if (!(name in huesInDegrees)) return saturation < 0.25;
+    const hue = Math.atan2(Math.sqrt(3) * (g - b), 2 * r - g - b) * 180 / Math.PI;
+    const distance = Math.abs(((hue - huesInDegrees[name] + 540) % 360) - 180);
+    return saturation > 0.35 && distance < 20;
+}
+
+export async function checkContent(page, book, report) {
+    const { title, heading, author, notes, elements } = await page.evaluate(facts.content);
+    const dated = title.replace(/^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d - /, '');
+    if (dated === title || dated !== book.title) report(`the title is ${title}`);
+    if (heading !== title) report(`the heading is ${heading}`);
+    if (author !== book.author) report(`the author is ${author}`);
+    if (notes.length !== book.notes.length) report(`it shows ${notes.length} notes`);
+    book.notes.forEach((note, index) => {
+        if (isDeepStrictEqual(notes[index], note)) return;
+        report(`shown: ${JSON.stringify(notes[index])}\n    noted: ${JSON.stringify(note)}`);
+    });
+    const foreign = elements.filter((element) => !allowedElements.has(element));
+    if (foreign.length > 0) report(`it holds foreign elements: ${foreign}`);
+    if (await page.evaluate(facts.showsDump)) report('it shows its dump');
+}
+
+export async function checkColors(page, report) {
+    for (const [noteClass, color] of await page.evaluate(facts.noteColors)) {
+        const name = noteClass.replace('bookmark bm-color-', '');
+        if (!isColored(name, color)) report(`${name} looks like rgb(${color})`);
+    }
+    for (const media of [{ colorScheme: 'dark' }, { media: 'print' }, {}]) {
+        await page.emulateMedia({ media: 'screen', colorScheme: 'light', ...media });
+        for (const [place, ratio] of await page.evaluate(facts.contrasts)) {
+            if (ratio < 4.5) report(`${place}: contrast ${ratio.toFixed(2)} in ${JSON.stringify(media)}`);
+        }
+    }
+}
+
+const startsRight = (text) => /^\P{L}*[\p{Script=Arabic}\p{Script=Hebrew}]/u.test(text);
+
+// Widths in pixels; handhelds lay a page out wider than their screen.
+const screens = [[1400, false], [820, false], [820, true], [390, false], [390, true]];
+
+export async function checkLayout(page, report) {
+    for (const [text, room] of await page.evaluate(facts.firstLetters)) {
+        const side = startsRight(text) ? 'right' : 'left';
+        if (room[side] > 2) report(`does not start from the ${side}: ${text}`);
+    }
+    const session = await page.context().newCDPSession(page);
+    for (const [width, mobile] of screens) {
+        await session.send('Emulation.setDeviceMetricsOverride',
+            { width, height: 900, screenWidth: width, screenHeight: 900, mobile, deviceScaleFactor: 1 });
+        for (const type of [16, 32]) {
+            await session.send('Page.setFontSizes', { fontSizes: { standard: type, fixed: type } });
+            for (const problem of await page.evaluate(facts.misplaced, type)) {
+                report(`${width} pixels wide${mobile ? ', mobile' : ''}, type ${type}: ${problem}`);
+            }
+        }
+    }
+}

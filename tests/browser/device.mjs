@@ -1,0 +1,34 @@
+// Loads a device file into a stand-in device, exports its books, and says what each exported
+// page is to show.
+import { execFileSync } from 'node:child_process';
+import { mkdirSync, readFileSync, rmSync } from 'node:fs';
+import path from 'node:path';
+
+const client = path.resolve('build/host/tools/notes-export');
+
+const paragraphs = (text) => (text ? text.replace(/[\r\u2028]/g, '\n').split('\u2029') : []);
+
+const shownNote = (note) => ({
+    id: note.uuid,
+    class: `bookmark bm-color-${note.color ?? 'note'}`,
+    page: note.page === undefined ? '' : String(Math.trunc(note.page)),
+    text: paragraphs(note.text),
+    pictures: note.image ? 1 : 0,
+    comment: paragraphs(note.comment),
+});
+
+const pageKey = (note) => (note.page === undefined ? 1 : Math.trunc(note.page) + 1);
+
+export function exportBooks(deviceFile, folder) {
+    rmSync(folder, { recursive: true, force: true });
+    mkdirSync(folder, { recursive: true });
+    const run = (...command) =>
+        execFileSync(client, ['-C', folder, ...command], { encoding: 'utf8' }).trimEnd();
+    run('load', deviceFile);
+    return JSON.parse(readFileSync(deviceFile, 'utf8')).books.map((book) => ({
+        file: path.resolve(run('export', book.hash)),
+        title: book.title,
+        author: book.author ?? '',
+        notes: [...book.notes].sort((a, b) => pageKey(a) - pageKey(b)).map(shownNote),
+    }));
+}

@@ -1,0 +1,116 @@
+// What an opened page holds and shows. Every function here runs inside the page and sees
+// nothing of this file but itself.
+
+export function content() {
+    const text = (node) => (node.localName === 'br' ? '\n' : node.data);
+    const isShown = (element) => element.checkVisibility({ visibilityProperty: true, opacityProperty: true });
+    const paragraphs = (note, part) => [...note.querySelectorAll(`.${part} > p`)]
+        .filter(isShown).map((p) => [...p.childNodes].map(text).join(''));
+    const isPicture = (img) => isShown(img) && img.naturalWidth > 0;
+    return {
+        title: document.querySelector('title').textContent,
+        heading: document.querySelector('h1').textContent,
+        author: document.querySelector('span')?.textContent ?? '',
+        notes: [...document.querySelectorAll('.bookmark[id]')].map((note) => ({
+            id: note.id,
+            class: note.className,
+            page: note.querySelector('.bm-page').textContent,
+            text: paragraphs(note, 'bm-text'),
+            pictures: [...note.querySelectorAll('img')].filter(isPicture).length,
+            comment: paragraphs(note, 'bm-note'),
+        })),
+        elements: [...document.querySelectorAll('*')].map((element) =>
+            [element.localName, ...[...element.attributes].map(({ name }) => name)].join(' ')),
+    };
+}
+
+export function showsDump() {
+    const dump = document.querySelector('script');
+    return getComputedStyle(dump).display !== 'none' ||
+        document.documentElement.innerText.includes(dump.textContent.slice(0, 40));
+}
+
+// Every note's class and the bar at its side, in red, green and blue.
+export function noteColors() {
+    const bar = (note) => note.childElementCount === 1
+        ? getComputedStyle(note.firstElementChild, '::before')
+        : getComputedStyle(note.lastElementChild);
+    return [...document.querySelectorAll('.bookmark[id]')].map((note) =>
+        [note.className, bar(note).borderLeftColor.match(/[\d.]+/g).map(Number)]);
+}
+
+// The contrast of all that is written with what is behind it.
+export function contrasts() {
+    const canvas = new OffscreenCanvas(1, 1).getContext('2d', { willReadFrequently: true });
+    const paint = (color) => {
+        canvas.fillStyle = color;
+        canvas.fillRect(0, 0, 1, 1);
+    };
+    const paintBackground = (element) => {
+        if (element.parentElement) paintBackground(element.parentElement);
+        paint(getComputedStyle(element).backgroundColor);
+    };
+    const luminance = () => {
+        const linear = (byte) => byte <= 10 ? byte / 255 / 12.92 : ((byte / 255 + 0.055) / 1.055) ** 2.4;
+        const [r, g, b] = [...canvas.getImageData(0, 0, 1, 1).data].map(linear);
+        return 0.2126 * r + 0.7152 * g + 0.0722 * b + 0.05;
+    };
+    const contrast = (element, pseudo) => {
+        paint('white');
+        paintBackground(element);
+        const background = luminance();
+        paint(getComputedStyle(element, pseudo).color);
+        const ratio = luminance() / background;
+        const place = [element.closest('.bookmark'), element.parentElement, element];
+        return [place.map((e) => e.className || e.localName), Math.max(ratio, 1 / ratio)];
+    };
+    const written = [...document.querySelectorAll('h1, span, p')].filter((e) => e.textContent);
+    return [contrast(document.querySelector('h1'), '::first-line'), ...written.map((e) => contrast(e))];
+}
+
+// What leaves the page sideways, is cut off, lies on something else, or is shown too small for a
+// reader whose type has that many pixels.
+export function misplaced(type) {
+    const width = document.documentElement.clientWidth;
+    const scale = Math.min(1, screen.width / width);
+    const problems = document.documentElement.scrollWidth > width ? ['the page scrolls sideways'] : [];
+    const boxes = [...document.querySelectorAll('h1, span, p, img')].flatMap((element) => {
+        const range = document.createRange();
+        range.selectNodeContents(element);
+        const rects = (element.localName === 'img' ? element : range).getClientRects();
+        return [...rects].filter((rect) => rect.width > 0).map((rect) => ({ element, rect }));
+    });
+    // A line's box is taller than its letters.
+    const overlap = ({ element: e, rect: a }, { element: f, rect: b }) => e !== f &&
+        Math.min(a.right, b.right) - Math.max(a.left, b.left) > 1 &&
+        Math.min(a.bottom, b.bottom) - Math.max(a.top, b.top) > 0.3 * Math.min(a.height, b.height);
+    boxes.forEach((box, index) => {
+        const { element: { className, textContent }, rect } = box;
+        const report = (problem) => problems.push(`${className} "${textContent}" ${problem}`);
+        if (rect.left < -1 || rect.right > width + 1) report('leaves the page');
+        if (boxes.slice(index + 1).some((other) => overlap(box, other))) report('lies on something');
+        if (parseFloat(getComputedStyle(box.element).fontSize) * scale < 0.75 * type) report('is tiny');
+    });
+    for (const element of document.querySelectorAll('body *')) {
+        const { scrollWidth, clientWidth, scrollHeight, clientHeight } = element;
+        const isLarger = scrollWidth > clientWidth || scrollHeight > clientHeight;
+        if (isLarger && getComputedStyle(element).overflow !== 'visible') {
+            problems.push(`${element.className} "${element.textContent}" is cut off`);
+        }
+    }
+    return problems;
+}
+
+// Every paragraph's text, with the room to the left and the right of its first letter, in ems.
+export function firstLetters() {
+    const room = (p) => {
+        const range = document.createRange();
+        range.setStart(p.firstChild, 0);
+        range.setEnd(p.firstChild, 1);
+        const [first, box] = [range.getBoundingClientRect(), p.getBoundingClientRect()];
+        const em = parseFloat(getComputedStyle(p).fontSize);
+        return { left: (first.left - box.left) / em, right: (box.right - first.right) / em };
+    };
+    return [...document.querySelectorAll('.bm-text > p, .bm-note > p')]
+        .filter((p) => p.firstChild?.data).map((p) => [p.textContent, room(p)]);
+}
