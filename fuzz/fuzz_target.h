@@ -14,6 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace fuzz {
 
+// How the last input went. A target that tells has a folder of inputs for each outcome.
+inline std::string outcome;
+
 inline void check(bool condition, const std::string& message) {
     if (!condition) {
         std::cerr << "does not hold: " << message << std::endl;

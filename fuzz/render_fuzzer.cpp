@@ -1,5 +1,7 @@
-// Exports of any texts, read back by an XML parser. The input holds title and author, then
-// notes: identifier, colour, page, text, comment and picture.
+// Exports of any texts, read back by an XML parser. The input holds title, author, dump and
+// hash, then notes: identifier, colour, page, text, comment and picture.
+#include <climits>
+#include <cmath>
 #include <filesystem>
 
 #include "canonical_xml.h"
@@ -14,6 +16,7 @@ namespace {
 
 using scripted::NoteFields;
 using scripted::script;
+using veloran::utilities::SerializationUtils;
 
 constexpr char kBook[] = "626f6f6b";
 
@@ -26,21 +29,25 @@ std::vector<NoteFields> notesOf(const std::vector<std::string>& records) {
     return notes;
 }
 
-long pageOf(const NoteFields& note) {
-    return std::strtol(note.anchor.c_str(), nullptr, 10);
-}
+double pageOf(const NoteFields& note) { return std::strtod(note.anchor.c_str(), nullptr); }
 
-std::string exported(const scripted::LibraryBook& book,
-                     const std::vector<NoteFields>& notes) {
+struct Device {
+    scripted::LibraryBook book;
+    std::string payload;
+    std::string hash;
+    std::vector<NoteFields> notes;
+};
+
+std::string exported(const Device& device) {
     script() = {};
     script().libraryIds["book"] = 7;
-    script().libraryBooks[7] = book;
+    script().libraryBooks[7] = device.book;
     script().itemIds[kBook] = 42;
-    script().fastHashes[42] = kBook;
-    script().payload = "records";
-    for (const NoteFields& note : notes) {
+    script().fastHashes[42] = device.hash;
+    script().payload = device.payload;
+    for (const NoteFields& note : device.notes) {
         scripted::addNote(kBook, note);
-        script().pages[note.anchor] = static_cast<double>(pageOf(note));
+        script().pages[note.anchor] = pageOf(note);
     }
     veloran::NotesExporterImpl exporter;
     exporter.setExportDir("Notes");
@@ -55,9 +62,11 @@ std::string exported(const scripted::LibraryBook& book,
 
 using Replacements = std::vector<std::pair<std::string, std::string>>;
 
-// The field up to its first zero byte, with one replacement after the other.
-std::string rewritten(const std::string& field, const Replacements& replacements) {
+// The field up to its first zero byte, with markup escaped, then one replacement after the
+// other.
+std::string rewritten(const std::string& field, Replacements replacements) {
     std::string text = fuzz::legal(field.c_str());
+    replacements.insert(replacements.begin(), {{"&", "&amp;"}, {"<", "&lt;"}});
     for (const auto& [from, to] : replacements) {
         for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos;) {
             text.replace(at, from.size(), to);
@@ -70,37 +79,43 @@ std::string rewritten(const std::string& field, const Replacements& replacements
 // What Canonical XML has for a field. Parsers see one kind of line end, and in attributes
 // nothing but spaces.
 std::string text(const std::string& field) {
-    return rewritten(
-        field,
-        {{"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\r\n", "\n"}, {"\r", "\n"}});
+    return rewritten(field, {{">", "&gt;"}, {"\r\n", "\n"}, {"\r", "\n"}});
 }
 
 std::string attribute(const std::string& field) {
-    return rewritten(field, {{"&", "&amp;"},
-                             {"<", "&lt;"},
-                             {"\"", "&quot;"},
-                             {"\r\n", " "},
-                             {"\r", " "},
-                             {"\n", " "},
-                             {"\t", " "}});
+    return rewritten(
+        field, {{"\"", "&quot;"}, {"\r\n", " "}, {"\r", " "}, {"\n", " "}, {"\t", " "}});
 }
 
 std::string paragraphs(const std::string& field) {
-    return "<p>" +
-           rewritten(field, {{"&", "&amp;"},
-                             {"<", "&lt;"},
-                             {">", "&gt;"},
-                             {"\u2028", "<br></br>"},
-                             {"\n", "<br></br>"},
-                             {"\u2029", "</p><p>"},
-                             {"\r", "\n"}}) +
-           "</p>";
+    const std::string content = rewritten(field, {{">", "&gt;"},
+                                                  {"\u2028", "<br></br>"},
+                                                  {"\n", "<br></br>"},
+                                                  {"\u2029", "</p><p>"},
+                                                  {"\r", "\n"}});
+    return "<p>" + content + "</p>";
 }
 
 std::string picture(const std::string& image) {
-    using veloran::utilities::SerializationUtils;
     return "<img src=\"data:image/jpeg;base64," + SerializationUtils::ToBase64(image) +
            "\"></img>";
+}
+
+std::string dump(const std::string& payload, const std::string& hash) {
+    std::string lines = SerializationUtils::ToBase64(payload);
+    for (std::size_t end = 72; end < lines.size(); end += 73) {
+        lines.insert(end, "\n");
+    }
+    return payload.empty()
+               ? ""
+               : "\n    <script book_hash=\"" + attribute(hash) +
+                     "\" type=\"application/x-veloran-dbdump\">" + lines + "</script>";
+}
+
+std::string pageLabel(const NoteFields& note) {
+    const double whole = std::trunc(pageOf(note));
+    return whole >= INT_MIN && whole <= INT_MAX ? std::to_string(static_cast<int>(whole))
+                                                : "";
 }
 
 std::string block(const std::string& name, const std::string& field,
@@ -111,12 +126,10 @@ std::string block(const std::string& name, const std::string& field,
 }
 
 std::string expectedNote(const NoteFields& note) {
-    const long page = pageOf(note);
     return "\n    <div class=\"bookmark bm-color-" +
            (note.color.empty() ? "note" : attribute(note.color)) + "\" id=\"" +
-           attribute(note.uuid) + "\">\n      <p class=\"bm-page\">" +
-           (static_cast<int>(page) == page ? std::to_string(page) : "") + "</p>" +
-           block("bm-text", note.text, paragraphs) +
+           attribute(note.uuid) + "\">\n      <p class=\"bm-page\">" + pageLabel(note) +
+           "</p>" + block("bm-text", note.text, paragraphs) +
            block("bm-image", note.image, picture) +
            block("bm-note", note.comment, paragraphs) + "\n    </div>";
 }
@@ -126,14 +139,13 @@ std::string heading(const std::string& content) {
            "\n    </div>";
 }
 
-std::string expected(const scripted::LibraryBook& book,
-                     const std::vector<NoteFields>& notes, const std::string& date) {
-    const std::string title = date + " - " + text(book.title);
+std::string expected(const Device& device, const std::string& date) {
+    const std::string title = date + " - " + text(device.book.title);
     std::string body = heading("<h1>" + title + "</h1>");
-    if (!book.author.empty()) {
-        body += heading("<span>" + text(book.author) + "</span>");
+    if (!device.book.author.empty()) {
+        body += heading("<span>" + text(device.book.author) + "</span>");
     }
-    for (const NoteFields& note : notes) {
+    for (const NoteFields& note : device.notes) {
         body += expectedNote(note);
     }
     return R"(<html xmlns="http://www.w3.org/1999/xhtml">
@@ -144,11 +156,9 @@ std::string expected(const scripted::LibraryBook& book,
            title + R"(</title>
     <style type="text/css"><!--/*-->/*&gt;&lt;!--*/
 
-/**/--&gt;</style>
-    <script book_hash="626f6f6b" type="application/x-veloran-dbdump">cmVjb3Jkcw==</script>
-  </head>
-  <body>)" +
-           body + "\n  </body>\n</html>";
+/**/--&gt;</style>)" +
+           dump(device.payload, device.hash) + "\n  </head>\n  <body>" + body +
+           "\n  </body>\n</html>";
 }
 
 }  // namespace
@@ -157,14 +167,14 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const ScratchDirectory scratch;
     const auto records =
         fuzz::fieldsOf({reinterpret_cast<const char*>(data), size}, '\x1e');
-    const auto head = fuzz::fieldsOf(records[0], '\x1f', 2);
+    const auto head = fuzz::fieldsOf(records[0], '\x1f', 4);
     // A longer title would name no file.
-    const scripted::LibraryBook book = {head[0].substr(0, 200), head[1]};
-    const auto notes = notesOf(records);
-    const std::string document = exported(book, notes);
+    const Device device = {
+        {head[0].substr(0, 200), head[1]}, head[2], head[3], notesOf(records)};
+    const std::string document = exported(device);
     const std::string date = document.substr(document.find("<title>") + 7, 19);
     fuzz::check(date.find_first_not_of("0123456789-: ") == std::string::npos, date);
-    const std::string wanted = expected(book, notes, date);
+    const std::string wanted = expected(device, date);
     fuzz::check(document == wanted, document + "\nis " + wanted);
     return 0;
 }

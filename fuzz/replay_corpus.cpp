@@ -1,4 +1,5 @@
-// Stands in for libFuzzer: runs every file of the directory given, once.
+// Stands in for libFuzzer: runs every file below the directory given, once, and
+// looks whether it goes as its folder says.
 #include <filesystem>
 
 #include "files.h"
@@ -7,11 +8,17 @@
 int main(int count, char** arguments) {
     fuzz::check(count == 2, "a directory is given");
     int inputs = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(arguments[1])) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(arguments[1])) {
+        if (entry.is_directory()) {
+            continue;
+        }
         std::cout << entry.path().string() << std::endl;
         const std::string input = readFile(entry.path().string());
         const std::vector<std::uint8_t> bytes(input.begin(), input.end());
         LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+        const std::string folder = entry.path().parent_path().filename().string();
+        fuzz::check(fuzz::outcome.empty() || fuzz::outcome == folder,
+                    "the outcome is " + fuzz::outcome);
         ++inputs;
     }
     fuzz::check(inputs > 0, "the corpus holds inputs");

@@ -29,18 +29,18 @@ TEST_F(SeamContract, ReaderDatabaseFindsBooksByTheirHash) {
 }
 
 TEST_F(SeamContract, NotesComeInDatabaseOrderWithEverythingTheyHold) {
+    using Fields = std::vector<std::string>;
+    const auto fields = [](const Note& note) {
+        return Fields{note.uuid(),    note.getColor(), note.getText(),
+                      note.getNote(), note.getImage(), note.getAnchorUri()};
+    };
     const std::vector<Note> notes = notesOnDevice();
     ASSERT_EQ(notes.size(), 2U);
-    EXPECT_EQ(notes[0].uuid(), "uuid-b");
-    EXPECT_EQ(notes[0].getColor(), "yellow");
-    EXPECT_EQ(notes[0].getText(), "text");
-    EXPECT_EQ(notes[0].getNote(), "comment");
-    EXPECT_EQ(notes[0].getImage(), kAnyBytes);
-    EXPECT_EQ(notes[0].getAnchorUri(), uriOfPage(2.5));
+    EXPECT_EQ(fields(notes[0]),
+              (Fields{"uuid-b", "yellow", "text", "comment", kAnyBytes, uriOfPage(2.5)}));
+    EXPECT_EQ(fields(notes[1]), (Fields{"uuid-a", "", "more", "", "", ""}));
     EXPECT_EQ(notes[0].getJsonTagElement(Note::Tag::Anchor, "none"), "");
     EXPECT_EQ(notes[0].getJsonTagElement(Note::Tag::Range, "begin"), "");
-    EXPECT_EQ(notes[1].uuid(), "uuid-a");
-    EXPECT_EQ(notes[1].getColor() + notes[1].getNote() + notes[1].getImage(), "");
     EXPECT_NE(notes[0].noteId, 0U);
     EXPECT_NE(notes[0].noteId, notes[1].noteId);
     for (const char* key : {"", "-1", "no key", "987654", "99999999999999999999999"}) {

@@ -18,12 +18,29 @@ inline const std::string kAnyBytes("\0\xff\xd8 \x80'\"", 7);
 constexpr int kUnknown = 987654;
 
 // The notes of the book kHash.
-std::vector<Note> notesOnDevice();
+inline std::vector<Note> notesOnDevice() {
+    ReaderDbManager manager;
+    std::vector<Note> notes;
+    for (const auto& key : manager.getBookNotesHashUUIDs(kHash, true)) {
+        notes.push_back(manager.getNote(key.first));
+    }
+    return notes;
+}
 
 class SeamContract : public testing::Test {
 protected:
-    SeamContract();
+    SeamContract() {
+        startEmptyDevice();
+        putOnDevice({"aa", "Other", "", "", {}});
+        putOnDevice({kHash,
+                     "Dune",
+                     "Frank Herbert",
+                     "Books/dune.epub",
+                     {{"uuid-b", "yellow", "text", "comment", kAnyBytes, uriOfPage(2.5)},
+                      {"uuid-a", "", "more", "", "", ""}}});
+        book_ = static_cast<unsigned long long>(ReaderDbManager().getItemId(kHash));
+    }
 
     const ScratchDirectory scratch_;
-    unsigned long long book_;  // item identifier of the book kHash
+    unsigned long long book_ = 0;  // item identifier of the book kHash
 };

@@ -1,20 +1,10 @@
-// Devices to work on, and documents to import there. Knows the seam alone.
+// Devices to import on, and documents to import there. Knows the seam alone.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <string>
 
-#include "document.h"
-#include "files.h"
 #include "readerlib/database.h"
 #include "readerlib/import_export_db.h"
-#include "scratch_directory.h"
-
-// A test on an empty device. A further ScratchDirectory is a second device.
-class OnDevice : public ::testing::Test {
-    ScratchDirectory scratch_;
-};
 
 // The engine on the reader database of the device.
 class Engine {
@@ -26,6 +16,12 @@ private:
     Veloran::ReaderLib::DataBase database_;
     Veloran::ReaderLib::ImportExportDBV2 engine_{&database_, 10, 3};
 };
+
+// The exported document around the payload; `head` goes before the dump's element.
+std::string documentOf(const std::string& payload, const std::string& head = "");
+
+// The same around the text of the dump's element.
+std::string documentAround(const std::string& dump, const std::string& head = "");
 
 // What importing the document gives.
 int imported(const std::string& document);

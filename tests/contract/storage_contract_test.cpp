@@ -8,6 +8,7 @@
 #include "db/db_manager.h"
 #include "engine.h"
 #include "fast_book_hash.h"
+#include "files.h"
 
 using veloran::db::DbManager;
 

@@ -66,7 +66,6 @@ TEST_F(InterruptedImport, ByAKillIsWholeOrNotThere) {
         EXPECT_TRUE(isImported());
     }
     EXPECT_TRUE(0 < whole && whole < kMoments) << whole;
-    RecordProperty("whole", whole);
 }
 
 TEST_F(InterruptedImport, ByAFullDiskIsRefusedWholeAndGoesOnceThereIsRoom) {

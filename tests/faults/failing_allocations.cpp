@@ -1,6 +1,7 @@
 #include "failing_allocations.h"
 
 #include <libxml/xmlmemory.h>
+#include <malloc.h>
 #include <sqlite3.h>
 
 #include <atomic>
@@ -38,31 +39,14 @@ void* reallocate(void* block, std::size_t size) {
 
 char* duplicate(const char* text) { return fails(Failed::kOther) ? nullptr : strdup(text); }
 
-// SQLite asks for the size of its blocks: it stands in front of each.
-constexpr int kHeader = 16;
-
-char* start(void* block) { return static_cast<char*>(block) - kHeader; }
-
-void* withSize(void* block, int size) {
-    return block == nullptr
-               ? nullptr
-               : static_cast<char*>(std::memcpy(block, &size, sizeof size)) + kHeader;
-}
-
-std::size_t whole(int size) { return static_cast<std::size_t>(size) + kHeader; }
-
 bool interceptLibraries() {
     sqlite3_mem_methods methods = {};
-    methods.xMalloc = [](int size) { return withSize(allocate(whole(size)), size); };
-    methods.xFree = [](void* block) { std::free(start(block)); };
+    methods.xMalloc = [](int size) { return allocate(static_cast<std::size_t>(size)); };
+    methods.xFree = std::free;
     methods.xRealloc = [](void* block, int size) {
-        return withSize(reallocate(start(block), whole(size)), size);
+        return reallocate(block, static_cast<std::size_t>(size));
     };
-    methods.xSize = [](void* block) {
-        int size = 0;
-        std::memcpy(&size, start(block), sizeof size);
-        return size;
-    };
+    methods.xSize = [](void* block) { return static_cast<int>(malloc_usable_size(block)); };
     methods.xRoundup = [](int size) { return (size + 7) & ~7; };
     methods.xInit = [](void*) { return SQLITE_OK; };
     methods.xShutdown = [](void*) {};

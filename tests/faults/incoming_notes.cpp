@@ -3,16 +3,11 @@
 #include "contract_device.h"
 
 #include <filesystem>
-#include <random>
 
 host::BookRecord bookOf(int first, int last, std::int64_t timestamp, std::size_t textSize) {
-    std::mt19937 random(1);
     host::BookRecord book{"b00c", "Book", "", {}};
     for (int number = first; number < last; ++number) {
-        std::string text = std::to_string(timestamp) + ' ';
-        while (text.size() < textSize) {
-            text += static_cast<char>('a' + random() % 26);
-        }
+        const std::string text = std::to_string(timestamp) + std::string(textSize, 'x');
         const std::string uuid = "n" + std::to_string(number);
         book.notes.push_back({uuid,
                               {{host::kUuidTag, uuid, {}, timestamp},

@@ -1,12 +1,16 @@
 // A device whose book has notes, and an exported document that brings newer and more ones.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 
 #include "c_exporter.h"
-#include "reader_records.h"
+#include "records.h"
 
-class IncomingNotes : public OnDevice {
+class IncomingNotes : public testing::Test {
+    const ScratchDirectory device_;
+
 protected:
     // As many notes on the device as in the document, half of them the same ones, each with
     // a text of `textSize` bytes.

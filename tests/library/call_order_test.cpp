@@ -3,7 +3,6 @@
 #include "device_test.h"
 #include "notes_export/notes_exporter.h"
 
-namespace library_tests {
 namespace {
 
 using CallOrder = DeviceTest;
@@ -42,4 +41,3 @@ TEST_F(CallOrder, OfAFailedImportEndsWithTheEngine) {
 }
 
 }  // namespace
-}  // namespace library_tests

@@ -1,7 +1,5 @@
 #include "device_test.h"
 
-namespace library_tests {
-
 void loadSampleBook() {
     script().libraryIds[kUid] = kLibraryId;
     script().libraryBooks[kLibraryId] = {"Dune & \"Sons\"", "Frank <Herbert>"};
@@ -21,15 +19,20 @@ void loadSampleBook() {
               "p { margin: 0 }\na > b::after { content: \"&\" }");
 }
 
-Exporter::Exporter() {
-    setExportDir("Notes");
-    script().calls.clear();
-}
-
 std::string golden(const std::string& name) { return readFile(GOLDEN_DIR "/" + name); }
 
 bool startsWith(const std::string& text, const std::string& start) {
     return text.compare(0, start.size(), start) == 0;
+}
+
+Ids renderedIds() {
+    Ids ids;
+    for (const std::string& call : script().calls) {
+        if (call.find("::getColor()") != std::string::npos) {
+            ids.push_back(std::stoull(call.substr(call.find('(') + 1)));
+        }
+    }
+    return ids;
 }
 
 std::string joined(const Calls& lines) {
@@ -39,5 +42,3 @@ std::string joined(const Calls& lines) {
     }
     return text;
 }
-
-}  // namespace library_tests

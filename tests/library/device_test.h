@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -12,8 +11,6 @@
 #include "files.h"
 #include "scratch_directory.h"
 #include "script.h"
-
-namespace library_tests {
 
 using scripted::script;
 using Calls = std::vector<std::string>;
@@ -41,7 +38,10 @@ void loadSampleBook();
 
 // An exporter that writes into Notes/, with an empty record of calls.
 struct Exporter : veloran::NotesExporterImpl {
-    Exporter();
+    Exporter() {
+        setExportDir("Notes");
+        script().calls.clear();
+    }
     int exportAll() { return export_bookmarks_to_html(kBook, {}, nullptr); }
 };
 
@@ -49,17 +49,9 @@ std::string golden(const std::string& name);
 
 bool startsWith(const std::string& text, const std::string& start);
 
+// The identifiers of the notes that were rendered, in order.
+using Ids = std::vector<unsigned long long>;
+Ids renderedIds();
+
 // One line each.
 std::string joined(const Calls& lines);
-
-// What `write` writes inside an element `r` of a new document, without the `r` tags.
-template <class Write>
-std::string written(Write write) {
-    std::ostringstream stream;
-    Writer writer(stream);
-    writer.openElt("r");
-    write(writer);
-    return stream.str().substr(2);
-}
-
-}  // namespace library_tests

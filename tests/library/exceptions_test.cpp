@@ -5,7 +5,6 @@
 #include "device_test.h"
 #include "notes_export/notes_exporter.h"
 
-namespace library_tests {
 namespace {
 
 enum class Outcome { Returned, Threw, ThrewForeign };
@@ -65,7 +64,7 @@ TEST_P(Exceptions, OfEveryCallReachTheCallerAndTheExporterServesOn) {
             const std::string earlier = text;
             script().calls.clear();
             outcome = failing(n, call);
-            text = withoutDate(readFile(kFile));
+            text = withoutDates(readFile(kFile));
             const bool begun = joined(script().calls).find("ImportExportDBV2") != text.npos;
             EXPECT_EQ(text.empty(), !begun) << "titles are looked up before any writing";
             EXPECT_TRUE(startsWith(whole, text) && startsWith(text, earlier)) << text;
@@ -74,7 +73,7 @@ TEST_P(Exceptions, OfEveryCallReachTheCallerAndTheExporterServesOn) {
 
             std::filesystem::remove_all("Notes");
             EXPECT_EQ(exporter.exportNotes(recordedOrder), 0);
-            EXPECT_EQ(withoutDate(readFile(kFile)), whole) << "after call " << n;
+            EXPECT_EQ(withoutDates(readFile(kFile)), whole) << "after call " << n;
         }
     }
     EXPECT_EQ(text, whole);
@@ -102,4 +101,3 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, Exceptions,
                          testing::Values(Outcome::Threw, Outcome::ThrewForeign));
 
 }  // namespace
-}  // namespace library_tests

@@ -4,7 +4,6 @@
 
 #include "device_test.h"
 
-namespace library_tests {
 namespace {
 
 using ExportedFile = DeviceTest;
@@ -62,7 +61,7 @@ TEST_F(ExportedFile, EndsWhereTheDiskWasFullEvenIfThereIsRoomAgain) {
         scripted::addNote(kBook, {id, "", "", "", "", "", "at 12.9"});
     }
     const Calls expected = callsOfExport();
-    const std::string whole = withoutDate(readFile(kFile));
+    const std::string whole = withoutDates(readFile(kFile));
     std::signal(SIGXFSZ, SIG_IGN);
     for (const rlim_t room : {0U, 1U, 100U, 4096U, 8191U, 8192U, 8193U, 16500U}) {
         for (const std::string& roomAgainAt :
@@ -77,10 +76,9 @@ TEST_F(ExportedFile, EndsWhereTheDiskWasFullEvenIfThereIsRoomAgain) {
             };
             EXPECT_EQ(joined(callsOfExport()), joined(expected));
             EXPECT_EQ(std::filesystem::file_size(kFile), room);
-            EXPECT_TRUE(startsWith(whole, withoutDate(readFile(kFile)))) << room;
+            EXPECT_TRUE(startsWith(whole, withoutDates(readFile(kFile)))) << room;
         }
     }
 }
 
 }  // namespace
-}  // namespace library_tests

@@ -6,12 +6,10 @@
 
 #include "device_test.h"
 
-namespace library_tests {
 namespace {
 
 using NoteOrder = DeviceTest;
 using Predicate = DeviceTest;
-using Ids = std::vector<unsigned long long>;
 using Before = std::function<bool(long long, long long)>;
 
 constexpr int kNoPage = INT_MIN;
@@ -43,16 +41,9 @@ void loadNotes(std::size_t count) { loadPages(std::vector<int>(count, kNoPage));
 
 // The identifiers of the notes that are rendered, in order.
 Ids exportedIds(const std::set<unsigned long long>& selected, const Before& before) {
-    written([&](Writer& w) {
-        EXPECT_EQ(Exporter().writeBookmarks(w, kBook, selected, before), 0);
-    });
-    Ids ids;
-    for (const std::string& call : script().calls) {
-        if (call.find("::getColor()") != std::string::npos) {
-            ids.push_back(std::stoull(call.substr(call.find('(') + 1)));
-        }
-    }
-    return ids;
+    script().itemIds[kBook] = kItem;
+    EXPECT_EQ(Exporter().export_bookmarks_to_html(kBook, selected, before), 0);
+    return renderedIds();
 }
 
 TEST_F(NoteOrder, IsByPageThenAsTheDatabaseHasThem) {
@@ -142,4 +133,3 @@ TEST_F(Predicate, MayThrowAtAnyCall) {
 }
 
 }  // namespace
-}  // namespace library_tests

@@ -11,7 +11,7 @@ using scripted::recordCall;
 using scripted::script;
 
 int FastBookHash(const char* path, char* buffer, int size) {
-    recordCall("FastBookHash(" + std::string(path) + ", " + std::to_string(size) + ")");
+    recordCall("FastBookHash", std::string(path), size);
     // What follows the hash is filled, so that reading too far shows.
     std::fill_n(buffer, size, '#');
     script().hashText.copy(buffer, static_cast<std::size_t>(size));
@@ -20,7 +20,7 @@ int FastBookHash(const char* path, char* buffer, int size) {
 }
 
 int oa_buildpath(const char* path) {
-    recordCall("oa_buildpath(" + std::string(path) + ")");
+    recordCall("oa_buildpath", std::string(path));
     const auto directory = std::filesystem::absolute(path).parent_path();
     std::error_code error;
     std::filesystem::create_directories(directory, error);
@@ -30,7 +30,7 @@ int oa_buildpath(const char* path) {
 namespace veloran::system::filesystem {
 
 bool IsFileExist(const std::string& path) {
-    recordCall("IsFileExist(" + path + ")");
+    recordCall("IsFileExist", path);
     std::error_code error;
     const bool looksUp = path.find('\0') == std::string::npos;
     const auto status = std::filesystem::symlink_status(looksUp ? path : "", error);
@@ -39,7 +39,7 @@ bool IsFileExist(const std::string& path) {
 }
 
 std::string GetFileNameFromPath(const std::string& path) {
-    recordCall("GetFileNameFromPath(" + path + ")");
+    recordCall("GetFileNameFromPath", path);
     return path.substr(path.rfind('/') + 1);
 }
 

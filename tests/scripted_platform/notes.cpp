@@ -12,12 +12,12 @@ constexpr auto kText = static_cast<Note::Tag>(202);
 constexpr auto kImage = static_cast<Note::Tag>(203);
 constexpr auto kComment = static_cast<Note::Tag>(204);
 
-void recordNoteCall(const Note& note, const std::string& call) {
-    recordCall("Note(" + std::to_string(note.noteId) + ")::" + call);
+std::string nameOf(const Note& note) {
+    return "Note(" + std::to_string(note.noteId) + ")::";
 }
 
 std::string textOf(const Note& note, Note::Tag tag, const std::string& getter) {
-    recordNoteCall(note, getter + "()");
+    recordCall(nameOf(note) + getter);
     return note[tag].str;
 }
 
@@ -49,9 +49,7 @@ void addNote(const std::string& bookHash, const NoteFields& fields) {
 namespace veloran::utilities {
 
 std::string Note::getJsonTagElement(Tag tag, const std::string& key) const {
-    recordNoteCall(*this, "getJsonTagElement(" +
-                              std::to_string(static_cast<std::int32_t>(tag)) + ", " + key +
-                              ")");
+    recordCall(nameOf(*this) + "getJsonTagElement", static_cast<std::int32_t>(tag), key);
     const auto& json = (*this)[tag].json;
     return json ? json->get(key, "").asString() : "";
 }

@@ -21,7 +21,7 @@ void Sqlite::close() {
 }
 
 ReaderDbManager::ReaderDbManager() {
-    recordCall("ReaderDbManager::ReaderDbManager()");
+    recordCall("ReaderDbManager::ReaderDbManager");
     const std::shared_ptr<void> stored(
         nullptr, [](void*) { recordRelease("ReaderDbManager::onError_ destroyed"); });
     onError_ = [stored](const std::string&) {};
@@ -30,24 +30,23 @@ ReaderDbManager::ReaderDbManager() {
 }
 
 long long ReaderDbManager::getItemId(const std::string& bookHash) {
-    recordCall("ReaderDbManager::getItemId(" + bookHash + ")");
+    recordCall("ReaderDbManager::getItemId", bookHash);
     return found(script().itemIds, bookHash, -1);
 }
 
 std::vector<Book> ReaderDbManager::getBookByFastHash(const std::string& bookHash) {
-    recordCall("ReaderDbManager::getBookByFastHash(" + bookHash + ")");
+    recordCall("ReaderDbManager::getBookByFastHash", bookHash);
     return found(script().readerBooks, bookHash);
 }
 
 std::string ReaderDbManager::getBookFastHashById(long long itemId) {
-    recordCall("ReaderDbManager::getBookFastHashById(" + std::to_string(itemId) + ")");
+    recordCall("ReaderDbManager::getBookFastHashById", itemId);
     return found(script().fastHashes, itemId);
 }
 
 std::vector<std::pair<std::string, unsigned long long>>
 ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool flag) {
-    recordCall("ReaderDbManager::getBookNotesHashUUIDs(" + bookHash +
-               (flag ? ", true)" : ", false)"));
+    recordCall("ReaderDbManager::getBookNotesHashUUIDs", bookHash, flag);
     std::vector<std::pair<std::string, unsigned long long>> keys;
     for (const std::string& key : found(script().noteKeys, bookHash)) {
         keys.emplace_back(key, 0xdeadbeef);
@@ -56,7 +55,7 @@ ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool flag) {
 }
 
 Note ReaderDbManager::getNote(const std::string& noteKey) {
-    recordCall("ReaderDbManager::getNote(" + noteKey + ")");
+    recordCall("ReaderDbManager::getNote", noteKey);
     Note note = found(script().notes, noteKey);
     script().fetchedRecords.insert(&note[Note::Tag::Uuid]);
     return note;

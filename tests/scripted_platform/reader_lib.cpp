@@ -24,7 +24,7 @@ struct SqliteCpp::DB::State {
     std::string path;
 };
 
-SqliteCpp::DB::DB() { recordCall("DB::DB()"); }
+SqliteCpp::DB::DB() { recordCall("DB::DB"); }
 
 SqliteCpp::DB::~DB() {
     recordRelease("DB::~DB()");
@@ -34,7 +34,7 @@ SqliteCpp::DB::~DB() {
 namespace Veloran::ReaderLib {
 
 bool DataBase::open(std::string& path) {
-    recordCall("DataBase::open(" + path + ")");
+    recordCall("DataBase::open", path);
     state.reset(new State{std::move(path)});
     script().openHandles++;
     return true;
@@ -42,29 +42,28 @@ bool DataBase::open(std::string& path) {
 
 ImportExportDBV2::ImportExportDBV2(DataBase* database, unsigned long long limit, int mode)
     : database_(database), limit_(limit), mode_(mode) {
-    recordCall("ImportExportDBV2::ImportExportDBV2(" +
-               (database_->state ? database_->state->path : "closed") + ", " +
-               std::to_string(limit_) + ", " + std::to_string(mode_) + ")");
+    recordCall("ImportExportDBV2::ImportExportDBV2",
+               database_->state ? database_->state->path : "closed", limit_, mode_);
 }
 
 void ImportExportDBV2::set_export_bookmark_ids(const Ids& ids) {
-    recordCall("ImportExportDBV2::set_export_bookmark_ids(" + listed(ids) + ")");
+    recordCall("ImportExportDBV2::set_export_bookmark_ids", listed(ids));
     exportBookmarkIds_ = ids;
 }
 
 bool ImportExportDBV2::books_export(std::string& out, const Ids& books) {
-    recordCall("ImportExportDBV2::books_export(" + out + ", " + listed(books) + ")");
+    recordCall("ImportExportDBV2::books_export", out, listed(books));
     out += script().payload;
     return script().exportSucceeds;
 }
 
 int ImportExportDBV2::books_import(const std::string& path) {
-    recordCall("ImportExportDBV2::books_import(" + path + ")");
+    recordCall("ImportExportDBV2::books_import", path);
     return script().importResult;
 }
 
 bool extractPageFromnURI(const std::string& uri, double& page) {
-    recordCall("extractPageFromnURI(" + uri + ")");
+    recordCall("extractPageFromnURI", uri);
     page = scripted::found(script().pages, uri, 666.0);  // no page's number
     return script().pages.count(uri) > 0;
 }

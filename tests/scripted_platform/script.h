@@ -61,7 +61,18 @@ inline Script& script() {
 
 inline void recordRelease(const std::string& release) { script().calls.push_back(release); }
 
-inline void recordCall(const std::string& call) {
+inline std::string shown(const std::string& text) { return text; }
+inline std::string shown(bool value) { return value ? "true" : "false"; }
+template <class Number>
+std::string shown(Number number) {
+    return std::to_string(number);
+}
+
+template <class... Arguments>
+void recordCall(std::string call, const Arguments&... arguments) {
+    std::string list;
+    ((list += ", " + shown(arguments)), ...);
+    call += "(" + list.substr(list.empty() ? 0 : 2) + ")";
     script().calls.push_back(call);
     if (script().onCall) {
         script().onCall(call);

@@ -50,20 +50,12 @@ TEST(JsonElement, IsTheTextOfAStringInAnObject) {
     EXPECT_EQ(anchor(R"({"anchor":"\u00e9 &"})"), "\xc3\xa9 &");
     EXPECT_EQ(anchor(R"({"anchor":"a","anchor":"b"})"), "b");
     const std::string tooDeep = std::string(33, '[') + std::string(33, ']');
-    const std::string others[] = {
-        "",
-        R"({"other":"x"})",
-        R"({"anchor":1.5})",
-        R"({"anchor":{"anchor":"x"}})",
-        R"(["anchor"])",
-        R"("anchor")",
-        R"({"anchor":"x"} trailing)",
-        R"({"anchor":"x"})" + std::string(1, '\0'),
-        R"({"anchor":"x")",
-        R"({"anchor":"x","deep":)" + tooDeep + "}",
-        R"({"anchor":")" + std::string(300000, 'x') + "\"}",
-    };
-    for (const std::string& json : others) {
-        EXPECT_EQ(anchor(json), "") << json.substr(0, 100);
+    EXPECT_EQ(anchor(R"({"anchor":"x","deep":)" + tooDeep + "}"), "");
+    EXPECT_EQ(anchor(R"({"anchor":")" + std::string(300000, 'x') + "\"}"), "");
+    EXPECT_EQ(anchor(R"({"anchor":"x"})" + std::string(1, '\0')), "");
+    for (const char* json : {"", R"({"other":"x"})", R"({"anchor":1.5})",
+                             R"({"anchor":{"anchor":"x"}})", R"(["anchor"])", R"("anchor")",
+                             R"({"anchor":"x"} trailing)", R"({"anchor":"x")"}) {
+        EXPECT_EQ(anchor(json), "") << json;
     }
 }

@@ -1,4 +1,4 @@
-// The reader database: how records merge, who may open it when, and what fails.
+// The reader database: who may open it when, and what fails.
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
@@ -13,20 +13,16 @@
 
 #include "connection.h"
 #include "import_result.h"
-#include "reader_records.h"
+#include "records.h"
 #include "utilities/reader_db_manager.h"
 
 using veloran::utilities::Note;
-using veloran::utilities::ReaderDbManager;
 
 namespace {
 
-class Store : public OnDevice {};
-
-std::vector<host::BookRecord> bookWith(const std::vector<host::TagRecord>& tags,
-                                       const std::string& title) {
-    return {{"ab", title, "", {{"note", tags}}}};
-}
+class Store : public testing::Test {
+    const ScratchDirectory device_;
+};
 
 std::string failureOfReading() {
     try {
@@ -38,44 +34,16 @@ std::string failureOfReading() {
 
 }  // namespace
 
-TEST_F(Store, MergeKeepsTheNewerOfEachTagAndDeletesNothing) {
-    const host::TagRecord first = {1, "old", "1", 10}, second = {2, "kept", {}, 10};
-    using Tags = std::vector<host::TagRecord>;
-    const std::pair<Tags, Tags> cases[] = {
-        // what comes, and what is there afterwards
-        {{{1, "new", {}, 11}}, {{1, "new", {}, 11}, second}},
-        {{{1, "a tie", "2", 10}}, {first, second}},
-        {{{1, "older", {}, 9}}, {first, second}},
-        {{{3, "more", {}, 1}}, {first, second, {3, "more", {}, 1}}},
-        {{{1, "b", {}, 12}, {1, "twice", {}, 11}}, {{1, "b", {}, 12}, second}},
-        {{}, {first, second}},
-    };
-    const std::string before = show(bookWith({first, second}, "title"));
-    for (const auto& [incoming, outcome] : cases) {
-        const ScratchDirectory device;
-        const std::string after = show(bookWith(outcome, "title"));
-        EXPECT_EQ(merge(bookWith({first, second}, "title")), 1);
-        EXPECT_EQ(merge(bookWith(incoming, "other title")), after == before ? 0 : 1);
-        EXPECT_EQ(recordsOnDevice(), after);
-    }
-}
-
 TEST_F(Store, TimesBeyondThoseOfTheClockAreItsLimits) {
     using Limits = std::numeric_limits<std::time_t>;
     using Stored = std::numeric_limits<std::int64_t>;
-    merge(bookWith({{1, "", {}, Stored::max()}, {2, "", {}, Stored::min()}}, ""));
-    const Note note = ReaderDbManager().getNote("1");
+    merge({{"ab",
+            "",
+            "",
+            {{"n", {{1, "", {}, Stored::max()}, {2, "", {}, Stored::min()}}}}}});
+    const Note note = veloran::utilities::ReaderDbManager().getNote("1");
     EXPECT_EQ(note[Note::Tag{1}].timestamp, Limits::max());
     EXPECT_EQ(note[Note::Tag{2}].timestamp, Limits::min());
-}
-
-TEST_F(Store, MergeThatFailsHalfwayLeavesNoTrace) {
-    host::ReaderStore store(host::kReaderDatabasePath);
-    std::vector<host::BookRecord> books = sampleBooks();
-    books.back().notes.push_back({"", {}});
-    EXPECT_THROW(store.merge(books), std::runtime_error);
-    EXPECT_EQ(recordsOnDevice(), "");
-    EXPECT_EQ(store.merge(sampleBooks()), 4) << "the connection is still of use";
 }
 
 TEST_F(Store, IsCreatedOnceByManyThreads) {
@@ -96,9 +64,14 @@ TEST_F(Store, IsCreatedOnceByManyThreads) {
 
 TEST_F(Store, FailuresAreReportedWithTheFileAndWhatIsWrong) {
     const std::string path = host::kReaderDatabasePath;
+    EXPECT_THROW(merge({{"ab", "", "", {{"", {}}}}}), std::runtime_error);
+    EXPECT_EQ(recordsOnDevice(), "");
     merge(sampleBooks());
     const std::string document = documentOf(exported());
     Engine engine;
+    for (const char* file : {"missing", ".", ""}) {
+        EXPECT_EQ(engine->books_import(file), host::kFileUnreadable) << file;
+    }
     host::Connection(path, {1, ""}).query("DROP TABLE tags").run();
     EXPECT_EQ(failureOfReading(), path + ": no such table: tags");
     std::string payload;

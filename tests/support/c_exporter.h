@@ -33,10 +33,7 @@ public:
     }
 
 private:
-    struct Free {
-        void operator()(notes_exporter* exporter) const { free_notes_exporter(exporter); }
-    };
-
     std::string hash_;
-    std::unique_ptr<notes_exporter, Free> handle_{new_notes_exporter()};
+    std::unique_ptr<notes_exporter, decltype(&free_notes_exporter)> handle_{
+        new_notes_exporter(), free_notes_exporter};
 };

@@ -16,10 +16,7 @@ void writeFile(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;
 }
 
-std::string withoutDate(std::string document) {
-    std::smatch date;
-    const std::regex dates("\\d{4}(-\\d\\d){2} \\d\\d(:\\d\\d){2}");
-    return std::regex_search(document, date, dates)
-               ? std::regex_replace(document, std::regex(date.str()), "@DATE@")
-               : document;
+std::string withoutDates(const std::string& document) {
+    const std::regex date("\\d{4}(-\\d\\d){2} \\d\\d(:\\d\\d){2}");
+    return std::regex_replace(document, date, "@DATE@");
 }
