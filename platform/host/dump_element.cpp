@@ -1,6 +1,7 @@
 #include "dump_element.h"
 
 #include <libxml/parser.h>
+#include <libxml/parserInternals.h>
 
 #include <exception>
 #include <fstream>
@@ -52,9 +53,13 @@ private:
             xmlFreeDoc(parser->myDoc);  // made for the declarations of a hostile DTD
             xmlFreeParserCtxt(parser);
         }
+        void operator()(xmlParserInputBuffer* buffer) const {
+            xmlFreeParserInputBuffer(buffer);
+        }
     };
     enum class State { kBefore, kInside, kAfter };
 
+    void createParser();
     void parse();
     void start(const xmlChar* name, const xmlChar** attributes);
     void append(const xmlChar* text, int size);
@@ -94,15 +99,29 @@ Payload DumpFinder::find() {
     return std::move(payload_);
 }
 
+// In place of xmlCreateIOParserCtxt, which leaks its input when memory runs out.
+void DumpFinder::createParser() {
+    constexpr auto kAnyEncoding = XML_CHAR_ENCODING_NONE;
+    parser_.reset(xmlNewParserCtxt());
+    std::unique_ptr<xmlParserInputBuffer, Release> buffer(
+        xmlParserInputBufferCreateIO(read, nullptr, this, kAnyEncoding));
+    if (parser_ == nullptr || buffer == nullptr) {
+        throw std::bad_alloc();
+    }
+    *parser_->sax = handlers();
+    parser_->userData = this;
+    xmlParserInput* input = xmlNewIOInputStream(parser_.get(), buffer.get(), kAnyEncoding);
+    if (input == nullptr) {
+        throw std::bad_alloc();
+    }
+    buffer.release();  // the input's now
+    inputPush(parser_.get(), input);
+}
+
 void DumpFinder::parse() {
     static std::once_flag initialized;  // several threads may be the first to import
     std::call_once(initialized, xmlInitParser);
-    xmlSAXHandler sax = handlers();
-    parser_.reset(
-        xmlCreateIOParserCtxt(&sax, this, read, nullptr, this, XML_CHAR_ENCODING_NONE));
-    if (parser_ == nullptr) {
-        throw std::bad_alloc();
-    }
+    createParser();
     xmlCtxtUseOptions(parser_.get(), kParserOptions);
     xmlParseDocument(parser_.get());
     if (parser_->errNo == XML_ERR_NO_MEMORY) {
