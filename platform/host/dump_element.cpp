@@ -114,7 +114,7 @@ void DumpFinder::createParser() {
     if (input == nullptr) {
         throw std::bad_alloc();
     }
-    buffer.release();  // the input's now
+    static_cast<void>(buffer.release());  // the input's now
     inputPush(parser_.get(), input);
 }
 
