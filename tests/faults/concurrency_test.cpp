@@ -59,8 +59,8 @@ TEST_F(Together, TwoProcessesImportDifferentDocumentsOfOneBook) {
         const pid_t second = importingProcess(gate, "other.html");
         close(gate[0]);
         close(gate[1]);
-        const bool allCame = succeeded(first) & succeeded(second);
-        EXPECT_EQ(recordsOnDevice() == both, allCame);
+        const bool firstCame = succeeded(first), secondCame = succeeded(second);
+        EXPECT_EQ(recordsOnDevice() == both, firstCame && secondCame);
         const CExporter again(kBook, "Notes");
         EXPECT_GE(again.importFile(kDocument), 0);
         EXPECT_GE(again.importFile("other.html"), 0);
