@@ -1,3 +1,5 @@
+#include <string.h>
+
 #include "export/dump_engine.h"
 #include "export/notes_exporter_impl.h"
 #include "readerlib/import_export_db.h"
@@ -11,13 +13,12 @@ constexpr std::size_t kLineLength = 72;
 
 // Line breaks stand between lines only: none follows the last one.
 void writeLines(Writer& writer, const std::string& text) {
-    char line[kLineLength + 1];
     for (std::size_t offset = 0; offset < text.size(); offset += kLineLength) {
         if (offset != 0) {
             writer.writeRaw("\n");
         }
-        line[text.copy(line, kLineLength, offset)] = '\0';
-        writer.writeRaw(line);
+        const char* line = text.c_str() + offset;
+        writer.writeRaw(line, strnlen(line, kLineLength));
     }
 }
 

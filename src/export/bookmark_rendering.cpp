@@ -34,49 +34,36 @@ Replacement paragraphMarkupAt(const char* text) {
     }
 }
 
-// The text as the content of a `p` element: only its breaks become markup.
-std::string paragraphMarkup(const std::string& text) {
-    std::string result;
-    result.reserve(text.size());
-    markup::rewrite(
-        text.c_str(), paragraphMarkupAt,
-        [&result](const char* bytes, std::size_t length) { result.append(bytes, length); });
-    return result;
-}
+constexpr markup::Rewriting kParagraphMarkup = {"&<>'\"\n\xE2", paragraphMarkupAt};
 
 void writeParagraphs(Writer& writer, const char* blockClass, const std::string& text) {
     if (text.empty()) {
         return;
     }
-    const std::string paragraphs = paragraphMarkup(text);
     writer.openElt("div").writeAttr("class", blockClass);
-    writer.openElt("p").writeRaw(paragraphs.c_str()).closeElt();
+    writer.openElt("p").writeRewritten(text.c_str(), kParagraphMarkup).closeElt();
     writer.closeElt();
 }
 
 // Browsers look at the bytes, not at the media type: a picture of another format shows too.
-void writePicture(Writer& writer, const std::string& image) {
+void writePicture(Writer& writer, std::string image) {
     if (image.empty()) {
         return;
     }
-    writer.openElt("div").writeAttr("class", "bm-image");
-    writer.openElt("img");
-    std::string source = utilities::SerializationUtils::ToBase64(image);
-    source.insert(0, "data:image/jpeg;base64,");
-    writer.writeAttr("src", source.c_str()).closeElt();
-    writer.closeElt();
-}
-
-std::string colorClass(std::string color) {
-    return "bookmark bm-color-" + (color.empty() ? "note" : std::move(color));
+    writer.openElt("div").writeAttr("class", "bm-image").openElt("img");
+    const std::string base64 = utilities::SerializationUtils::ToBase64(image);
+    image = {};  // not held beside its markup
+    writer.writeAttr("src", "data:image/jpeg;base64,", base64.c_str());
+    writer.closeElt().closeElt();
 }
 
 }  // namespace
 
 int NotesExporterImpl::writeBookmark(Writer& writer, const utilities::Note& note) {
-    const std::string blockClass = colorClass(note.getColor());
-    writer.openElt("div");
-    writer.writeAttr("id", note.uuid().c_str()).writeAttr("class", blockClass.c_str());
+    const std::string color = note.getColor();
+    const char* colorClass = color.empty() ? "note" : color.c_str();
+    writer.openElt("div").writeAttr("id", note.uuid().c_str());
+    writer.writeAttr("class", "bookmark bm-color-", colorClass);
     writer.openElt("p").writeAttr("class", "bm-page");
     writer.writeText(getNotePage(note).c_str()).closeElt();
     writeParagraphs(writer, "bm-text", note.getText());

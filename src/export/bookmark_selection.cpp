@@ -1,4 +1,5 @@
 #include <cstdint>
+#include <deque>
 
 #include "export/merge_sort.h"
 #include "export/notes_exporter_impl.h"
@@ -9,41 +10,33 @@ namespace {
 
 using utilities::Note;
 
-struct SortEntry {
-    std::uint32_t pageKey;
-    Note note;
+// What the order looks at, side by side and apart from the notes: sorting would fetch each
+// of them from memory again and again.
+struct SortKey {
+    std::uint32_t page;
+    long long noteId;
+    const Note* note;
 };
 
 // Page numbers wrap into unsigned ones: a note on page -1 precedes the notes without a
 // page, and one on page -2 follows all others.
-std::uint32_t pageKey(const std::string& label) {
-    return label.empty() ? 1 : static_cast<std::uint32_t>(std::stoi(label)) + 1;
+std::uint32_t pageKey(std::optional<int> page) {
+    return page ? static_cast<std::uint32_t>(*page) + 1 : 1;
 }
 
 bool isSelected(const Note& note, const std::set<unsigned long long>& ids) {
     return ids.empty() || ids.count(note.noteId) != 0;
 }
 
-// The notes in their order. They stay where they are: pointers are cheaper to sort.
-std::vector<const SortEntry*> sorted(const std::vector<SortEntry>& entries,
-                                     const NoteOrder& before) {
-    std::vector<const SortEntry*> order;
-    order.reserve(entries.size());
-    for (const SortEntry& entry : entries) {
-        order.push_back(&entry);
-    }
+void sort(std::vector<SortKey>& keys, const NoteOrder& before) {
     if (before) {
         const NoteOrder copy = before;  // the caller's own callable is never invoked
-        mergeSort(order, [&copy](const SortEntry* a, const SortEntry* b) {
-            return copy(static_cast<long long>(a->note.noteId),
-                        static_cast<long long>(b->note.noteId));
+        mergeSort(keys, [&copy](const SortKey& a, const SortKey& b) {
+            return copy(a.noteId, b.noteId);
         });
     } else {
-        mergeSort(order, [](const SortEntry* a, const SortEntry* b) {
-            return a->pageKey < b->pageKey;
-        });
+        mergeSort(keys, [](const SortKey& a, const SortKey& b) { return a.page < b.page; });
     }
-    return order;
 }
 
 }  // namespace
@@ -51,16 +44,20 @@ std::vector<const SortEntry*> sorted(const std::vector<SortEntry>& entries,
 int NotesExporterImpl::writeBookmarks(Writer& writer, const std::string& bookHash,
                                       const std::set<unsigned long long>& ids,
                                       const NoteOrder& before) {
-    std::vector<SortEntry> entries;
+    std::deque<Note> notes;
+    std::vector<SortKey> keys;
     for (const auto& key : readerDb_.getBookNotesHashUUIDs(bookHash, true)) {
         Note note = readerDb_.getNote(key.first);
         if (isSelected(note, ids)) {
-            const std::uint32_t noteKey = pageKey(getNotePage(note));
-            entries.push_back({noteKey, std::move(note)});
+            const std::uint32_t page = pageKey(getPageNumber(note));
+            notes.push_back(std::move(note));
+            keys.push_back(
+                {page, static_cast<long long>(notes.back().noteId), &notes.back()});
         }
     }
-    for (const SortEntry* entry : sorted(entries, before)) {
-        writeBookmark(writer, entry->note);
+    sort(keys, before);
+    for (const SortKey& key : keys) {
+        writeBookmark(writer, *key.note);
     }
     return 0;
 }

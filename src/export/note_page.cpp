@@ -11,26 +11,31 @@ using Veloran::ReaderLib::extractPageFromnURI;
 
 // Converting a number that the integer cannot hold would be undefined; so would infinity
 // and not-a-number, which both comparisons refuse.
-std::string label(double page) {
+std::optional<int> withoutFraction(double page) {
     using Limits = std::numeric_limits<int>;
     if (page > Limits::min() - 1.0 && page < Limits::max() + 1.0) {
-        return std::to_string(static_cast<int>(page));
+        return static_cast<int>(page);
     }
-    return {};
+    return std::nullopt;
 }
 
 }  // namespace
 
-std::string NotesExporterImpl::getNotePage(const utilities::Note& note) {
+std::optional<int> NotesExporterImpl::getPageNumber(const utilities::Note& note) {
     double page = 0;
     if (extractPageFromnURI(note.getAnchorUri(), page)) {
-        return label(page);
+        return withoutFraction(page);
     }
     if (extractPageFromnURI(note.getJsonTagElement(utilities::Note::Tag::Range, "begin"),
                             page)) {
-        return label(page);
+        return withoutFraction(page);
     }
-    return {};
+    return std::nullopt;
+}
+
+std::string NotesExporterImpl::getNotePage(const utilities::Note& note) {
+    const std::optional<int> page = getPageNumber(note);
+    return page ? std::to_string(*page) : std::string();
 }
 
 }  // namespace veloran

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -52,8 +53,11 @@ public:
     // The block of one note. Returns 0.
     static int writeBookmark(Writer& writer, const utilities::Note& note);
 
-    // The note's page label: the decimal text of its page number, fraction dropped. Empty
-    // when its position names no page, or one that no 32-bit integer can hold.
+    // The note's page number, fraction dropped. Nothing when its position names no page, or
+    // one that no 32-bit integer can hold.
+    static std::optional<int> getPageNumber(const utilities::Note& note);
+
+    // The note's page label: the decimal text of its page number, empty without one.
     static std::string getNotePage(const utilities::Note& note);
 
 private:

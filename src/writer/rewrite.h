@@ -3,13 +3,14 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string_view>
 
 namespace markup {
 
-// What stands in the document for the first `length` bytes of a text; null `text` where
+// What stands in the document for the first `length` bytes of a text; an empty `text` where
 // they stand for themselves.
 struct Replacement {
-    const char* text = nullptr;
+    std::string_view text;
     std::size_t length = 1;
 };
 
@@ -31,21 +32,30 @@ inline Replacement entityAt(const char* text) {
     }
 }
 
-// Hands `text`, up to its zero byte, to `put(bytes, length)` with every replacement that
-// `replacementAt` finds, in as few pieces as the replacements allow.
-template <class ReplacementAt, class Put>
-void rewrite(const char* text, ReplacementAt replacementAt, Put put) {
+// How a text is rewritten: what `replacementAt` finds stands in place of what is there. No
+// replacement starts with a byte that is not in `starts`.
+struct Rewriting {
+    const char* starts;
+    Replacement (*replacementAt)(const char* text);
+};
+
+inline constexpr Rewriting kEscaping = {"&<>'\"", entityAt};
+
+// Hands `text`, up to its zero byte, to `put(std::string_view)` with every replacement
+// made, in as few pieces as the replacements allow.
+template <class Put>
+void rewrite(const char* text, const Rewriting& rewriting, Put put) {
     const char* run = text;
-    while (*text != '\0') {
-        const Replacement replacement = replacementAt(text);
-        if (replacement.text != nullptr) {
-            put(run, static_cast<std::size_t>(text - run));
-            put(replacement.text, std::strlen(replacement.text));
+    while (*(text += std::strcspn(text, rewriting.starts)) != '\0') {
+        const Replacement replacement = rewriting.replacementAt(text);
+        if (!replacement.text.empty()) {
+            put(std::string_view(run, static_cast<std::size_t>(text - run)));
+            put(replacement.text);
             run = text + replacement.length;
         }
         text += replacement.length;
     }
-    put(run, static_cast<std::size_t>(text - run));
+    put(std::string_view(run, static_cast<std::size_t>(text - run)));
 }
 
 }  // namespace markup

@@ -1,19 +1,27 @@
 #include "writer/writer.h"
 
 #include <cstring>
-#include <utility>
 
-#include "writer/rewrite.h"
+#include "writer/put.h"
 
 namespace {
 
-// Unformatted output: neither a locale nor a field width of the stream can change a byte,
-// and a stream that has failed passes nothing on.
-void put(std::ostream& stream, const char* bytes, std::size_t length) {
-    stream.write(bytes, static_cast<std::streamsize>(length));
+using markup::put;
+
+void putRewritten(std::ostream& stream, const char* text,
+                  const markup::Rewriting& rewriting) {
+    markup::rewrite(text, rewriting,
+                    [&stream](std::string_view part) { put(stream, part); });
 }
 
-void put(std::ostream& stream, const char* text) { put(stream, text, std::strlen(text)); }
+void startLine(std::ostream& stream, std::size_t depth) {
+    constexpr std::string_view kLineStart = "\n                ";
+    const std::size_t length = 1 + 2 * depth;
+    put(stream, kLineStart.substr(0, length));
+    for (std::size_t done = kLineStart.size(); done < length; ++done) {
+        put(stream, " ");
+    }
+}
 
 }  // namespace
 
@@ -22,35 +30,43 @@ Writer::Writer(std::ostream& stream) : out(&stream) {}
 Writer& Writer::openElt(const char* name) {
     finishStartTag();
     if (!openElements.empty()) {
-        put(*out, "\n");
+        startLine(*out, openElements.size());
     }
-    indent();
-    put(*out, "<");
-    put(*out, name);
     openElements.emplace_back(name);
+    put(*out, "<");
+    put(*out, openElements.back());
     tagOpen = true;
     endTagLast = false;
     return *this;
 }
 
-Writer& Writer::writeAttr(const char* name, const char* value) {
+Writer& Writer::writeAttr(const char* name, const char* value, const char* rest) {
     put(*out, " ");
     put(*out, name);
     put(*out, "=\"");
     write_escape(value);
+    if (rest != nullptr) {
+        write_escape(rest);
+    }
     put(*out, "\"");
     return *this;
 }
 
 Writer& Writer::writeText(const char* text) {
+    return writeRewritten(text, markup::kEscaping);
+}
+
+Writer& Writer::writeRewritten(const char* text, const markup::Rewriting& rewriting) {
     finishStartTag();
-    write_escape(text);
+    putRewritten(*out, text, rewriting);
     return *this;
 }
 
-Writer& Writer::writeRaw(const char* text) {
+Writer& Writer::writeRaw(const char* text) { return writeRaw(text, std::strlen(text)); }
+
+Writer& Writer::writeRaw(const char* bytes, std::size_t length) {
     finishStartTag();
-    put(*out, text);
+    put(*out, {bytes, length});
     return *this;
 }
 
@@ -59,31 +75,23 @@ Writer& Writer::closeElt() {
         return *this;
     }
     finishStartTag();
-    const std::string name = std::move(openElements.back());
-    openElements.pop_back();
     if (endTagLast) {
-        put(*out, "\n");
-        indent();
+        startLine(*out, openElements.size() - 1);
     }
-    endTagLast = true;
     put(*out, "</");
-    put(*out, name.data(), name.size());
+    put(*out, openElements.back());
     put(*out, ">");
+    openElements.pop_back();
+    endTagLast = true;
     return *this;
 }
 
-void Writer::write_escape(const char* text) {
-    markup::rewrite(text, markup::entityAt, [this](const char* bytes, std::size_t length) {
-        put(*out, bytes, length);
-    });
-}
+void Writer::write_escape(const char* text) { putRewritten(*out, text, markup::kEscaping); }
 
 std::string Writer::encodeString(const char* text) {
     std::string escaped;
-    markup::rewrite(text, markup::entityAt,
-                    [&escaped](const char* bytes, std::size_t length) {
-                        escaped.append(bytes, length);
-                    });
+    markup::rewrite(text, markup::kEscaping,
+                    [&escaped](std::string_view part) { escaped += part; });
     return escaped;
 }
 
@@ -91,11 +99,5 @@ void Writer::finishStartTag() {
     if (tagOpen) {
         put(*out, ">");
         tagOpen = false;
-    }
-}
-
-void Writer::indent() {
-    for (std::size_t level = 0; level < openElements.size(); ++level) {
-        put(*out, "  ");
     }
 }

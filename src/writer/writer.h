@@ -6,6 +6,8 @@
 #include <ostream>
 #include <string>
 
+#include "writer/rewrite.h"
+
 // Writes each element on a line of its own, indented by two spaces per enclosing element,
 // and escapes text and attribute values. Everything goes to the stream at once. The
 // stream's state is never looked at: a failed stream swallows the rest of the document.
@@ -17,14 +19,18 @@ public:
     Writer& openElt(const char* name);
 
     // Only while the start tag of the innermost element is still open: after openElt and
-    // before any content.
-    Writer& writeAttr(const char* name, const char* value);
+    // before any content. The value may come in two parts; `rest` is null when it does not.
+    Writer& writeAttr(const char* name, const char* value, const char* rest = nullptr);
 
     // Text content, escaped.
     Writer& writeText(const char* text);
 
     // Content that is markup already. It counts for nothing in the layout.
     Writer& writeRaw(const char* text);
+    Writer& writeRaw(const char* bytes, std::size_t length);
+
+    // Content that becomes markup as `rewriting` says.
+    Writer& writeRewritten(const char* text, const markup::Rewriting& rewriting);
 
     // Ends the innermost element; does nothing when none is open.
     Writer& closeElt();
@@ -40,7 +46,6 @@ public:
 
 private:
     void finishStartTag();
-    void indent();
 
     std::ostream* out;
     bool tagOpen = false;    // the innermost start tag still lacks its ">"

@@ -58,12 +58,12 @@ void limitFileSize(rlim_t bytes) {
 TEST_F(ExportedFile, EndsWhereTheDiskWasFullEvenIfThereIsRoomAgain) {
     loadSampleBook();
     for (unsigned long long id = 100; id < 400; id++) {
-        scripted::addNote(kBook, {id, "", "", "", "", "", "at 12.9"});
+        scripted::addNote(kBook, {id, "", "", std::string(2000, 'x'), "", "", "at 12.9"});
     }
     const Calls expected = callsOfExport();
     const std::string whole = withoutDates(readFile(kFile));
     std::signal(SIGXFSZ, SIG_IGN);
-    for (const rlim_t room : {0U, 1U, 100U, 4096U, 8191U, 8192U, 8193U, 16500U}) {
+    for (const rlim_t room : {0U, 1U, 4096U, 262143U, 262144U, 262145U, 400000U}) {
         for (const std::string& roomAgainAt :
              {std::string("Note(399)::getText()"), "FastBookHash(" + kFile + ", 256)"}) {
             std::filesystem::remove(kFile);
