@@ -40,8 +40,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     };
 
     script() = {};
-    script().libraryIds[veloran::utilities::SerializationUtils::FromHex(hash)] = 7;
-    script().libraryBooks[7].title = title;
+    script().bookIdsByUid[veloran::utilities::SerializationUtils::FromHex(hash)] = 7;
+    script().booksOfLibrary[7].title = title;
     for (std::size_t number = 0; number < taken.size(); ++number) {
         if (taken[number] == 'x') {
             script().existing.insert(pathOf(number));

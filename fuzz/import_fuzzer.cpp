@@ -19,16 +19,11 @@ constexpr char kDocument[] = "export.html";
 
 std::string documentOfInput(const std::string& input) {
     const std::string rest = input.empty() ? "" : input.substr(1);
-    switch (static_cast<unsigned char>(input[0]) % 4) {
-        case 0:
-            return rest;
-        case 1:
-            return documentAround(rest);
-        case 2:
-            return documentOf(rest);
-        default:
-            return documentOf(gzipped(rest));
+    const int kind = static_cast<unsigned char>(input[0]) % 4;
+    if (kind < 2) {
+        return kind == 0 ? rest : documentAround(rest);
     }
+    return documentOf(kind == 2 ? rest : gzipped(rest));
 }
 
 struct Device {

@@ -20,15 +20,14 @@ function isColored(name, [r, g, b]) {
 
 export async function checkContent(page, book, report) {
     const { title, heading, author, notes, elements } = await page.evaluate(facts.content);
-    const dated = title.replace(/^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d - /, '');
-    if (dated === title || dated !== book.title) report(`the title is ${title}`);
-    if (heading !== title) report(`the heading is ${heading}`);
-    if (author !== book.author) report(`the author is ${author}`);
-    if (notes.length !== book.notes.length) report(`it shows ${notes.length} notes`);
-    book.notes.forEach((note, index) => {
-        if (isDeepStrictEqual(notes[index], note)) return;
-        report(`shown: ${JSON.stringify(notes[index])}\n    noted: ${JSON.stringify(note)}`);
-    });
+    const date = title.match(/^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d - /);
+    const shown = { title, heading, author, ...notes };
+    const dated = `${date}${book.title}`;
+    const noted = { title: dated, heading: dated, author: book.author, ...book.notes };
+    for (const part in { ...shown, ...noted }) {
+        if (isDeepStrictEqual(shown[part], noted[part])) continue;
+        report(`shown: ${JSON.stringify(shown[part])}\n    noted: ${JSON.stringify(noted[part])}`);
+    }
     const foreign = elements.filter((element) => !allowedElements.has(element));
     if (foreign.length > 0) report(`it holds foreign elements: ${foreign}`);
     if (await page.evaluate(facts.showsDump)) report('it shows its dump');

@@ -1,21 +1,18 @@
 // Pictures of exported pages as a phone, a tablet, a desktop and a printer show them.
 import { execFileSync } from 'node:child_process';
-import { mkdirSync, rmSync } from 'node:fs';
+import { rmSync } from 'node:fs';
 import { pathToFileURL } from 'node:url';
 
 const folder = 'build/browser/screenshots';
 
-// Handhelds lay a page out wider than their screen; a narrow window does not.
 const readers = {
     phone: { viewport: { width: 390, height: 844 }, isMobile: true },
     tablet: { viewport: { width: 820, height: 1180 }, isMobile: true },
-    window: { viewport: { width: 390, height: 844 } },
     desktop: { viewport: { width: 1400, height: 900 } },
 };
 
 export async function takeScreenshots(browser, books) {
     rmSync(folder, { recursive: true, force: true });
-    mkdirSync(folder, { recursive: true });
     const page = await browser.newPage({ viewport: { width: 1000, height: 1500 } });
     for (const [index, book] of books.entries()) {
         const name = `${folder}/${index + 1}`;

@@ -1,7 +1,6 @@
-// Opens every exported page in Chromium, as the .html file that it is and served as XHTML, and
-// holds it to what its device file says. With --screenshots: pictures of the sample's pages.
-import { readFileSync } from 'node:fs';
-import { createServer } from 'node:http';
+// Opens every exported page in Chromium, as the .html file that it is and as XHTML, and holds
+// it to what its device file says. With --screenshots: pictures of the sample's pages.
+import { copyFileSync } from 'node:fs';
 import { pathToFileURL } from 'node:url';
 import { chromium } from 'playwright-core';
 import { checkColors, checkContent, checkLayout } from './checks.mjs';
@@ -12,13 +11,6 @@ const sample = exportBooks('examples/sample_device/device.json', 'build/browser/
 const hostile = exportBooks('tests/browser/hostile_device.json', 'build/browser/hostile');
 const books = [...sample, ...hostile];
 
-const server = createServer((request, response) => {
-    const book = books[Number(request.url.slice(1))];
-    response.setHeader('Content-Type', 'application/xhtml+xml');
-    response.end(book && readFileSync(book.file));
-});
-await new Promise((resolve) => { server.listen(0, '127.0.0.1', resolve); });
-
 const browser = await chromium.launch({
     executablePath: '/usr/bin/chromium',
     args: ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
@@ -28,37 +20,33 @@ const browser = await chromium.launch({
 async function problemsOf(book, url) {
     const problems = [];
     const report = (problem) => problems.push(problem);
-    const context = await browser.newContext();
-    const page = await context.newPage();
+    const page = await browser.newPage();
     page.on('console', (message) => report(`console: ${message.text()}`));
     page.on('pageerror', (error) => report(`error: ${error.message}`));
     page.on('dialog', (dialog) => { report(`dialog: ${dialog.message()}`); dialog.dismiss(); });
     page.on('request', (request) => {
         if (request.url() !== url) report(`loads ${request.url()}`);
     });
-    try {
-        await page.goto(url);
-        await checkContent(page, book, report);
-        await checkColors(page, report);
-        await checkLayout(page, report);
-    } catch (error) {
-        report(`it cannot be checked: ${error.message}`);
-    }
-    await context.close();
+    await page.goto(url);
+    const type = await page.evaluate(() => document.contentType);
+    if (type.endsWith('xml') !== url.endsWith('xhtml')) report(`it is read as ${type}`);
+    await checkContent(page, book, report);
+    await checkColors(page, report);
+    await checkLayout(page, report);
+    await page.close();
     return problems;
 }
 
 let failed = 0;
-for (const [index, book] of books.entries()) {
-    const served = `http://127.0.0.1:${server.address().port}/${index}`;
-    for (const url of [pathToFileURL(book.file).href, served]) {
-        const problems = await problemsOf(book, url);
+for (const book of books) {
+    copyFileSync(book.file, `${book.file}.xhtml`);
+    for (const file of [book.file, `${book.file}.xhtml`]) {
+        const problems = await problemsOf(book, pathToFileURL(file).href);
         failed += problems.length > 0;
-        console.log(problems.length > 0 ? 'FAILED' : 'ok    ', new URL(url).protocol, book.title);
+        console.log(problems.length > 0 ? 'FAILED' : 'ok    ', file);
         problems.slice(0, 20).forEach((problem) => console.log(`  - ${problem}`));
     }
 }
 if (process.argv.includes('--screenshots')) await takeScreenshots(browser, sample);
 await browser.close();
-server.close();
 process.exitCode = failed > 0 ? 1 : 0;

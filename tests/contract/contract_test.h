@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "contract_device.h"
-#include "scratch_directory.h"
+#include "files.h"
 #include "utilities/reader_db_manager.h"
 
 using veloran::utilities::Note;

@@ -3,13 +3,19 @@
 
 #include <string>
 
+#include "contract_device.h"
+#include "files.h"
 #include "readerlib/database.h"
 #include "readerlib/import_export_db.h"
+#include "utilities/serialization_utils.h"
 
 // The engine on the reader database of the device.
 class Engine {
 public:
-    Engine();
+    Engine() {
+        std::string path = readerDatabasePath();
+        database_.open(path);
+    }
     Veloran::ReaderLib::ImportExportDBV2* operator->() { return &engine_; }
 
 private:
@@ -17,11 +23,24 @@ private:
     Veloran::ReaderLib::ImportExportDBV2 engine_{&database_, 10, 3};
 };
 
-// The exported document around the payload; `head` goes before the dump's element.
-std::string documentOf(const std::string& payload, const std::string& head = "");
+// The exported document around the text of the dump's element; `head` goes before that.
+inline std::string documentAround(const std::string& dump, const std::string& head = "") {
+    return "<!DOCTYPE html><html>\n  <head>" + head +
+           "\n    <script type=\"application/x-veloran-dbdump\" book_hash=\"ab\">" + dump +
+           "</script>\n  </head>\n  <body></body>\n</html>";
+}
 
-// The same around the text of the dump's element.
-std::string documentAround(const std::string& dump, const std::string& head = "");
+// The same around the payload.
+inline std::string documentOf(const std::string& payload, const std::string& head = "") {
+    std::string text = veloran::utilities::SerializationUtils::ToBase64(payload);
+    for (std::size_t end = 72; end < text.size(); end += 73) {
+        text.insert(end, "\n");
+    }
+    return documentAround(text, head);
+}
 
 // What importing the document gives.
-int imported(const std::string& document);
+inline int imported(const std::string& document) {
+    writeFile("export.html", document);
+    return Engine()->books_import("export.html");
+}

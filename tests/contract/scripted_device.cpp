@@ -9,8 +9,8 @@ void startEmptyDevice() { script() = {}; }
 void putOnDevice(const ContractBook& book) {
     const auto id = static_cast<long long>(script().itemIds.size()) + 1;
     const std::string uid = veloran::utilities::SerializationUtils::FromHex(book.hash);
-    script().libraryIds[uid] = id;
-    script().libraryBooks[id] = {book.title, book.author, book.path};
+    script().bookIdsByUid[uid] = id;
+    script().booksOfLibrary[id] = {book.title, book.author, book.path};
     script().itemIds[book.hash] = id;
     script().fastHashes[id] = book.hash;
     veloran::utilities::Book& entry = script().readerBooks[book.hash].emplace_back();

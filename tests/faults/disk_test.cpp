@@ -1,32 +1,67 @@
-// An import whose writes are cut short, by a disk that is full or by the end of the
-// process.
+// An import that is killed, or finds the disk full, amid each of SQLite's changes to files.
+#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 
 #include "connection.h"
 #include "import_result.h"
 #include "incoming_notes.h"
-#include "interrupted_writes.h"
 
 namespace {
 
+int changesLeft = 0;  // up to the one that is interrupted
+
+ssize_t writeHalfAndDie(int file, const void* bytes, size_t size, off64_t offset) {
+    if (--changesLeft == 0) {
+        pwrite64(file, bytes, size / 2, offset);
+        kill(getpid(), SIGKILL);
+    }
+    return pwrite64(file, bytes, size, offset);
+}
+
+int dieBeforeUnlink(const char* path) {
+    return --changesLeft == 0 ? kill(getpid(), SIGKILL) : unlink(path);
+}
+
+ssize_t writeWhileThereIsRoom(int file, const void* bytes, size_t size, off64_t offset) {
+    if (--changesLeft > 0) {
+        return pwrite64(file, bytes, size, offset);
+    }
+    const ssize_t written = changesLeft == 0 ? pwrite64(file, bytes, size / 2, offset) : 0;
+    errno = ENOSPC;
+    return written > 0 ? written : -1;
+}
+
+template <class Function>
+void replaceCall(const char* name, Function* function) {
+    sqlite3_vfs* system = sqlite3_vfs_find(nullptr);
+    const auto replacement = reinterpret_cast<sqlite3_syscall_ptr>(function);
+    EXPECT_EQ(system->xSetSystemCall(system, name, replacement), SQLITE_OK);
+}
+
 class InterruptedImport : public IncomingNotes {
 protected:
-    InterruptedImport() {
-        prepare(kNotes, 20000);
-        interruptOperation(0, {});
-        importDocument();
-        operations_ = endInterruption();
-        restore();
-    }
+    InterruptedImport() { prepare(16, 6000); }
 
     static int importDocument() { return CExporter(kBook, "Notes").importFile(kDocument); }
 
-    // Half of the moments are spread over the import, the others are its last ones.
-    int operation(int moment) const {
-        const int half = kMoments / 2;
-        return moment < half ? 1 + operations_ * moment / half
-                             : operations_ - kMoments + moment + 1;
+    // Imports in a process that dies in its `nth` change. Whether it did.
+    static bool killsAmid(int nth) {
+        const pid_t child = fork();
+        if (child == 0) {
+            changesLeft = nth;
+            replaceCall("pwrite64", writeHalfAndDie);
+            replaceCall("unlink", dieBeforeUnlink);
+            importDocument();
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(status == 0 || status == SIGKILL) << status;
+        return status != 0;
     }
 
     // Whether the database, which must be sound, holds all of the import rather than none.
@@ -39,45 +74,34 @@ protected:
         EXPECT_TRUE(records == before_ || records == after_);
         return records == after_;
     }
-
-    static constexpr int kNotes = 30;
-    static constexpr int kMoments = 100;
-    int operations_ = 0;
 };
 
 }  // namespace
 
 TEST_F(InterruptedImport, ByAKillIsWholeOrNotThere) {
-    ASSERT_GT(operations_, kMoments);
+    int nth = 1;
     int whole = 0;
-    for (int moment = 0; moment < kMoments; ++moment) {
-        restore();
-        const pid_t child = fork();
-        if (child == 0) {
-            interruptOperation(operation(moment), Interruption::kKill);
-            importDocument();
-            _exit(0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << moment;
+    for (; killsAmid(nth); ++nth) {
         whole += isImported() ? 1 : 0;
         EXPECT_GE(importDocument(), 0) << "the next import goes as ever";
         EXPECT_TRUE(isImported());
+        restore();
     }
-    EXPECT_TRUE(0 < whole && whole < kMoments) << whole;
+    EXPECT_GT(nth, 50);
+    EXPECT_TRUE(0 < whole && whole < nth - 1) << whole;
 }
 
 TEST_F(InterruptedImport, ByAFullDiskIsRefusedWholeAndGoesOnceThereIsRoom) {
-    for (int moment = 0; moment < kMoments; ++moment) {
-        restore();
-        const CExporter exporter(kBook, "Notes");
-        interruptOperation(operation(moment), Interruption::kDiskFull);
-        const int result = exporter.importFile(kDocument);
-        endInterruption();
-        EXPECT_TRUE(result == host::kDatabaseError || result == kNotes) << result;
-        EXPECT_EQ(isImported(), result == kNotes) << moment;
-        EXPECT_GE(exporter.importFile(kDocument), 0);
-        EXPECT_TRUE(isImported());
+    const CExporter exporter(kBook, "Notes");
+    int refused = 0;
+    for (int nth = 1, result = -1; result < 0; ++nth) {
+        changesLeft = nth;
+        replaceCall("pwrite64", writeWhileThereIsRoom);
+        result = exporter.importFile(kDocument);
+        replaceCall<void()>("pwrite64", nullptr);
+        EXPECT_TRUE(result == host::kDatabaseError || result == 16) << result;
+        EXPECT_EQ(isImported(), result >= 0) << nth;
+        refused += result < 0 ? 1 : 0;
     }
+    EXPECT_GT(refused, 50);
 }

@@ -15,7 +15,6 @@ namespace {
 
 constexpr long kNever = LONG_MAX;
 
-std::atomic<long> live{0};
 std::atomic<long> left{kNever};  // allocations up to the one that fails
 bool failsOn = false;
 Failed first = Failed::kNothing;
@@ -29,9 +28,11 @@ bool fails(Failed kind) {
     return before == 1 || (before < 1 && failsOn);
 }
 
-void* allocate(std::size_t size) {
-    return fails(Failed::kOther) ? nullptr : std::malloc(size);
+void* allocate(Failed kind, std::size_t size) {
+    return fails(kind) ? nullptr : std::malloc(size);
 }
+
+void* allocateElsewhere(std::size_t size) { return allocate(Failed::kOther, size); }
 
 void* reallocate(void* block, std::size_t size) {
     return fails(Failed::kOther) ? nullptr : std::realloc(block, size);
@@ -41,7 +42,9 @@ char* duplicate(const char* text) { return fails(Failed::kOther) ? nullptr : str
 
 bool interceptLibraries() {
     sqlite3_mem_methods methods = {};
-    methods.xMalloc = [](int size) { return allocate(static_cast<std::size_t>(size)); };
+    methods.xMalloc = [](int size) {
+        return allocateElsewhere(static_cast<std::size_t>(size));
+    };
     methods.xFree = std::free;
     methods.xRealloc = [](void* block, int size) {
         return reallocate(block, static_cast<std::size_t>(size));
@@ -51,7 +54,7 @@ bool interceptLibraries() {
     methods.xInit = [](void*) { return SQLITE_OK; };
     methods.xShutdown = [](void*) {};
     return sqlite3_config(SQLITE_CONFIG_MALLOC, &methods) == SQLITE_OK &&
-           xmlMemSetup(std::free, allocate, reallocate, duplicate) == 0;
+           xmlMemSetup(std::free, allocateElsewhere, reallocate, duplicate) == 0;
 }
 
 const bool intercepted = interceptLibraries();  // before either is used
@@ -72,20 +75,11 @@ Failed endShortage() {
     return first;
 }
 
-long liveAllocations() { return live; }
-
 void* operator new(std::size_t size) {
-    void* block = fails(Failed::kNew) ? nullptr : std::malloc(size == 0 ? 1 : size);
-    if (block == nullptr) {
-        throw std::bad_alloc();
-    }
-    ++live;
-    return block;
+    void* block = allocate(Failed::kNew, size == 0 ? 1 : size);
+    return block == nullptr ? throw std::bad_alloc() : block;
 }
 
-void operator delete(void* block) noexcept {
-    live -= block == nullptr ? 0 : 1;
-    std::free(block);
-}
+void operator delete(void* block) noexcept { std::free(block); }
 
-void operator delete(void* block, std::size_t /*size*/) noexcept { operator delete(block); }
+void operator delete(void* block, std::size_t /*size*/) noexcept { std::free(block); }

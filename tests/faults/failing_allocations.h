@@ -1,5 +1,4 @@
-// The allocations of this process, by `new`, SQLite and libxml2, counted and failed at
-// will.
+// The allocations of this process, by `new`, SQLite and libxml2, failed at will.
 #pragma once
 
 enum class Shortage { kOnce, kFromThenOn };
@@ -11,6 +10,3 @@ enum class Failed { kNothing, kNew, kOther };
 
 // Lets allocations succeed again. Tells which one failed first.
 Failed endShortage();
-
-// Blocks that are allocated with `new` and not released.
-long liveAllocations();

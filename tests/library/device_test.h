@@ -3,13 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "export/notes_exporter_impl.h"
 #include "files.h"
-#include "scratch_directory.h"
 #include "script.h"
 
 using scripted::script;
@@ -34,7 +32,24 @@ private:
 
 // Puts the sample book, whose export is golden/full_export.html, on the device: four notes
 // with identifiers 11 to 14, a style sheet and a payload.
-void loadSampleBook();
+inline void loadSampleBook() {
+    script().bookIdsByUid[kUid] = kLibraryId;
+    script().booksOfLibrary[kLibraryId] = {"Dune & \"Sons\"", "Frank <Herbert>"};
+    script().itemIds[kBook] = kItem;
+    script().fastHashes[kItem] = "626F6F6B";
+    script().payload = "records of the book and its notes, in the engine's own form";
+    script().hashText = "abc123";
+    script().pages = {{"at 12.9", 12.9}, {"at 3", 3.0}};
+    const std::string image = "\xFF\xD8\xFF\xE0";
+    scripted::addNote(kBook, {11, "u-11", "yellow", "first <b>\xE2\x80\xA9second", image,
+                              "it's\nfine\xE2\x80\xA8\"now\"", "at 12.9", "at 3"});
+    scripted::addNote(kBook, {12, "u-12"});
+    scripted::addNote(
+        kBook, {13, "a&b", "x\"y", "", "", "\xCE\xB1\nonly\tthis", "nowhere", "at 3"});
+    scripted::addNote(kBook, {14, "", "red", "", image, "", "", "at 3"});
+    writeFile(NOTES_EXPORT_DEVICE_ROOT "/system/reader/notes.css",
+              "p { margin: 0 }\na > b::after { content: \"&\" }");
+}
 
 // An exporter that writes into Notes/, with an empty record of calls.
 struct Exporter : veloran::NotesExporterImpl {
@@ -45,13 +60,31 @@ struct Exporter : veloran::NotesExporterImpl {
     int exportAll() { return export_bookmarks_to_html(kBook, {}, nullptr); }
 };
 
-std::string golden(const std::string& name);
+inline std::string golden(const std::string& name) {
+    return readFile(GOLDEN_DIR "/" + name);
+}
 
-bool startsWith(const std::string& text, const std::string& start);
+inline bool startsWith(const std::string& text, const std::string& start) {
+    return text.compare(0, start.size(), start) == 0;
+}
 
 // The identifiers of the notes that were rendered, in order.
 using Ids = std::vector<unsigned long long>;
-Ids renderedIds();
+inline Ids renderedIds() {
+    Ids ids;
+    for (const std::string& call : script().calls) {
+        if (call.find("::getColor()") != std::string::npos) {
+            ids.push_back(std::stoull(call.substr(call.find('(') + 1)));
+        }
+    }
+    return ids;
+}
 
 // One line each.
-std::string joined(const Calls& lines);
+inline std::string joined(const Calls& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\n";
+    }
+    return text;
+}

@@ -1,14 +1,14 @@
-#include <ctime>
+#include "utilities/note.h"
 
-#include "device_test.h"
+#include <gtest/gtest.h>
+
+#include <ctime>
 
 namespace {
 
-using NoteRecord = DeviceTest;
-using scripted::makeNote;
 using veloran::utilities::Note;
 
-TEST_F(NoteRecord, ValueIsStampedWithNowAndCopiedWhole) {
+TEST(NoteRecord, ValueIsStampedWithNowAndCopiedWhole) {
     const std::time_t before = std::time(nullptr);
     Note::Value value;
     EXPECT_GE(value.timestamp, before);
@@ -22,8 +22,9 @@ TEST_F(NoteRecord, ValueIsStampedWithNowAndCopiedWhole) {
     EXPECT_EQ(copy.timestamp, -5);
 }
 
-TEST_F(NoteRecord, LookupGivesTheStoredValueElseOneSharedDefault) {
-    const Note note = makeNote({2, "u"});
+TEST(NoteRecord, LookupGivesTheStoredValueElseOneSharedDefault) {
+    Note note;
+    note.tags[Note::Tag::Uuid].str = "u";
     EXPECT_EQ(&note[Note::Tag::Uuid], &note.tags.at(Note::Tag::Uuid));
 
     const Note empty;

@@ -23,10 +23,10 @@ std::string textOf(const Note& note, Note::Tag tag, const std::string& getter) {
 
 }  // namespace
 
-namespace scripted {
-
-Note makeNote(const NoteFields& fields) {
-    Note note;
+void scripted::addNote(const std::string& bookHash, const NoteFields& fields) {
+    const std::string key = "key-" + std::to_string(fields.id);
+    script().noteKeys[bookHash].push_back(key);
+    Note& note = script().notes[key];
     note.noteId = fields.id;
     note.tags[Note::Tag::Uuid].str = fields.uuid;
     note.tags[Note::Tag::Anchor].json.emplace()["anchor"] = fields.anchor;
@@ -35,16 +35,7 @@ Note makeNote(const NoteFields& fields) {
     note.tags[kText].str = fields.text;
     note.tags[kImage].str = fields.image;
     note.tags[kComment].str = fields.comment;
-    return note;
 }
-
-void addNote(const std::string& bookHash, const NoteFields& fields) {
-    const std::string key = "key-" + std::to_string(fields.id);
-    script().noteKeys[bookHash].push_back(key);
-    script().notes[key] = makeNote(fields);
-}
-
-}  // namespace scripted
 
 namespace veloran::utilities {
 

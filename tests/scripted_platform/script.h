@@ -5,7 +5,9 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "utilities/note.h"
@@ -23,8 +25,8 @@ struct LibraryBook {
 // test starts from a fresh script: `script() = {}`.
 struct Script {
     // Library database
-    std::map<std::string, long long> libraryIds;  // by raw uid
-    std::map<long long, LibraryBook> libraryBooks;
+    std::map<std::string, long long> bookIdsByUid;  // by raw bytes
+    std::map<long long, LibraryBook> booksOfLibrary;
 
     // Reader database
     std::map<std::string, long long> itemIds;  // by book hash, as the next two
@@ -61,21 +63,16 @@ inline Script& script() {
 
 inline void recordRelease(const std::string& release) { script().calls.push_back(release); }
 
-inline std::string shown(const std::string& text) { return text; }
-inline std::string shown(bool value) { return value ? "true" : "false"; }
-template <class Number>
-std::string shown(Number number) {
-    return std::to_string(number);
-}
-
 template <class... Arguments>
-void recordCall(std::string call, const Arguments&... arguments) {
-    std::string list;
-    ((list += ", " + shown(arguments)), ...);
-    call += "(" + list.substr(list.empty() ? 0 : 2) + ")";
-    script().calls.push_back(call);
+void recordCall(const std::string& function, const Arguments&... arguments) {
+    std::ostringstream call;
+    call << std::boolalpha << function << '(';
+    [[maybe_unused]] const char* separator = "";
+    ((call << std::exchange(separator, ", ") << arguments), ...);
+    call << ')';
+    script().calls.push_back(call.str());
     if (script().onCall) {
-        script().onCall(call);
+        script().onCall(call.str());
     }
 }
 
@@ -98,10 +95,7 @@ struct NoteFields {
     std::string begin = {};   // URI of the start of the passage
 };
 
-// A note of those fields.
-veloran::utilities::Note makeNote(const NoteFields& fields);
-
-// Appends a note to the book, under the key "key-ID".
+// Appends a note of those fields to the book, under the key "key-ID".
 void addNote(const std::string& bookHash, const NoteFields& fields);
 
 }  // namespace scripted

@@ -1,33 +1,85 @@
 // Records for the stand-in's reader database, on devices and in dumps.
 #pragma once
 
+#include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "device_paths.h"
+#include "dump_format.h"
 #include "engine.h"
 #include "files.h"
+#include "gzip_writer.h"
 #include "note_tags.h"
 #include "reader_store.h"
-#include "scratch_directory.h"
 
 // Everything in the records as text, so that a difference shows.
-std::string show(const std::vector<host::BookRecord>& books);
+inline std::string show(const std::vector<host::BookRecord>& books) {
+    std::ostringstream out;
+    for (const host::BookRecord& book : books) {
+        out << "book " << book.fastHash << '|' << book.title << '|' << book.path << '\n';
+        for (const host::NoteRecord& note : book.notes) {
+            out << "  note " << note.uuid << '\n';
+            for (const host::TagRecord& tag : note.tags) {
+                out << "    " << tag.tag << '|' << tag.text << '|' << tag.json.value_or("-")
+                    << '|' << tag.timestamp << '\n';
+            }
+        }
+    }
+    return out.str();
+}
 
 // Two books in the dump's order, with every kind of tag and string: unknown tags, bytes
 // that are no text, a uuid of two notes.
-std::vector<host::BookRecord> sampleBooks();
+inline std::vector<host::BookRecord> sampleBooks() {
+    const host::NoteRecord full = {
+        "full",
+        {{-7, "unknown", "null", 1},
+         {host::kUuidTag, "full", {}, 100},
+         {host::kAnchorTag, "", R"({"anchor":"b?page=1.5","more":[1,{}]})", 100},
+         {host::kTextTag, "a \"quoted\" \xe2\x80\xa9 line\n", {}, -5},
+         {host::kImageTag, std::string("\xff\xd8\0\x01", 4), {}, 5000000000}}};
+    return {{"ab\xff",
+             std::string("T\0itle", 6),
+             "/Books/\xe4\xb8\xad.epub",
+             {{"without tags", {}}, full, {"later", {{host::kUuidTag, "later", {}, 100}}}}},
+            {"cd", "", "", {{"full", {{host::kUuidTag, "of another book", {}, 7}}}}}};
+}
 
 // The payloads that hold `text`, and a dump of the books that the JSON text lists.
-std::string gzipped(const std::string& text);
-std::string dumpOf(const std::string& books);
+inline std::string gzipped(const std::string& text) {
+    std::string payload;
+    host::GzipWriter writer(payload, host::kMaxDumpSize);
+    for (const char c : text) {
+        writer.Put(c);
+    }
+    writer.finish();
+    return payload;
+}
+
+inline std::string dumpOf(const std::string& books) {
+    return gzipped(R"({"format":"notes-export-dump","version":1,"books":[)" + books + "]}");
+}
 
 // What the device's reader database holds, as records and as bytes.
-std::string recordsOnDevice();
-std::string databaseBytes();
+inline std::string recordsOnDevice() {
+    return show(host::ReaderStore(host::kReaderDatabasePath).records());
+}
+
+inline std::string databaseBytes() {
+    const std::string path = host::kReaderDatabasePath;
+    return readFile(path) + readFile(path + "-journal");
+}
 
 // Merges the records into the device's reader database.
-int merge(const std::vector<host::BookRecord>& books);
+inline int merge(const std::vector<host::BookRecord>& books) {
+    return host::ReaderStore(host::kReaderDatabasePath).merge(books);
+}
 
 // The payload of the device's first two books.
-std::string exported();
+inline std::string exported() {
+    std::string payload;
+    const bool done = Engine()->books_export(payload, {1, 2});
+    return done ? payload : throw std::logic_error("no payload");
+}

@@ -1,6 +1,7 @@
-// Files and exported documents as a whole.
+// Files, exported documents, and directories for them.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 // Empty when there is no such file.
@@ -11,3 +12,18 @@ std::string withoutDates(const std::string& document);
 
 // Creates the missing directories that lead to it.
 void writeFile(const std::string& path, const std::string& content);
+
+// A working directory of a test's own: makes an empty one and enters it; removes it at the
+// end and goes back to where it came from.
+class ScratchDirectory {
+public:
+    ScratchDirectory();
+    ~ScratchDirectory();
+
+    ScratchDirectory(const ScratchDirectory&) = delete;
+    ScratchDirectory& operator=(const ScratchDirectory&) = delete;
+
+private:
+    std::filesystem::path previous_ = std::filesystem::current_path();
+    std::filesystem::path path_;
+};

@@ -1,4 +1,7 @@
+#include <openssl/evp.h>
+
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -6,12 +9,13 @@
 #include "oa_buildpath.h"
 #include "script.h"
 #include "system/filesystem.h"
+#include "utilities/serialization_utils.h"
 
 using scripted::recordCall;
 using scripted::script;
 
 int FastBookHash(const char* path, char* buffer, int size) {
-    recordCall("FastBookHash", std::string(path), size);
+    recordCall("FastBookHash", path, size);
     // What follows the hash is filled, so that reading too far shows.
     std::fill_n(buffer, size, '#');
     script().hashText.copy(buffer, static_cast<std::size_t>(size));
@@ -20,7 +24,7 @@ int FastBookHash(const char* path, char* buffer, int size) {
 }
 
 int oa_buildpath(const char* path) {
-    recordCall("oa_buildpath", std::string(path));
+    recordCall("oa_buildpath", path);
     const auto directory = std::filesystem::absolute(path).parent_path();
     std::error_code error;
     std::filesystem::create_directories(directory, error);
@@ -44,3 +48,25 @@ std::string GetFileNameFromPath(const std::string& path) {
 }
 
 }  // namespace veloran::system::filesystem
+
+namespace veloran::utilities {
+
+std::string SerializationUtils::FromHex(const std::string& hex) {
+    recordCall("SerializationUtils::FromHex", hex);
+    std::string bytes;
+    for (std::size_t i = 0; i < hex.size(); i += 2) {
+        bytes += static_cast<char>(std::strtol(hex.substr(i, 2).c_str(), nullptr, 16));
+    }
+    return bytes;
+}
+
+std::string SerializationUtils::ToBase64(const std::string& bytes) {
+    recordCall("SerializationUtils::ToBase64", std::to_string(bytes.size()) + " bytes");
+    std::string text((bytes.size() + 2) / 3 * 4, '\0');
+    EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
+                    reinterpret_cast<const unsigned char*>(bytes.data()),
+                    static_cast<int>(bytes.size()));
+    return text;
+}
+
+}  // namespace veloran::utilities

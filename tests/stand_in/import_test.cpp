@@ -1,16 +1,29 @@
-// Documents around the dump, such as the corpus of the fuzz target has no room for.
-#include <gtest/gtest.h>
+// Documents such as the corpus of the fuzz target has no room for, and a reader database
+// that fails.
+#include <cstdint>
+#include <ctime>
+#include <limits>
 
+#include "connection.h"
 #include "dump_reader.h"
 #include "import_result.h"
+#include "on_empty_device.h"
 #include "records.h"
+#include "utilities/reader_db_manager.h"
 #include "utilities/serialization_utils.h"
+
+using Document = OnEmptyDevice;
+using Store = OnEmptyDevice;
 
 namespace {
 
-class Document : public testing::Test {
-    const ScratchDirectory device_;
-};
+std::string failureOfReading() {
+    try {
+        return recordsOnDevice();
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
 
 }  // namespace
 
@@ -56,4 +69,40 @@ TEST_F(Document, DamagedAnywhereIsReadWholeAndRightOrLeavesTheDatabaseAlone) {
         }
     }
     EXPECT_TRUE(0 < refused && refused < damaged.size()) << refused;
+}
+
+TEST_F(Store, TimesBeyondThoseOfTheClockAreItsLimits) {
+    using Clock = std::numeric_limits<std::time_t>;
+    using Stored = std::numeric_limits<std::int64_t>;
+    using veloran::utilities::Note;
+    const host::TagRecord last{1, "", {}, Stored::max()}, first{2, "", {}, Stored::min()};
+    merge({{"ab", "", "", {{"n", {last, first}}}}});
+    const Note note = veloran::utilities::ReaderDbManager().getNote("1");
+    EXPECT_EQ(note[Note::Tag{1}].timestamp, Clock::max());
+    EXPECT_EQ(note[Note::Tag{2}].timestamp, Clock::min());
+}
+
+TEST_F(Store, FailuresAreReportedWithTheFileAndWhatIsWrong) {
+    const std::string path = host::kReaderDatabasePath;
+    host::ReaderStore store(path);
+    EXPECT_THROW(store.merge({{"aa", "", "", {}}, {"ab", "", "", {{"", {}}}}}),
+                 std::runtime_error);
+    EXPECT_EQ(recordsOnDevice(), "");
+    EXPECT_EQ(store.merge(sampleBooks()), 4) << "another merge goes as ever";
+    const std::string document = documentOf(exported());
+    Engine engine;
+    for (const char* file : {"missing", ".", ""}) {
+        EXPECT_EQ(engine->books_import(file), host::kFileUnreadable) << file;
+    }
+    host::Connection(path, {1, ""}).query("DROP TABLE tags").run();
+    EXPECT_EQ(failureOfReading(), path + ": no such table: tags");
+    std::string payload;
+    EXPECT_FALSE(engine->books_export(payload, {1}));
+    EXPECT_EQ(imported(document), host::kDatabaseError);
+
+    host::Connection(path, {1, ""}).query("PRAGMA user_version = 2").run();
+    EXPECT_EQ(failureOfReading().find(path + ": written by a later version"), 0U);
+    std::filesystem::remove_all("mnt");
+    std::filesystem::create_directories(path);
+    EXPECT_EQ(failureOfReading(), path + ": unable to open database file");
 }
