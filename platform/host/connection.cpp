@@ -90,17 +90,20 @@ void Connection::transact(const char* begin, const std::function<void()>& work) 
 }
 
 void Connection::bringUpToDate(const Schema& schema) {
-    if (schemaVersion() == 0) {
+    std::int64_t version = schemaVersion();
+    if (version == 0) {
         write([&] {
-            if (schemaVersion() == 0) {  // nobody created it while this waited for the lock
+            version = schemaVersion();
+            if (version == 0) {  // nobody created it while this waited for the lock
                 database_.exec(schema.sql);
-                database_.exec("PRAGMA user_version = " + std::to_string(schema.version));
+                version = schema.version;
+                database_.exec("PRAGMA user_version = " + std::to_string(version));
             }
         });
     }
-    if (schemaVersion() > schema.version) {
+    if (version > schema.version) {
         throw std::runtime_error(path_ + ": written by a later version (schema " +
-                                 std::to_string(schemaVersion()) + ", known is " +
+                                 std::to_string(version) + ", known is " +
                                  std::to_string(schema.version) + ")");
     }
 }

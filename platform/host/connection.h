@@ -12,7 +12,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace host {
 
@@ -92,7 +91,7 @@ private:
 
     std::string path_;
     SQLite::Database database_;
-    std::map<std::string_view, SQLite::Statement> statements_;
+    std::map<const char*, SQLite::Statement> statements_;
 };
 
 }  // namespace host

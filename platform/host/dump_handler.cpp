@@ -8,7 +8,6 @@
 
 #include "base64.h"
 #include "dump_format.h"
-#include "note_json.h"
 
 namespace host {
 
@@ -107,9 +106,9 @@ bool DumpHandler::EndObject(rapidjson::SizeType /*members*/) {
     }
 }
 
-bool DumpHandler::endTag() const {
-    const TagRecord& ended = books_.back().notes.back().tags.back();
-    return tagKnown_ && timestampKnown_ && (!ended.json || isJson(*ended.json));
+bool DumpHandler::endTag() {
+    const TagRecord& ended = tag();
+    return tagKnown_ && timestampKnown_ && (!ended.json || noteJson_.isJson(*ended.json));
 }
 
 bool DumpHandler::StartArray() {

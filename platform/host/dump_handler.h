@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "import_result.h"
+#include "note_json.h"
 #include "records.h"
 
 namespace host {
@@ -49,7 +50,7 @@ private:
     bool version(std::int64_t value);
     bool text(std::string_view value);
     std::string* destination();  // of the text value that comes next; null: none is due
-    bool endTag() const;
+    bool endTag();
 
     NoteRecord& note() { return books_.back().notes.back(); }
     TagRecord& tag() { return note().tags.back(); }
@@ -58,6 +59,7 @@ private:
     ImportResult failure_ = kDumpDamaged;
     int depth_ = 0;  // of open brackets: objects at odd depths, arrays at even ones
     Field field_{};  // the key whose value comes next
+    NoteJson noteJson_;
     std::size_t records_ = 0;
     bool base64_ = false;
     bool formatKnown_ = false;

@@ -60,6 +60,7 @@ private:
     const std::set<unsigned long long>& selected_;
     GzipWriter gzip_;
     JsonWriter<GzipWriter> json_;
+    NoteJson noteJson_;
     std::size_t records_ = 0;
 };
 
@@ -120,7 +121,7 @@ void DumpWriter::tag(const TagRecord& tag) {
     key("tag");
     json_.Int(tag.tag);
     bytes("text", tag.text);
-    if (tag.json && isJson(*tag.json)) {
+    if (tag.json && noteJson_.isJson(*tag.json)) {
         key("json");
         string(*tag.json);
     }

@@ -6,7 +6,7 @@
 namespace host {
 namespace {
 
-constexpr int kLevel = 6;
+constexpr int kLevel = 1;
 constexpr int kGzipFraming = 16;
 constexpr int kMemoryLevel = 8;
 constexpr int kUnknownSystem = 255;  // rather than the system that zlib was built on

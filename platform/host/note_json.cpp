@@ -10,6 +10,7 @@
 #include "json_sax.h"
 
 namespace host {
+
 namespace {
 
 constexpr int kMaxDepth = 32;
@@ -42,23 +43,31 @@ std::unique_ptr<Json::CharReader> strictReader() {
 
 }  // namespace
 
-bool isJson(const std::string& text) {
+struct NoteJson::Validator {
+    JsonReader reader;
+};
+
+NoteJson::NoteJson() : validator_(std::make_unique<Validator>()), parser_(strictReader()) {}
+
+NoteJson::~NoteJson() = default;
+
+bool NoteJson::isJson(const std::string& text) {
     constexpr unsigned kFlags =
         rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
     rapidjson::MemoryStream bytes(text.data(), text.size());
-    JsonReader reader;
     DepthGuard guard;
     // The parser takes a zero byte for the end of the text.
-    return !reader.Parse<kFlags>(bytes, guard).IsError() && bytes.Tell() == text.size();
+    return !validator_->reader.Parse<kFlags>(bytes, guard).IsError() &&
+           bytes.Tell() == text.size();
 }
 
-std::optional<Json::Value> parseJson(const std::string& text) {
+std::optional<Json::Value> NoteJson::parse(const std::string& text) {
     if (text.size() > kMaxParsedSize || !isJson(text)) {
         return std::nullopt;
     }
     std::optional<Json::Value> value(std::in_place);
     const char* begin = text.data();
-    if (!strictReader()->parse(begin, begin + text.size(), &*value, nullptr)) {
+    if (!parser_->parse(begin, begin + text.size(), &*value, nullptr)) {
         value.reset();
     }
     return value;

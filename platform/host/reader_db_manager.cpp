@@ -14,6 +14,7 @@ namespace veloran::utilities {
 
 struct Sqlite::Connection {
     host::ReaderStore store{host::kReaderDatabasePath};
+    host::NoteJson json;
 };
 
 void Sqlite::close() {
@@ -23,11 +24,11 @@ void Sqlite::close() {
 
 namespace {
 
-host::ReaderStore& connected(Sqlite& connection) {
+Sqlite::Connection& connected(Sqlite& connection) {
     if (connection.handle() == nullptr) {
         connection.setHandle(new Sqlite::Connection);
     }
-    return connection.handle()->store;
+    return *connection.handle();
 }
 
 // A note's key is its identifier in decimal; 0, which no note has, for any other text.
@@ -43,11 +44,11 @@ std::time_t toTime(std::int64_t seconds) {
         std::clamp<std::int64_t>(seconds, Limits::min(), Limits::max()));
 }
 
-void setTag(Note& note, host::TagRecord& record) {
+void setTag(Note& note, host::TagRecord& record, host::NoteJson& json) {
     Note::Value& value = note.tags[Note::Tag{record.tag}];
     value.str = std::move(record.text);
     if (record.json) {
-        value.json = host::parseJson(*record.json);
+        value.json = json.parse(*record.json);
     }
     value.timestamp = toTime(record.timestamp);
 }
@@ -66,12 +67,12 @@ void setUuid(Note& note, const std::string& uuid) {
 ReaderDbManager::ReaderDbManager() = default;
 
 long long ReaderDbManager::getItemId(const std::string& bookHash) {
-    const auto book = connected(connection_).findBook(bookHash);
+    const auto book = connected(connection_).store.findBook(bookHash);
     return book ? book->id : -1;
 }
 
 std::vector<Book> ReaderDbManager::getBookByFastHash(const std::string& bookHash) {
-    const auto entry = connected(connection_).findBook(bookHash);
+    const auto entry = connected(connection_).store.findBook(bookHash);
     if (!entry) {
         return {};
     }
@@ -83,14 +84,14 @@ std::vector<Book> ReaderDbManager::getBookByFastHash(const std::string& bookHash
 }
 
 std::string ReaderDbManager::getBookFastHashById(long long itemId) {
-    const auto book = connected(connection_).findBook(std::int64_t{itemId});
+    const auto book = connected(connection_).store.findBook(std::int64_t{itemId});
     return book ? book->fastHash : std::string();
 }
 
 std::vector<std::pair<std::string, unsigned long long>>
 ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*/) {
     std::vector<std::pair<std::string, unsigned long long>> keys;
-    host::ReaderStore& store = connected(connection_);
+    host::ReaderStore& store = connected(connection_).store;
     if (const auto book = store.findBook(bookHash)) {
         for (const std::int64_t id : store.noteIds(book->id)) {
             keys.emplace_back(std::to_string(id), static_cast<unsigned long long>(id));
@@ -102,9 +103,10 @@ ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*
 Note ReaderDbManager::getNote(const std::string& noteKey) {
     const std::int64_t id = noteIdOf(noteKey);
     Note note;
-    if (auto record = connected(connection_).note(id)) {
+    Sqlite::Connection& connection = connected(connection_);
+    if (auto record = connection.store.note(id)) {
         for (host::TagRecord& tag : record->tags) {
-            setTag(note, tag);
+            setTag(note, tag, connection.json);
         }
         setUuid(note, record->uuid);
         note.noteId = static_cast<unsigned long long>(id);

@@ -44,7 +44,7 @@ TEST_F(Dump, IsJsonInOneGzipMemberWithoutTimeAndSystem) {
                {101, "", R"({"anchor":"x"})", 7},
                {102, std::string(1, '\0'), "broken {", 7}}}}}});
     const std::string payload = exported();
-    EXPECT_EQ(payload.substr(0, 10), std::string("\x1f\x8b\x08\0\0\0\0\0\0\xff", 10));
+    EXPECT_EQ(payload.substr(0, 10), std::string("\x1f\x8b\x08\0\0\0\0\0\4\xff", 10));
     writeFile("dump.gz", payload);
     gzFile file = gzopen("dump.gz", "rb");
     std::string text(1000, '\0');

@@ -44,7 +44,7 @@ TEST(JsonElement, IsTheTextOfAStringInAnObject) {
     using veloran::utilities::Note;
     const auto anchor = [](const std::string& json) {
         Note note;
-        note.tags[Note::Tag::Anchor].json = host::parseJson(json);
+        note.tags[Note::Tag::Anchor].json = host::NoteJson().parse(json);
         return note.getJsonTagElement(Note::Tag::Anchor, "anchor");
     };
     EXPECT_EQ(anchor(R"({"anchor":"\u00e9 &"})"), "\xc3\xa9 &");
