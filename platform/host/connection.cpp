@@ -62,6 +62,7 @@ Connection::Connection(const std::string& path, const Schema& schema)
     : path_(path), database_(openFile(path)) {
     naming(path, [&] {
         database_.exec("PRAGMA foreign_keys = ON");
+        database_.exec("PRAGMA temp_store = MEMORY");  // sorting needs no room on disk
         bringUpToDate(schema);
     });
 }

@@ -93,10 +93,14 @@ std::vector<std::int64_t> ReaderStore::noteIds(std::int64_t bookId) {
 }
 
 std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
+    // The notes are visited as they lie in the file, together with their tags; by uuid, as
+    // their index has them, each would be on another page. Without a LIMIT, SQLite would
+    // drop the inner order.
     return identifiers(connection_->query(
-        "SELECT id FROM notes LEFT JOIN tags ON note_id = id AND tag = ? "
-        "WHERE book_id = ? ORDER BY timestamp, uuid",
-        std::int64_t{kUuidTag}, bookId));
+        "SELECT id FROM (SELECT id, uuid FROM notes WHERE book_id = ? ORDER BY id LIMIT "
+        "-1) "
+        "LEFT JOIN tags ON note_id = id AND tag = ? ORDER BY timestamp, uuid",
+        bookId, std::int64_t{kUuidTag}));
 }
 
 std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
