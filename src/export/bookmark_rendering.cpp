@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "export/notes_exporter_impl.h"
 #include "utilities/serialization_utils.h"
 #include "writer/rewrite.h"
@@ -51,8 +53,8 @@ void writePicture(Writer& writer, std::string image) {
         return;
     }
     writer.openElt("div").writeAttr("class", "bm-image").openElt("img");
-    const std::string base64 = utilities::SerializationUtils::ToBase64(image);
-    image = {};  // not held beside its markup
+    const std::string base64 =  // the bytes are not held beside it
+        utilities::SerializationUtils::ToBase64(std::exchange(image, {}));
     writer.writeAttr("src", "data:image/jpeg;base64,", base64.c_str());
     writer.closeElt().closeElt();
 }

@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <cstdint>
-#include <deque>
 
 #include "export/merge_sort.h"
 #include "export/notes_exporter_impl.h"
@@ -15,7 +15,7 @@ using utilities::Note;
 struct SortKey {
     std::uint32_t page;
     long long noteId;
-    const Note* note;
+    std::size_t place;  // of the note among the selected ones
 };
 
 // Page numbers wrap into unsigned ones: a note on page -1 precedes the notes without a
@@ -26,6 +26,28 @@ std::uint32_t pageKey(std::optional<int> page) {
 
 bool isSelected(const Note& note, const std::set<unsigned long long>& ids) {
     return ids.empty() || ids.count(note.noteId) != 0;
+}
+
+// Moves the selected notes into `notes`, and returns their keys.
+std::vector<SortKey> select(utilities::ReaderDbManager& readerDb,
+                            const std::string& bookHash,
+                            const std::set<unsigned long long>& ids,
+                            std::vector<Note>& notes) {
+    const auto noteKeys = readerDb.getBookNotesHashUUIDs(bookHash, true);
+    const std::size_t most =
+        ids.empty() ? noteKeys.size() : std::min(ids.size(), noteKeys.size());
+    std::vector<SortKey> keys;
+    keys.reserve(most);
+    notes.reserve(most);
+    for (const auto& noteKey : noteKeys) {
+        Note note = readerDb.getNote(noteKey.first);
+        if (isSelected(note, ids)) {
+            const std::uint32_t page = pageKey(NotesExporterImpl::getPageNumber(note));
+            keys.push_back({page, static_cast<long long>(note.noteId), notes.size()});
+            notes.push_back(std::move(note));
+        }
+    }
+    return keys;
 }
 
 void sort(std::vector<SortKey>& keys, const NoteOrder& before) {
@@ -44,20 +66,12 @@ void sort(std::vector<SortKey>& keys, const NoteOrder& before) {
 int NotesExporterImpl::writeBookmarks(Writer& writer, const std::string& bookHash,
                                       const std::set<unsigned long long>& ids,
                                       const NoteOrder& before) {
-    std::deque<Note> notes;
-    std::vector<SortKey> keys;
-    for (const auto& key : readerDb_.getBookNotesHashUUIDs(bookHash, true)) {
-        Note note = readerDb_.getNote(key.first);
-        if (isSelected(note, ids)) {
-            const std::uint32_t page = pageKey(getPageNumber(note));
-            notes.push_back(std::move(note));
-            keys.push_back(
-                {page, static_cast<long long>(notes.back().noteId), &notes.back()});
-        }
-    }
+    std::vector<Note> notes;
+    std::vector<SortKey> keys = select(readerDb_, bookHash, ids, notes);
     sort(keys, before);
     for (const SortKey& key : keys) {
-        writeBookmark(writer, *key.note);
+        const Note note = std::move(notes[key.place]);  // freed while it is in the cache
+        writeBookmark(writer, note);
     }
     return 0;
 }

@@ -1,0 +1,136 @@
+#include "device.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "device_paths.h"
+#include "library_store.h"
+#include "note_tags.h"
+#include "notes_export/notes_export.h"
+#include "reader_store.h"
+#include "sample_notes.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char kBookHash[] = "626f6f6b";
+constexpr char kExport[] = "Notes/Book.html";
+constexpr char kHidden[] = "hidden.db";
+
+struct Scratch {
+    ~Scratch() {
+        fs::current_path(fs::temp_directory_path());
+        fs::remove_all(folder);
+    }
+    const fs::path folder =
+        fs::temp_directory_path() / ("notes-export-benchmark-" + std::to_string(getpid()));
+};
+
+class Exporter {
+public:
+    Exporter() { notes_exporter_set_export_dir(handle_, "Notes"); }
+    ~Exporter() { free_notes_exporter(handle_); }
+    Exporter(const Exporter&) = delete;
+    Exporter& operator=(const Exporter&) = delete;
+
+    notes_exporter* get() const { return handle_; }
+
+private:
+    notes_exporter* handle_ = new_notes_exporter();
+};
+
+// What failed would be fast.
+void check(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+std::string jsonOf(const std::string& key, const std::string& uri) {
+    return "{\"" + key + "\":\"" + uri + "\"}";
+}
+
+host::NoteRecord note(std::size_t place, const std::string& text) {
+    const std::string uuid =
+        sampleNotes()[place % sampleNotes().size()].uuid + "-" + std::to_string(place);
+    const std::string position = samplePosition(place);
+    const auto time = static_cast<std::int64_t>(1741339501 + place);
+    return {uuid,
+            {{host::kUuidTag, uuid, {}, time},
+             {host::kAnchorTag, "", jsonOf("anchor", position), time},
+             {host::kColorTag, "yellow", {}, time},
+             {host::kTextTag, text, {}, time},
+             {host::kRangeTag, "", jsonOf("begin", position), time}}};
+}
+
+host::BookRecord emptyBook() { return {kBookHash, "Book", "/books/Book.epub", {}}; }
+
+}  // namespace
+
+host::BookRecord bookOfNotes(std::size_t notes) {
+    host::BookRecord book = emptyBook();
+    for (std::size_t place = 0; place < notes; ++place) {
+        book.notes.push_back(note(place, sampleText(place)));
+        if (place % 2 == 0) {
+            book.notes.back().tags.push_back(
+                {host::kCommentTag, sampleNotes().front().comment, {}, 1741339501});
+        }
+    }
+    return book;
+}
+
+host::BookRecord bookOfPictures(std::size_t notes) {
+    const std::string picture = samplePicture(400000);
+    host::BookRecord book = emptyBook();
+    for (std::size_t place = 0; place < notes; ++place) {
+        book.notes.push_back(note(place, ""));
+        book.notes.back().tags.push_back({host::kImageTag, picture, {}, 1741339501});
+    }
+    return book;
+}
+
+host::BookRecord bookOfComment(std::size_t bytes) {
+    host::BookRecord book = emptyBook();
+    book.notes.push_back(note(0, ""));
+    book.notes.back().tags.push_back(
+        {host::kCommentTag, sampleLongComment(bytes), {}, 1741339501});
+    return book;
+}
+
+void enterDevice(MakeBook makeBook, std::size_t size) {
+    static const Scratch scratch;
+    const auto kind = std::to_string(reinterpret_cast<std::uintptr_t>(makeBook));
+    const fs::path folder = scratch.folder / kind / std::to_string(size);
+    const bool present = fs::exists(folder);
+    fs::create_directories(folder);
+    fs::current_path(folder);
+    if (!present) {
+        host::LibraryStore(host::kLibraryDatabasePath)
+            .putBook({"book", "Book", "Author", "/books/Book.epub"});
+        host::ReaderStore(host::kReaderDatabasePath).merge({makeBook(size)});
+        exportBook();
+        fs::rename(kExport, kDocument);
+    }
+}
+
+void removeReaderDatabase() { fs::remove(host::kReaderDatabasePath); }
+
+void hideReaderDatabase() { fs::rename(host::kReaderDatabasePath, kHidden); }
+
+void showReaderDatabase() { fs::rename(kHidden, host::kReaderDatabasePath); }
+
+void exportBook() {
+    const Exporter exporter;
+    check(notes_exporter_export_bookmarks_to_html(exporter.get(), kBookHash, nullptr, 0,
+                                                  nullptr, nullptr) == 0);
+}
+
+void removeExport() { check(fs::remove(kExport)); }
+
+void importDocument() {
+    const Exporter exporter;
+    check(notes_exporter_import_from_file(exporter.get(), kDocument) > 0);
+}

@@ -1,0 +1,20 @@
+// Jobs on the stand-in: device_instructions export|import NOTES
+#include <cstdlib>
+#include <string>
+
+#include "counted.h"
+#include "device.h"
+
+int main(int count, char** arguments) {
+    if (count != 3) {
+        return EXIT_FAILURE;
+    }
+    enterDevice(bookOfNotes, std::stoul(arguments[2]));
+    if (std::string(arguments[1]) == "export") {
+        counted(exportBook);
+    } else {
+        removeReaderDatabase();
+        counted(importDocument);
+    }
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,73 @@
+// Jobs of the library alone, and of its peers: library_instructions JOB NOTES
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <string>
+
+#include "counted.h"
+#include "export/fail_stop_file.h"
+#include "memory_device.h"
+#include "peers.h"
+#include "rendering.h"
+
+namespace {
+
+void renders() {
+    const RecordedNotes notes = memory_platform::fetchedNotes();
+    counted([&] {
+        veloran::FailStopFile file("/dev/null");
+        render(file, notes);
+    });
+}
+
+void exports(const veloran::NoteOrder& before) {
+    veloran::NotesExporterImpl exporter;
+    exporter.setExportDir(".");
+    const std::string path = exporter.getExportFilename("626f6f6b");
+    counted([&] { exporter.export_bookmarks_to_html("626f6f6b", {}, before); });
+    std::remove(path.c_str());
+}
+
+void exportsByPage() { exports({}); }
+
+void exportsInReverse() {
+    exports([](long long a, long long b) { return b < a; });
+}
+
+template <const peers::Peer& kPeer>
+void writes() {
+    ReadyNotes notes(memory_platform::device().positions.size());
+    counted([&] { kPeer.toMemory(notes); });
+}
+
+template <const peers::Peer& kPeer>
+void rendersWith() {
+    const RecordedNotes records = memory_platform::fetchedNotes();
+    NotesOfRecords notes(records);
+    counted([&] { kPeer.toMemory(notes); });
+}
+
+const std::map<std::string, void (*)()> kJobs = {
+    {"render", renders},
+    {"render/libxml2", rendersWith<peers::libxml2>},
+    {"render/tinyxml2", rendersWith<peers::tinyxml2>},
+    {"render/pugixml", rendersWith<peers::pugixml>},
+    {"write", writes<peers::writer>},
+    {"write/libxml2", writes<peers::libxml2>},
+    {"write/tinyxml2", writes<peers::tinyxml2>},
+    {"write/pugixml", writes<peers::pugixml>},
+    {"export", exportsByPage},
+    {"export/predicate", exportsInReverse},
+};
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    const auto job = kJobs.find(count == 3 ? arguments[1] : "");
+    if (job == kJobs.end()) {
+        return EXIT_FAILURE;
+    }
+    memory_platform::setNoteCount(std::stoul(arguments[2]));
+    job->second();
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,103 @@
+// The peak memory of one export on the stand-in as a whole process, beside what it may
+// take: peak_memory notes|comment|pictures SIZE
+#include <malloc.h>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <deque>
+#include <functional>
+#include <map>
+
+#include "device.h"
+#include "document.h"
+#include "utilities/reader_db_manager.h"
+
+namespace {
+
+constexpr char kBook[] = "626f6f6b";
+
+const std::map<std::string, MakeBook> kBooks = {
+    {"notes", bookOfNotes}, {"comment", bookOfComment}, {"pictures", bookOfPictures}};
+
+// In KiB, as the system reports it.
+long peakOf(const std::function<void()>& job) {
+    const pid_t child = fork();
+    if (child == 0) {
+        job();
+        _exit(0);
+    }
+    int status = 0;
+    rusage usage = {};
+    wait4(child, &status, 0, &usage);
+    if (status != 0) {
+        std::abort();
+    }
+    return usage.ru_maxrss;
+}
+
+long kibibytes(std::size_t bytes) { return static_cast<long>(bytes / 1024); }
+
+// What all notes of the book take, held once.
+std::size_t sizeOfNotes() {
+    veloran::utilities::ReaderDbManager manager;
+    std::deque<veloran::utilities::Note> notes;
+    const auto held = [] { return mallinfo2().uordblks + mallinfo2().hblkhd; };
+    const std::size_t before = held();
+    for (const auto& key : manager.getBookNotesHashUUIDs(kBook, true)) {
+        notes.push_back(manager.getNote(key.first));
+    }
+    return held() - before;
+}
+
+// The longest text of a note, which the platform hands out as a copy.
+std::size_t sizeOfLongestText() {
+    veloran::utilities::ReaderDbManager manager;
+    std::size_t longest = 0;
+    for (const auto& key : manager.getBookNotesHashUUIDs(kBook, true)) {
+        const veloran::utilities::Note note = manager.getNote(key.first);
+        longest = std::max({longest, note.getText().size(), note.getNote().size()});
+    }
+    return longest;
+}
+
+// The payload, its Base64 text and the markup of one picture; all of them are as large.
+std::size_t sizeOfDocumentParts() {
+    const std::string document = contentOf(kDocument);
+    const std::size_t base64 = document.find("</script>") - document.find("<script");
+    const std::size_t picture = std::min(document.find("<img"), document.size());
+    const std::size_t end = std::min(document.find("</img>", picture), document.size());
+    return base64 + base64 / 4 * 3 + (end - picture);
+}
+
+std::size_t inChild(std::size_t (*measure)()) {
+    void* shared = mmap(nullptr, sizeof(std::size_t), PROT_READ | PROT_WRITE,
+                        MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    auto* const result = static_cast<std::size_t*>(shared);
+    peakOf([&] { *result = measure(); });
+    return *result;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    const auto book = kBooks.find(count == 3 ? arguments[1] : "");
+    if (book == kBooks.end()) {
+        return EXIT_FAILURE;
+    }
+    const std::size_t size = std::stoul(arguments[2]);
+    enterDevice(bookOfNotes, 1);
+    const long bare = peakOf(exportBook);
+    peakOf([&] { enterDevice(book->second, size); });  // what it takes is not ours
+    enterDevice(book->second, size);
+    const long peak = peakOf(exportBook);
+    const std::size_t parts =
+        inChild(sizeOfNotes) + inChild(sizeOfLongestText) + inChild(sizeOfDocumentParts);
+    const long allowed = bare + kibibytes(parts) + 8 * 1024;
+    std::printf("%s/%zu %ld %ld\n", arguments[1], size, peak, allowed);
+    return EXIT_SUCCESS;
+}
