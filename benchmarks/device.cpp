@@ -122,6 +122,14 @@ void hideReaderDatabase() { fs::rename(host::kReaderDatabasePath, kHidden); }
 
 void showReaderDatabase() { fs::rename(kHidden, host::kReaderDatabasePath); }
 
+void createAndFreeExporter() { const Exporter exporter; }
+
+void askForFileName() {
+    char name[256];
+    const Exporter exporter;
+    notes_exporter_get_exported_file_name(exporter.get(), name, sizeof name, kBookHash);
+}
+
 void exportBook() {
     const Exporter exporter;
     check(notes_exporter_export_bookmarks_to_html(exporter.get(), kBookHash, nullptr, 0,

@@ -28,6 +28,8 @@ void hideReaderDatabase();
 void showReaderDatabase();
 
 // What an application does: creates an exporter, uses it and frees it. A failure aborts.
+void createAndFreeExporter();
+void askForFileName();
 void exportBook();
 void removeExport();
 void importDocument();

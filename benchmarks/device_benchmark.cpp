@@ -8,6 +8,7 @@
 #include "device.h"
 #include "document.h"
 #include "floors.h"
+#include "growth.h"
 #include "sample_notes.h"
 
 namespace {
@@ -66,6 +67,20 @@ void importFloor(benchmark::State& state) {
     onEmptyDevice(state, [&] { insertRows(book); });
 }
 
+void createAndFree(benchmark::State& state) {
+    enterDevice(bookOfNotes, 1000);
+    for ([[maybe_unused]] auto round : state) {
+        createAndFreeExporter();
+    }
+}
+
+void nameFile(benchmark::State& state) {
+    enterDevice(bookOfNotes, 1000);
+    for ([[maybe_unused]] auto round : state) {
+        askForFileName();
+    }
+}
+
 void base64(benchmark::State& state) {
     const std::string bytes = samplePicture(400000);
     for ([[maybe_unused]] auto round : state) {
@@ -84,19 +99,16 @@ void base64Floor(benchmark::State& state) {
     }
 }
 
-void noteCounts(benchmark::internal::Benchmark* benchmark) {
-    for (const int notes : {1000, 10000, 30000, 100000, 300000}) {
-        benchmark->Arg(notes);
-    }
-}
-
-BENCHMARK_CAPTURE(exports, notes, bookOfNotes)->Apply(noteCounts);
-BENCHMARK_CAPTURE(exports, comment, bookOfComment)->Arg(1000000)->Arg(10000000);
-BENCHMARK_CAPTURE(exports, pictures, bookOfPictures)->Arg(50)->Arg(500);
+BENCHMARK_CAPTURE(exports, notes, bookOfNotes)
+    ->Apply(grows<1000, 10000, 30000, 100000, 300000>);
+BENCHMARK_CAPTURE(exports, comment, bookOfComment)->Apply(grows<1000000, 10000000>);
+BENCHMARK_CAPTURE(exports, pictures, bookOfPictures)->Apply(grows<50, 500>);
 BENCHMARK_CAPTURE(exportFloor, strict, readRowsInOneGo)->Arg(10000);
 BENCHMARK_CAPTURE(exportFloor, asked, readRowsAsAsked)->Arg(10000);
-BENCHMARK(imports)->Apply(noteCounts);
+BENCHMARK(imports)->Apply(grows<1000, 10000, 30000, 100000, 300000>);
 BENCHMARK(importFloor)->Arg(10000);
+BENCHMARK(createAndFree);
+BENCHMARK(nameFile);
 BENCHMARK(base64);
 BENCHMARK(base64Floor);
 

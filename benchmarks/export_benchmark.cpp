@@ -5,6 +5,7 @@
 
 #include "export/fail_stop_file.h"
 #include "fresh_file.h"
+#include "growth.h"
 #include "memory_device.h"
 #include "rendering.h"
 #include "utilities/serialization_utils.h"
@@ -95,18 +96,12 @@ void dumpEncoding(benchmark::State& state) {
     }
 }
 
-void noteCounts(benchmark::internal::Benchmark* benchmark) {
-    for (const int notes : {1000, 10000, 30000, 100000, 300000}) {
-        benchmark->Arg(notes);
-    }
-}
-
-BENCHMARK(exportNotes)->Apply(noteCounts);
-BENCHMARK(exportInOrderOfPredicate)->Apply(noteCounts);
+BENCHMARK(exportNotes)->Apply(grows<1000, 10000, 30000, 100000, 300000>);
+BENCHMARK(exportInOrderOfPredicate)->Apply(grows<1000, 10000, 30000, 100000, 300000>);
 BENCHMARK(fetchAndRender)->Arg(1000)->Arg(100000);
-BENCHMARK(exportComment)->Arg(1000000)->Arg(10000000);
-BENCHMARK(exportPictures)->Arg(50)->Arg(500);
-BENCHMARK(exportWithTakenNames)->Arg(0)->Arg(20)->Arg(200);
+BENCHMARK(exportComment)->Apply(grows<1000000, 10000000>);
+BENCHMARK(exportPictures)->Apply(grows<50, 500>);
+BENCHMARK(exportWithTakenNames)->Apply(grows<20, 200>);
 BENCHMARK(dumpElement)->Arg(1000000);
 BENCHMARK(dumpEncoding)->Arg(1000000);
 

@@ -1,5 +1,5 @@
-// The peak memory of one export on the stand-in as a whole process, beside what it may
-// take: peak_memory notes|comment|pictures SIZE
+// The peak memory of one export on the stand-in as a whole process, what it may be, and
+// that of an import of the document: peak_memory notes|comment|pictures SIZE
 #include <malloc.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
@@ -98,6 +98,8 @@ int main(int count, char** arguments) {
     const std::size_t parts =
         inChild(sizeOfNotes) + inChild(sizeOfLongestText) + inChild(sizeOfDocumentParts);
     const long allowed = bare + kibibytes(parts) + 8 * 1024;
-    std::printf("%s/%zu %ld %ld\n", arguments[1], size, peak, allowed);
+    removeReaderDatabase();
+    std::printf("%s/%zu %ld %ld %ld\n", arguments[1], size, peak, allowed,
+                peakOf(importDocument));
     return EXIT_SUCCESS;
 }

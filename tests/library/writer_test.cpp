@@ -46,4 +46,22 @@ TEST(Writer, IgnoresTheFormattingOfItsStreamAndWritesNothingOnceItFailed) {
     }
 }
 
+TEST(Writer, WritesElementsOfAnyDepthAndTextsOfAnyLength) {
+    const std::string runs = std::string(3000, 'x') + '&' + std::string(9000, 'y');
+    const std::string escaped = std::string(3000, 'x') + "&amp;" + std::string(9000, 'y');
+    std::ostringstream stream;
+    Writer writer(stream);
+    std::string start, end;
+    for (std::size_t depth = 0; depth < 20; ++depth) {
+        const std::string line = '\n' + std::string(2 * depth, ' ');
+        writer.openElt("e").writeAttr("a", runs.c_str(), "<").writeRaw(runs.c_str());
+        start += (depth == 0 ? "" : line) + "<e a=\"" + escaped + "&lt;\">" + runs;
+        end.insert(0, (depth == 19 ? "" : line) + "</e>");
+    }
+    while (writer.depth() != 0) {
+        writer.closeElt();
+    }
+    EXPECT_TRUE(stream.str() == start + end);
+}
+
 }  // namespace
