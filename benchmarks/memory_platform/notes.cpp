@@ -16,9 +16,10 @@ const SampleNote& stored(const Note& note) {
 }
 
 Note fetched(unsigned long long place) {
+    static const Note::Value uuid;  // stamped with the time once
     Note note;
     note.noteId = place;
-    note.tags[Note::Tag::Uuid].str = stored(note).uuid;
+    note.tags.emplace(Note::Tag::Uuid, uuid).first->second.str = stored(note).uuid;
     return note;
 }
 

@@ -78,6 +78,9 @@ public:
         return Query(prepared(sql), path_, values...);
     }
 
+    // The identifier of the row that was inserted last.
+    std::int64_t lastInsertedId() const { return database_.getLastInsertRowid(); }
+
     // Runs `work` in one transaction, undone when it throws. A writing one holds the write
     // lock from the start; a reading one sees one state of the database throughout.
     void write(const std::function<void()>& work);

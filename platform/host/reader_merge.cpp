@@ -39,13 +39,18 @@ std::int64_t ReaderStore::mergeBook(const BookRecord& book) {
 
 bool ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord& note) {
     bool changed = connection_->query(kInsertNote, bookId, note.uuid).run() > 0;
-    Query row = connection_->query(kFindNote, bookId, note.uuid);
-    row.next();
-    const std::int64_t noteId = row.integer(0);
+    const std::int64_t noteId =
+        changed ? connection_->lastInsertedId() : findNote(bookId, note.uuid);
     for (const TagRecord& tag : note.tags) {
         changed = mergeTag(noteId, tag) || changed;
     }
     return changed;
+}
+
+std::int64_t ReaderStore::findNote(std::int64_t bookId, const std::string& uuid) {
+    Query row = connection_->query(kFindNote, bookId, uuid);
+    row.next();
+    return row.integer(0);
 }
 
 bool ReaderStore::mergeTag(std::int64_t noteId, const TagRecord& tag) {

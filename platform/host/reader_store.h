@@ -67,6 +67,7 @@ public:
 private:
     std::int64_t mergeBook(const BookRecord& book);
     bool mergeNote(std::int64_t bookId, const NoteRecord& note);
+    std::int64_t findNote(std::int64_t bookId, const std::string& uuid);
     bool mergeTag(std::int64_t noteId, const TagRecord& tag);
 
     std::unique_ptr<Connection> connection_;

@@ -9,8 +9,8 @@
 #include "writer/rewrite.h"
 
 // Writes each element on a line of its own, indented by two spaces per enclosing element,
-// and escapes text and attribute values. Everything goes to the stream at once. The
-// stream's state is never looked at: a failed stream swallows the rest of the document.
+// and escapes text and attribute values. Everything goes to the stream at once. A failed
+// stream swallows the rest of the document, and nothing else changes.
 class Writer {
 public:
     // Does not own the stream, and never opens, flushes or closes it.
