@@ -10,7 +10,6 @@
 #include "json_sax.h"
 
 namespace host {
-
 namespace {
 
 constexpr int kMaxDepth = 32;

@@ -32,9 +32,10 @@ inline std::string documentAround(const std::string& dump, const std::string& he
 
 // The same around the payload.
 inline std::string documentOf(const std::string& payload, const std::string& head = "") {
-    std::string text = veloran::utilities::SerializationUtils::ToBase64(payload);
-    for (std::size_t end = 72; end < text.size(); end += 73) {
-        text.insert(end, "\n");
+    const std::string base64 = veloran::utilities::SerializationUtils::ToBase64(payload);
+    std::string text;
+    for (std::size_t at = 0; at < base64.size(); at += 72) {
+        text.append(at == 0 ? "" : "\n").append(base64, at, 72);
     }
     return documentAround(text, head);
 }

@@ -7,8 +7,8 @@ using scripted::LibraryBook;
 using veloran::NotesExporterImpl;
 
 struct Lookup {
-    long long libraryId;  // negative for none
-    LibraryBook libraryBook;
+    long long idByUid;  // negative for none
+    LibraryBook bookOfId;
     std::vector<LibraryBook> readerBooks;
     std::string title;
     std::size_t calls;  // of the platform
@@ -30,8 +30,8 @@ const Lookup kLookups[] = {
 
 void load(const Lookup& lookup) {
     script() = {};
-    script().bookIdsByUid[kUid] = lookup.libraryId;
-    script().booksOfLibrary[lookup.libraryId] = lookup.libraryBook;
+    script().bookIdsByUid[kUid] = lookup.idByUid;
+    script().booksOfLibrary[lookup.idByUid] = lookup.bookOfId;
     for (const LibraryBook& each : lookup.readerBooks) {
         veloran::utilities::Book& book = script().readerBooks[kBook].emplace_back();
         book.title = each.title;
@@ -46,9 +46,9 @@ TEST_F(BookLookup, FollowsTheChainForTheTitleAndAsksTheLibraryForTheAuthor) {
         EXPECT_EQ(script().calls.size(), lookup.calls) << joined(script().calls);
 
         script().calls.clear();
-        const bool isKnown = lookup.libraryId >= 0;
+        const bool isKnown = lookup.idByUid >= 0;
         EXPECT_EQ(NotesExporterImpl::getBookAuthorFromExplorerDB(kBook),
-                  isKnown ? lookup.libraryBook.author : "");
+                  isKnown ? lookup.bookOfId.author : "");
         EXPECT_EQ(script().calls.size(), isKnown ? 5U : 3U);
     }
 }
