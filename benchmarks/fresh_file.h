@@ -2,7 +2,6 @@
 #pragma once
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -19,7 +18,6 @@ public:
     // Runs `write(path)` with the clock on, and removes the file with the clock off.
     template <class Write>
     void writeAnew(benchmark::State& state, Write write) const {
-        malloc_trim(0);  // not the heap that a far larger job left
         for ([[maybe_unused]] auto round : state) {
             write(path_.c_str());
             state.PauseTiming();
