@@ -10,9 +10,8 @@ times("median") as $medians | times("fastest") as $fastest
     row("growth: \($name) \($few) -> \($many)";
         fastest("\($name)/\($many)") / fastest("\($name)/\($few)"); 11);
 [
-  (["render", "write/*/writer"][] as $ours | ["memory", "file"][] as $where | [1000, 100000][] as $n
-   | ($ours | sub("/.*"; "")) as $task
-   | (if $ours == "render" then "render/\($where)" else "write/\($where)/writer" end) as $name
+  ({render: "", write: "/writer"} | to_entries[] | .key as $task | .value as $ours
+   | ["memory", "file"][] as $where | [1000, 100000][] as $n | "\($task)/\($where)\($ours)" as $name
    | ["libxml2", "tinyxml2", "pugixml"][] as $peer
    | row("\($name)/\($n) : \($peer)"; time("\($name)/\($n)") / time("\($task)/\($where)/\($peer)/\($n)");
          {"render/file/100000/tinyxml2": 0.45, "render/file/100000/libxml2": 0.35,
