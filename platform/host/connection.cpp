@@ -30,8 +30,10 @@ SQLite::Database openFile(const std::string& path) {
         std::filesystem::create_directories(directory);
     }
     return naming(path, [&] {
-        return SQLite::Database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
-                                kBusyTimeoutMs);
+        // One thread at a time: no call needs a lock.
+        return SQLite::Database(
+            path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
+            kBusyTimeoutMs);
     });
 }
 

@@ -8,6 +8,7 @@
 
 #include "base64.h"
 #include "dump_format.h"
+#include "utf8.h"
 
 namespace host {
 
@@ -142,7 +143,7 @@ bool DumpHandler::text(std::string_view value) {
     }
     if (!base64_) {
         target->assign(value);
-        return true;
+        return isUtf8(value);
     }
     std::optional<std::string> bytes = decodeBase64(value);
     if (bytes) {

@@ -1,7 +1,5 @@
 #include "dump_writer.h"
 
-#include <rapidjson/memorystream.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -13,26 +11,13 @@
 #include "gzip_writer.h"
 #include "json_sax.h"
 #include "note_json.h"
+#include "utf8.h"
 
 namespace host {
 namespace {
 
-struct Nowhere {
-    void Put(char /*c*/) {}
-};
-
 bool isText(const std::string& bytes) {
-    if (bytes.find('\0') != std::string::npos) {
-        return false;
-    }
-    rapidjson::MemoryStream stream(bytes.data(), bytes.size());
-    Nowhere nowhere;
-    while (stream.Tell() < bytes.size()) {
-        if (!rapidjson::UTF8<>::Validate(stream, nowhere)) {
-            return false;
-        }
-    }
-    return true;
+    return bytes.find('\0') == std::string::npos && isUtf8(bytes);
 }
 
 class DumpWriter {

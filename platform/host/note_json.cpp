@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "json_sax.h"
+#include "utf8.h"
 
 namespace host {
 namespace {
@@ -51,12 +52,12 @@ NoteJson::NoteJson() : validator_(std::make_unique<Validator>()), parser_(strict
 NoteJson::~NoteJson() = default;
 
 bool NoteJson::isJson(const std::string& text) {
-    constexpr unsigned kFlags =
-        rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
     rapidjson::MemoryStream bytes(text.data(), text.size());
     DepthGuard guard;
     // The parser takes a zero byte for the end of the text.
-    return !validator_->reader.Parse<kFlags>(bytes, guard).IsError() &&
+    return isUtf8(text) &&
+           !validator_->reader.Parse<rapidjson::kParseIterativeFlag>(bytes, guard)
+                .IsError() &&
            bytes.Tell() == text.size();
 }
 

@@ -94,3 +94,14 @@ TEST(DumpReader, RefusesWhatExceedsALimitOrGoesOnInAnotherPiece) {
     EXPECT_THROW(host::readPayload({dumpOf(notes + "]}")}, host::kMaxDumpSize),
                  host::DumpError);
 }
+
+TEST(DumpReader, RefusesStringsThatAreNotUtf8) {
+    const auto read = [](const std::string& title) {
+        return host::readPayload({dumpOf(R"({"fast_hash":"ab","title":")" + title + "\"}")},
+                                 host::kMaxDumpSize);
+    };
+    EXPECT_EQ(read("D\xc3\xbcne \\u00e9").at(0).title, "D\xc3\xbcne \xc3\xa9");
+    for (const char* title : {"\xff", "D\xc3", "\\udc00", "\\ud800"}) {
+        EXPECT_THROW(read(title), host::DumpError) << title;
+    }
+}

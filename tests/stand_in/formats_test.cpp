@@ -7,6 +7,7 @@
 #include "base64.h"
 #include "note_json.h"
 #include "readerlib/position_uri.h"
+#include "utf8.h"
 #include "utilities/note.h"
 
 TEST(PositionUri, NamesThePageInItsQuery) {
@@ -40,6 +41,24 @@ TEST(Base64, SkipsWhiteSpaceAndRefusesEverythingElseForeign) {
     }
 }
 
+TEST(Utf8, IsFoundBrokenWhereverItIs) {
+    for (std::size_t before = 0; before < 17; ++before) {
+        for (const char* after : {"", "12345678"}) {
+            const auto isUtf8 = [&](const char* bytes) {
+                return host::isUtf8(std::string(before, 'a') + bytes + after);
+            };
+            for (const char* bytes :
+                 {"", "\x7f", "\xc3\xbc", "\xef\xbf\xbf", "\xf4\x8f\xbf\xbf"}) {
+                EXPECT_TRUE(isUtf8(bytes)) << before << bytes << after;
+            }
+            for (const char* bytes : {"\x80", "\xc3", "\xc0\xaf", "\xe4\xb8",
+                                      "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xff"}) {
+                EXPECT_FALSE(isUtf8(bytes)) << before << bytes << after;
+            }
+        }
+    }
+}
+
 TEST(JsonElement, IsTheTextOfAStringInAnObject) {
     using veloran::utilities::Note;
     const auto anchor = [](const std::string& json) {
@@ -53,9 +72,10 @@ TEST(JsonElement, IsTheTextOfAStringInAnObject) {
     EXPECT_EQ(anchor(R"({"anchor":"x","deep":)" + tooDeep + "}"), "");
     EXPECT_EQ(anchor(R"({"anchor":")" + std::string(300000, 'x') + "\"}"), "");
     EXPECT_EQ(anchor(R"({"anchor":"x"})" + std::string(1, '\0')), "");
-    for (const char* json : {"", R"({"other":"x"})", R"({"anchor":1.5})",
-                             R"({"anchor":{"anchor":"x"}})", R"(["anchor"])", R"("anchor")",
-                             R"({"anchor":"x"} trailing)", R"({"anchor":"x")"}) {
+    for (const char* json :
+         {"", R"({"other":"x"})", R"({"anchor":1.5})", R"({"anchor":{"anchor":"x"}})",
+          R"(["anchor"])", R"("anchor")", "{\"anchor\":\"\xff\"}",
+          R"({"anchor":"x"} trailing)", R"({"anchor":"x")"}) {
         EXPECT_EQ(anchor(json), "") << json;
     }
 }

@@ -1,0 +1,45 @@
+#include "utf8.h"
+
+#include <rapidjson/encodings.h>
+#include <rapidjson/memorystream.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace host {
+namespace {
+
+struct Nowhere {
+    void Put(char /*c*/) {}
+};
+
+bool startsWithAsciiWord(std::string_view bytes) {
+    std::uint64_t word = 0;
+    if (bytes.size() < sizeof word) {
+        return false;
+    }
+    std::memcpy(&word, bytes.data(), sizeof word);
+    return (word & 0x8080808080808080U) == 0;
+}
+
+}  // namespace
+
+// Most text is ASCII, which goes eight bytes at a time.
+bool isUtf8(std::string_view bytes) {
+    Nowhere nowhere;
+    while (!bytes.empty()) {
+        std::size_t length = sizeof(std::uint64_t);
+        if (!startsWithAsciiWord(bytes)) {
+            rapidjson::MemoryStream stream(bytes.data(), bytes.size());
+            if (!rapidjson::UTF8<>::Validate(stream, nowhere)) {
+                return false;
+            }
+            length = stream.Tell();
+        }
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
+}  // namespace host
