@@ -68,6 +68,12 @@ host::NoteRecord note(std::size_t place, const std::string& text) {
 
 host::BookRecord emptyBook() { return {kBookHash, "Book", "/books/Book.epub", {}}; }
 
+void exportInOrder(notes_exporter_before before) {
+    const Exporter exporter;
+    check(notes_exporter_export_bookmarks_to_html(exporter.get(), kBookHash, nullptr, 0,
+                                                  before, nullptr) == 0);
+}
+
 }  // namespace
 
 host::BookRecord bookOfNotes(std::size_t notes) {
@@ -130,10 +136,10 @@ void askForFileName() {
     notes_exporter_get_exported_file_name(exporter.get(), name, sizeof name, kBookHash);
 }
 
-void exportBook() {
-    const Exporter exporter;
-    check(notes_exporter_export_bookmarks_to_html(exporter.get(), kBookHash, nullptr, 0,
-                                                  nullptr, nullptr) == 0);
+void exportBook() { exportInOrder(nullptr); }
+
+void exportBookBackwards() {
+    exportInOrder([](void* /*data*/, long long a, long long b) { return b < a; });
 }
 
 void removeExport() { check(fs::remove(kExport)); }

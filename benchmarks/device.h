@@ -31,5 +31,6 @@ void showReaderDatabase();
 void createAndFreeExporter();
 void askForFileName();
 void exportBook();
+void exportBookBackwards();  // in the order of a predicate
 void removeExport();
 void importDocument();
