@@ -1,6 +1,5 @@
 // Whole exports and imports on the stand-in, beside what no program can leave out.
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 #include <openssl/evp.h>
 
 #include <filesystem>
@@ -9,65 +8,59 @@
 #include "device.h"
 #include "document.h"
 #include "floors.h"
-#include "growth.h"
+#include "job.h"
 #include "sample_notes.h"
 
 namespace {
 
 constexpr char kWritten[] = "written.html";
 
-// Each round finds the heap as a new process does, not as a far larger job left it.
-template <class Job, class CleanUp>
-void measure(benchmark::State& state, Job job, CleanUp cleanUp) {
-    for ([[maybe_unused]] auto round : state) {
-        job();
-        state.PauseTiming();
-        cleanUp();
-        malloc_trim(0);
-        state.ResumeTiming();
-    }
+template <class Work, class CleanUp>
+double secondsOfRound(Work work, CleanUp cleanUp) {
+    const double seconds = secondsOf(work);
+    cleanUp();
+    return seconds;
 }
 
-void enter(const benchmark::State& state, MakeBook makeBook) {
-    enterDevice(makeBook, static_cast<std::size_t>(state.range(0)));
+template <MakeBook kMakeBook>
+double exportBookOf(std::size_t size) {
+    enterDevice(kMakeBook, size);
+    return secondsOfRound(exportBook, removeExport);
 }
 
-void exports(benchmark::State& state, MakeBook makeBook) {
-    enter(state, makeBook);
-    measure(state, exportBook, removeExport);
-}
-
-void exportFloor(benchmark::State& state, void (*readRows)()) {
-    enter(state, bookOfNotes);
+template <void (*kReadRows)()>
+double exportFloor(std::size_t notes) {
+    enterDevice(bookOfNotes, notes);
     const std::string document = contentOf(kDocument);
     const std::string dump = textOfDump(document);
-    const auto job = [&] {
-        readRows();
-        if (readRows == readRowsAsAsked) {
+    const auto work = [&] {
+        kReadRows();
+        if (kReadRows == readRowsAsAsked) {
             compress(dump);
         }
         writeAtOnce(document, kWritten);
     };
-    measure(state, job, [] { std::filesystem::remove(kWritten); });
+    return secondsOfRound(work, [] { std::filesystem::remove(kWritten); });
 }
 
-// Puts the reader database aside meanwhile: other benchmarks export it.
-template <class Job>
-void onEmptyDevice(benchmark::State& state, Job job) {
+// The device's own reader database is put aside meanwhile.
+template <class Work>
+double onEmptyDevice(Work work) {
     hideReaderDatabase();
-    measure(state, job, removeReaderDatabase);
+    const double seconds = secondsOfRound(work, removeReaderDatabase);
     showReaderDatabase();
+    return seconds;
 }
 
-void imports(benchmark::State& state) {
-    enter(state, bookOfNotes);
-    onEmptyDevice(state, importDocument);
+double importNotes(std::size_t notes) {
+    enterDevice(bookOfNotes, notes);
+    return onEmptyDevice(importDocument);
 }
 
-void importFloor(benchmark::State& state) {
-    enter(state, bookOfNotes);
-    const host::BookRecord book = bookOfNotes(static_cast<std::size_t>(state.range(0)));
-    onEmptyDevice(state, [&] { insertRows(book); });
+double importFloor(std::size_t notes) {
+    enterDevice(bookOfNotes, notes);
+    const host::BookRecord book = bookOfNotes(notes);
+    return onEmptyDevice([&] { insertRows(book); });
 }
 
 void createAndFree(benchmark::State& state) {
@@ -84,35 +77,41 @@ void nameFile(benchmark::State& state) {
     }
 }
 
-void base64(benchmark::State& state) {
-    const std::string bytes = samplePicture(400000);
-    for ([[maybe_unused]] auto round : state) {
-        benchmark::DoNotOptimize(host::encodeBase64(bytes));
-    }
+double base64(std::size_t size) {
+    const std::string bytes = samplePicture(size);
+    return secondsOf([&] { benchmark::DoNotOptimize(host::encodeBase64(bytes)); });
 }
 
-void base64Floor(benchmark::State& state) {
-    const std::string bytes = samplePicture(400000);
-    for ([[maybe_unused]] auto round : state) {
-        std::string text(bytes.size() * 2, '\0');
+double base64Floor(std::size_t size) {
+    const std::string bytes = samplePicture(size);
+    return secondsOf([&] {
+        std::string text((bytes.size() + 2) / 3 * 4 + 1, '\0');
         EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
                         reinterpret_cast<const unsigned char*>(bytes.data()),
                         static_cast<int>(bytes.size()));
         benchmark::DoNotOptimize(text.data());
-    }
+    });
 }
 
-BENCHMARK_CAPTURE(exports, notes, bookOfNotes)
-    ->Apply(grows<1000, 10000, 30000, 100000, 300000>);
-BENCHMARK_CAPTURE(exports, comment, bookOfComment)->Apply(grows<1000000, 10000000>);
-BENCHMARK_CAPTURE(exports, pictures, bookOfPictures)->Apply(grows<50, 500>);
-BENCHMARK_CAPTURE(exportFloor, strict, readRowsInOneGo)->Arg(10000);
-BENCHMARK_CAPTURE(exportFloor, asked, readRowsAsAsked)->Arg(10000);
-BENCHMARK(imports)->Apply(grows<1000, 10000, 30000, 100000, 300000>);
-BENCHMARK(importFloor)->Arg(10000);
+constexpr Job exportNotes = exportBookOf<bookOfNotes>;
+constexpr Job exportComment = exportBookOf<bookOfComment>;
+constexpr Job exportPictures = exportBookOf<bookOfPictures>;
+
+BENCHMARK_CAPTURE(timed, standInExport, exportNotes)->Arg(10000)->UseManualTime();
+BENCHMARK_CAPTURE(timed, standInImport, importNotes)->Arg(10000)->UseManualTime();
+BENCHMARK_CAPTURE(ratio, standInExportToFloorAsAsked, exportNotes,
+                  exportFloor<readRowsAsAsked>)
+    ->Arg(10000);
+BENCHMARK_CAPTURE(ratio, standInExportToFloorInOneGo, exportNotes,
+                  exportFloor<readRowsInOneGo>)
+    ->Arg(10000);
+BENCHMARK_CAPTURE(ratio, standInImportToFloor, importNotes, importFloor)->Arg(10000);
+BENCHMARK_CAPTURE(ratio, base64ToOpenSsl, base64, base64Floor)->Arg(400000);
+BENCHMARK_CAPTURE(growth, standInExportNotes, exportNotes)->Apply(growsTenfold);
+BENCHMARK_CAPTURE(growth, standInImportNotes, importNotes)->Apply(growsTenfold);
+BENCHMARK_CAPTURE(growth, standInExportComment, exportComment)->Args({1000000, 10000000});
+BENCHMARK_CAPTURE(growth, standInExportPictures, exportPictures)->Args({50, 500});
 BENCHMARK(createAndFree);
 BENCHMARK(nameFile);
-BENCHMARK(base64);
-BENCHMARK(base64Floor);
 
 }  // namespace

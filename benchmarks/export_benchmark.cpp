@@ -3,9 +3,8 @@
 
 #include <filesystem>
 
-#include "export/fail_stop_file.h"
 #include "fresh_file.h"
-#include "growth.h"
+#include "job.h"
 #include "memory_device.h"
 #include "rendering.h"
 #include "utilities/serialization_utils.h"
@@ -13,96 +12,103 @@
 namespace {
 
 using memory_platform::device;
+using memory_platform::setNoteCount;
 using veloran::NoteOrder;
 using veloran::NotesExporterImpl;
 using veloran::utilities::SerializationUtils;
 
 constexpr char kBook[] = "626f6f6b";
 
-std::size_t size(const benchmark::State& state) {
-    return static_cast<std::size_t>(state.range(0));
-}
-
-void exportDevice(benchmark::State& state, const NoteOrder& before = {}) {
+double exportDevice(const NoteOrder& before = {}) {
     NotesExporterImpl exporter;
     exporter.setExportDir(std::filesystem::temp_directory_path());
-    FreshFile(exporter.getExportFilename(kBook))
-        .writeAnew(state, [&](const char* /*path*/) {
+    return FreshFile(exporter.getExportFilename(kBook))
+        .secondsOfWriting([&](const char* /*path*/) {
             exporter.export_bookmarks_to_html(kBook, {}, before);
         });
-    device() = {};
 }
 
-void exportNotes(benchmark::State& state) {
-    memory_platform::setNoteCount(size(state));
-    exportDevice(state);
+double exportNotes(std::size_t count) {
+    setNoteCount(count);
+    return exportDevice();
 }
 
-void exportInOrderOfPredicate(benchmark::State& state) {
-    memory_platform::setNoteCount(size(state));
-    exportDevice(state, [](long long a, long long b) { return b < a; });
+double exportInOrderOfPredicate(std::size_t count) {
+    setNoteCount(count);
+    return exportDevice([](long long a, long long b) { return b < a; });
 }
 
-void exportComment(benchmark::State& state) {
-    memory_platform::setNoteCount(1);
+double exportComment(std::size_t bytes) {
+    setNoteCount(1);
     device().notes = {sampleNotes().front()};
-    device().notes.front().comment = sampleLongComment(size(state));
-    exportDevice(state);
+    device().notes.front().comment = sampleLongComment(bytes);
+    return exportDevice();
 }
 
-void exportPictures(benchmark::State& state) {
-    memory_platform::setNoteCount(size(state));
+double exportPictures(std::size_t count) {
+    setNoteCount(count);
     device().notes = {sampleNotes().front()};
     device().notes.front().picture = samplePicture(400000);
-    exportDevice(state);
+    return exportDevice();
 }
 
-void exportWithTakenNames(benchmark::State& state) {
-    memory_platform::setNoteCount(1);
-    device().takenNames = size(state);
-    exportDevice(state);
+double exportWithTakenNames(std::size_t count) {
+    setNoteCount(1);
+    device().takenNames = count;
+    return exportDevice();
+}
+
+double renderNotes(std::size_t count) {
+    setNoteCount(count);
+    const RecordedNotes notes = memory_platform::fetchedNotes();
+    return FreshFile().secondsOfWriting([&](const char* path) { render(path, notes); });
 }
 
 // The notes are fetched and rendered, which no export can leave out, and nothing else.
-void fetchAndRender(benchmark::State& state) {
-    memory_platform::setNoteCount(size(state));
+double fetchAndRender(std::size_t count) {
+    setNoteCount(count);
     veloran::utilities::ReaderDbManager manager;
-    FreshFile().writeAnew(state, [&](const char* path) {
+    return FreshFile().secondsOfWriting([&](const char* path) {
         RecordedNotes notes;
         for (const auto& key : manager.getBookNotesHashUUIDs(kBook, true)) {
             notes.push_back(manager.getNote(key.first));
         }
-        veloran::FailStopFile file(path);
-        render(file, notes);
-        file.close();
+        render(path, notes);
     });
 }
 
-void dumpElement(benchmark::State& state) {
-    device().payload = samplePicture(size(state));
+double dumpElement(std::size_t bytes) {
+    setNoteCount(0);
+    device().payload = samplePicture(bytes);
     NotesExporterImpl exporter;
     veloran::FailStopFile file("/dev/null");
     Writer writer(file);
-    for ([[maybe_unused]] auto round : state) {
-        exporter.writeBinaryDump(writer, 1, {});
-    }
-    device() = {};
+    return secondsOf([&] { exporter.writeBinaryDump(writer, 1, {}); });
 }
 
-void dumpEncoding(benchmark::State& state) {
-    const std::string payload = samplePicture(size(state));
-    for ([[maybe_unused]] auto round : state) {
-        benchmark::DoNotOptimize(SerializationUtils::ToBase64(payload));
-    }
+double dumpEncoding(std::size_t bytes) {
+    const std::string payload = samplePicture(bytes);
+    return secondsOf(
+        [&] { benchmark::DoNotOptimize(SerializationUtils::ToBase64(payload)); });
 }
 
-BENCHMARK(exportNotes)->Apply(grows<1000, 10000, 30000, 100000, 300000>);
-BENCHMARK(exportInOrderOfPredicate)->Apply(grows<1000, 10000, 30000, 100000, 300000>);
-BENCHMARK(fetchAndRender)->Arg(1000)->Arg(100000);
-BENCHMARK(exportComment)->Apply(grows<1000000, 10000000>);
-BENCHMARK(exportPictures)->Apply(grows<50, 500>);
-BENCHMARK(exportWithTakenNames)->Apply(grows<20, 200>);
-BENCHMARK(dumpElement)->Arg(1000000);
-BENCHMARK(dumpEncoding)->Arg(1000000);
+BENCHMARK_CAPTURE(timed, exportNotes, exportNotes)
+    ->Arg(1)
+    ->Arg(1000)
+    ->Arg(100000)
+    ->UseManualTime();
+BENCHMARK_CAPTURE(ratio, exportToRendering, exportNotes, renderNotes)
+    ->Arg(1000)
+    ->Arg(100000);
+BENCHMARK_CAPTURE(ratio, exportToFetchingAndRendering, exportNotes, fetchAndRender)
+    ->Arg(1000)
+    ->Arg(100000);
+BENCHMARK_CAPTURE(growth, exportNotes, exportNotes)->Apply(growsTenfold);
+BENCHMARK_CAPTURE(growth, exportInOrderOfPredicate, exportInOrderOfPredicate)
+    ->Apply(growsTenfold);
+BENCHMARK_CAPTURE(growth, exportComment, exportComment)->Args({1000000, 10000000});
+BENCHMARK_CAPTURE(growth, exportPictures, exportPictures)->Args({50, 500});
+BENCHMARK_CAPTURE(growth, exportWithTakenNames, exportWithTakenNames)->Args({20, 200});
+BENCHMARK_CAPTURE(ratio, dumpElementToItsEncoding, dumpElement, dumpEncoding)->Arg(1000000);
 
 }  // namespace

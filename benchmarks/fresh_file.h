@@ -1,12 +1,14 @@
 // A file that each round of a benchmark writes anew.
 #pragma once
 
-#include <benchmark/benchmark.h>
 #include <unistd.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "job.h"
 
 class FreshFile {
 public:
@@ -15,18 +17,21 @@ public:
                                                      std::to_string(getpid())))
         : path_(std::move(path)) {}
 
-    // Runs `write(path)` with the clock on, and removes the file with the clock off.
-    template <class Write>
-    void writeAnew(benchmark::State& state, Write write) const {
-        for ([[maybe_unused]] auto round : state) {
-            write(path_.c_str());
-            state.PauseTiming();
-            if (!std::filesystem::remove(path_)) {
-                state.SkipWithError("no file was written");
-                break;
-            }
-            state.ResumeTiming();
+    const char* path() const { return path_.c_str(); }
+
+    // A file that is missing would have been written fast.
+    void remove() const {
+        if (!std::filesystem::remove(path_)) {
+            throw std::runtime_error("no file was written");
         }
+    }
+
+    // The seconds that `write(path)` takes; the file is removed afterwards.
+    template <class Write>
+    double secondsOfWriting(Write write) const {
+        const double seconds = secondsOf([&] { write(path()); });
+        remove();
+        return seconds;
     }
 
 private:

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <vector>
 
+#include "export/fail_stop_file.h"
 #include "export/notes_exporter_impl.h"
 #include "note_source.h"
 
@@ -17,6 +18,12 @@ inline void render(std::ostream& stream, const RecordedNotes& notes) {
         veloran::NotesExporterImpl::writeBookmark(writer, note);
     }
     writer.closeElt().closeElt();
+}
+
+inline void render(const char* path, const RecordedNotes& notes) {
+    veloran::FailStopFile file(path);
+    render(file, notes);
+    file.close();
 }
 
 // The same notes for a peer that renders them: it asks each record for the same things.

@@ -8,7 +8,6 @@
 #include <fstream>
 #include <sstream>
 
-#include "export/fail_stop_file.h"
 #include "fresh_file.h"
 #include "memory_device.h"
 #include "peers.h"
@@ -32,6 +31,17 @@ std::string rendered(const RecordedNotes& notes) {
     return stream.str();
 }
 
+template <class Write>
+void writeAnew(benchmark::State& state, Write write) {
+    const FreshFile file;
+    for ([[maybe_unused]] auto round : state) {
+        write(file.path());
+        state.PauseTiming();
+        file.remove();
+        state.ResumeTiming();
+    }
+}
+
 void finishedToMemory(benchmark::State& state) {
     const std::string bytes = rendered(recordsOnDevice(noteCount(state)));
     for ([[maybe_unused]] auto round : state) {
@@ -41,7 +51,7 @@ void finishedToMemory(benchmark::State& state) {
 
 void finishedToFile(benchmark::State& state) {
     const std::string bytes = rendered(recordsOnDevice(noteCount(state)));
-    FreshFile().writeAnew(state, [&](const char* path) {
+    writeAnew(state, [&](const char* path) {
         std::ofstream(path).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     });
 }
@@ -57,11 +67,7 @@ void renderToMemory(benchmark::State& state) {
 
 void renderToFile(benchmark::State& state) {
     const RecordedNotes notes = recordsOnDevice(noteCount(state));
-    FreshFile().writeAnew(state, [&](const char* path) {
-        veloran::FailStopFile file(path);
-        render(file, notes);
-        file.close();
-    });
+    writeAnew(state, [&](const char* path) { render(path, notes); });
 }
 
 void toMemory(benchmark::State& state, const Peer& peer, NoteSource& notes) {
@@ -71,7 +77,7 @@ void toMemory(benchmark::State& state, const Peer& peer, NoteSource& notes) {
 }
 
 void toFile(benchmark::State& state, const Peer& peer, NoteSource& notes) {
-    FreshFile().writeAnew(state, [&](const char* path) { peer.toFile(notes, path); });
+    writeAnew(state, [&](const char* path) { peer.toFile(notes, path); });
 }
 
 using Measure = void (*)(benchmark::State&, const Peer&, NoteSource&);

@@ -23,7 +23,7 @@ inline Device& device() {
     return instance;
 }
 
-// Gives the book that many notes.
+// Makes it a device of a book with that many notes, and nothing else.
 void setNoteCount(std::size_t count);
 
 // The book's notes as getNote fetches them.

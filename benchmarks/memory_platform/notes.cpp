@@ -26,7 +26,7 @@ Note fetched(unsigned long long place) {
 }  // namespace
 
 void memory_platform::setNoteCount(std::size_t count) {
-    device().positions.clear();
+    device() = {};
     for (std::size_t place = 0; place < count; ++place) {
         device().positions.push_back(samplePosition(place));
     }
