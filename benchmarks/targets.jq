@@ -19,7 +19,7 @@
   (["memory", "file"][] as $where
    | row("render/\($where)/100000 : finished bytes";
          time("render/\($where)/100000") / time("finished/\($where)/100000"); null)),
-  ($medians[] | select(.ratio) | row(.run_name; .ratio; .run_name | limit))
+  ($medians | map(select(.ratio)) | sort_by(.run_name)[] | row(.run_name; .ratio; .run_name | limit))
 ][]
 | [.what, (.ratio * 100 | round / 100), .limit // "-",
    (if .limit != null and .ratio > .limit then "missed" else "" end)]
