@@ -2,35 +2,40 @@
 
 #include <xxhash.h>
 
-#include <array>
-#include <fstream>
 #include <memory>
 #include <new>
 #include <optional>
+#include <stdexcept>
+#include <vector>
+
+#include "input_file.h"
 
 namespace {
 
 using HashState = std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)>;
 
-std::optional<XXH128_canonical_t> hashOfFile(const char* path) {
+XXH128_canonical_t hashOf(host::InputFile& file) {
     const HashState state(XXH3_createState(), XXH3_freeState);
     if (state == nullptr) {
         throw std::bad_alloc();
     }
     XXH3_128bits_reset(state.get());
-    std::ifstream file(path, std::ios::binary);
-    std::array<char, 65536> block;
-    while (file) {
-        file.read(block.data(), block.size());
-        XXH3_128bits_update(state.get(), block.data(),
-                            static_cast<std::size_t>(file.gcount()));
-    }
-    if (!file.eof()) {  // never opened, or not readable to its end, like a directory
-        return std::nullopt;
+    std::vector<char> block(65536);  // a caller's thread may have a small stack
+    while (const std::size_t size = file.read(block.data(), block.size())) {
+        XXH3_128bits_update(state.get(), block.data(), size);
     }
     XXH128_canonical_t hash;
     XXH128_canonicalFromHash(&hash, XXH3_128bits_digest(state.get()));
     return hash;
+}
+
+std::optional<XXH128_canonical_t> hashOfFile(const char* path) {
+    try {
+        host::InputFile file(path);
+        return hashOf(file);
+    } catch (const std::runtime_error&) {  // the missing hash says it
+        return std::nullopt;
+    }
 }
 
 }  // namespace
