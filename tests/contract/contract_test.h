@@ -30,6 +30,7 @@ inline std::vector<Note> notesOnDevice() {
 class SeamContract : public testing::Test {
 protected:
     SeamContract() {
+        scratch_.require(readerDatabasePath());
         startEmptyDevice();
         putOnDevice({"aa", "Other", "", "", {}});
         putOnDevice({kHash,

@@ -22,6 +22,8 @@ void putOnDevice(const ContractBook& book) {
     }
 }
 
+std::string readerDatabasePath() { return "books.db"; }
+
 std::string uriOfPage(double page) {
     const std::string uri = "at " + std::to_string(page);
     script().pages[uri] = page;

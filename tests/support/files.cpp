@@ -42,8 +42,16 @@ ScratchDirectory::ScratchDirectory() {
     if (mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("no scratch directory at " + name);
     }
-    path_ = name;
+    path_ = std::filesystem::canonical(name);
     std::filesystem::current_path(path_);
+    require(NOTES_EXPORT_DEVICE_ROOT);
+}
+
+void ScratchDirectory::require(const std::string& path) const {
+    const std::string place = weakly_canonical(std::filesystem::absolute(path)).string();
+    if (place.compare(0, path_.string().size() + 1, path_.string() + "/") != 0) {
+        throw std::logic_error("A test may not write to " + place);
+    }
 }
 
 ScratchDirectory::~ScratchDirectory() {

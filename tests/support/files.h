@@ -17,8 +17,13 @@ void writeFile(const std::string& path, const std::string& content);
 // end and goes back to where it came from.
 class ScratchDirectory {
 public:
+    // Refuses to begin where the device would not be in the scratch directory.
     ScratchDirectory();
     ~ScratchDirectory();
+
+    // Throws unless `path` leads into the scratch directory, which must still be the working
+    // directory: a test's last look before it writes there.
+    void require(const std::string& path) const;
 
     ScratchDirectory(const ScratchDirectory&) = delete;
     ScratchDirectory& operator=(const ScratchDirectory&) = delete;
