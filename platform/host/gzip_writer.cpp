@@ -28,7 +28,7 @@ void GzipWriter::compress(int flush) {
     if (stream_.total_in + used_ > limit_) {
         throw std::runtime_error("the dump exceeds its largest size");
     }
-    stream_.next_in = reinterpret_cast<Bytef*>(input_.data());
+    stream_.next_in = reinterpret_cast<Bytef*>(input_.get());
     stream_.avail_in = static_cast<uInt>(used_);
     do {
         append([&] { return deflate(&stream_, flush); });
@@ -46,10 +46,10 @@ void GzipWriter::setStrategy(int strategy) {
 
 template <class Step>
 int GzipWriter::append(Step step) {
-    stream_.next_out = reinterpret_cast<Bytef*>(output_.data());
-    stream_.avail_out = static_cast<uInt>(output_.size());
+    stream_.next_out = reinterpret_cast<Bytef*>(output_.get());
+    stream_.avail_out = static_cast<uInt>(kBlockSize);
     const int status = step();
-    out_.append(output_.data(), output_.size() - stream_.avail_out);
+    out_.append(output_.get(), kBlockSize - stream_.avail_out);
     return status;
 }
 

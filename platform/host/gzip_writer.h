@@ -3,8 +3,8 @@
 
 #include <zlib.h>
 
-#include <array>
 #include <cstddef>
+#include <memory>
 #include <string>
 
 namespace host {
@@ -22,7 +22,7 @@ public:
     GzipWriter& operator=(const GzipWriter&) = delete;
 
     void Put(char c) {
-        if (used_ == input_.size()) {
+        if (used_ == kBlockSize) {
             compress(Z_NO_FLUSH);
         }
         input_[used_++] = c;
@@ -38,6 +38,8 @@ public:
     void finish() { compress(Z_FINISH); }
 
 private:
+    static constexpr std::size_t kBlockSize = 65536;
+
     void compress(int flush);
     void setStrategy(int strategy);
     template <class Step>
@@ -48,8 +50,9 @@ private:
     z_stream stream_ = {};
     gz_header header_ = {};
     std::size_t used_ = 0;
-    std::array<char, 65536> input_;
-    std::array<char, 65536> output_;
+    // On the heap: a caller's thread may have a small stack.
+    std::unique_ptr<char[]> input_{new char[kBlockSize]};
+    std::unique_ptr<char[]> output_{new char[kBlockSize]};
 };
 
 }  // namespace host

@@ -1,4 +1,5 @@
 // Several exporters at once, in processes and in threads.
+#include <pthread.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -27,7 +28,31 @@ std::string otherDocument() {
     return documentOf(exported());
 }
 
+// Some C libraries give a thread no more; instrumented code needs more itself.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr std::size_t kSmallStack = 1024 << 10;
+#else
+constexpr std::size_t kSmallStack = 128 << 10;
+#endif
+
 }  // namespace
+
+TEST_F(Together, ThreadWithASmallStackExportsAndImports) {
+    const auto exportAndImport = [](void*) -> void* {
+        const CExporter exporter(kBook, "Notes");
+        EXPECT_GT(exporter.importFile(kDocument), 0);
+        EXPECT_EQ(exporter.exportNotes(), 0);
+        return nullptr;
+    };
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    EXPECT_EQ(pthread_attr_setstacksize(&attributes, kSmallStack), 0);
+    pthread_t thread;
+    ASSERT_EQ(pthread_create(&thread, &attributes, exportAndImport, nullptr), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+    EXPECT_EQ(recordsOnDevice(), after_);
+}
 
 TEST_F(Together, ProcessesThatCreateTheDatabasesImportDocumentsOfOneBook) {
     writeFile("other.html", otherDocument());
