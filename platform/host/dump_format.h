@@ -6,6 +6,7 @@
 //       {"uuid": …, "tags": [
 //         {"tag": 103, "text": …, "json": …, "timestamp": 1741339501}]}]}]}
 //
+// The fast hash is pairs of lower-case hexadecimal digits, or the dump is refused.
 // "format", "version" and "books" come in this order, so that a reader of another version
 // knows it in time. A tag's "json" is JSON text inside a string, and missing where the tag
 // has none. Where a string is not text (not UTF-8, or with zero bytes) its key ends in

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base64.h"
+#include "book_hash.h"
 #include "dump_format.h"
 #include "utf8.h"
 
@@ -55,7 +56,7 @@ bool DumpHandler::Key(const char* name, rapidjson::SizeType length, bool /*copy*
         {1, "format", Field::kFormat},
         {1, "version", Field::kVersion},
         {1, "books", Field::kBooks},
-        {kBookDepth, "fast_hash", Field::kFastHash, true},
+        {kBookDepth, "fast_hash", Field::kFastHash},
         {kBookDepth, "title", Field::kTitle, true},
         {kBookDepth, "path", Field::kPath, true},
         {kBookDepth, "notes", Field::kNotes},
@@ -101,7 +102,7 @@ bool DumpHandler::EndObject(rapidjson::SizeType /*members*/) {
         case kNoteDepth:
             return !note().uuid.empty();
         case kBookDepth:
-            return !books_.back().fastHash.empty();
+            return isBookHash(books_.back().fastHash);
         default:
             return booksKnown_;
     }

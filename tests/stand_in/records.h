@@ -40,7 +40,7 @@ inline std::vector<host::BookRecord> sampleBooks() {
          {host::kAnchorTag, "", R"({"anchor":"b?page=1.5","more":[1,{}]})", 100},
          {host::kTextTag, "a \"quoted\" \xe2\x80\xa9 line\n", {}, -5},
          {host::kImageTag, std::string("\xff\xd8\0\x01", 4), {}, 5000000000}}};
-    return {{"ab\xff",
+    return {{"abff",
              std::string("T\0itle", 6),
              "/Books/\xe4\xb8\xad.epub",
              {{"without tags", {}}, full, {"later", {{host::kUuidTag, "later", {}, 100}}}}},
