@@ -20,7 +20,9 @@ bool ImportExportDBV2::books_export(std::string& out,
         return false;
     }
     try {
-        return host::writeDump(database_->state->store, books, exportBookmarkIds_, out);
+        host::ReaderStore& store = database_->state->store;
+        store.followFile();
+        return host::writeDump(store, books, exportBookmarkIds_, out);
     } catch (const std::runtime_error&) {
         return false;
     }

@@ -13,7 +13,9 @@ int ImportExportDBV2::books_import(const std::string& path) {
         return host::kDatabaseError;
     }
     try {
-        return database_->state->store.merge(host::readDump(path));
+        host::ReaderStore& store = database_->state->store;
+        store.followFile();
+        return store.merge(host::readDump(path));
     } catch (const host::DumpError& error) {
         return error.result;
     } catch (const std::bad_alloc&) {

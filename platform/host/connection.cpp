@@ -7,6 +7,8 @@
 #include <new>
 #include <stdexcept>
 
+#include "records.h"
+
 namespace host {
 namespace {
 
@@ -47,6 +49,20 @@ int Query::run() {
     return naming(path_, [this] { return statement_.exec(); });
 }
 
+// SQLite counts in int: a longer value would be cut where the number wraps.
+void Query::requireRoomFor(const std::string& value) const {
+    if (value.size() > kMaxValueSize) {
+        throw std::runtime_error(path_ + ": a value of " + std::to_string(value.size()) +
+                                 " bytes is too large (at most " +
+                                 std::to_string(kMaxValueSize) + ")");
+    }
+}
+
+void Query::bind(int index, const std::string& text) {
+    requireRoomFor(text);
+    statement_.bindNoCopy(index, text);
+}
+
 void Query::bind(int index, const std::optional<std::string>& text) {
     if (text) {
         bind(index, *text);
@@ -56,17 +72,30 @@ void Query::bind(int index, const std::optional<std::string>& text) {
 }
 
 void Query::bind(int index, const Blob& blob) {
+    requireRoomFor(blob.bytes);
     statement_.bindNoCopy(index, static_cast<const void*>(blob.bytes.data()),
                           static_cast<int>(blob.bytes.size()));
 }
 
 Connection::Connection(const std::string& path, const Schema& schema)
-    : path_(path), database_(openFile(path)) {
+    : path_(path),
+      file_(std::filesystem::absolute(path).string()),
+      database_(openFile(path)),
+      identity_(identityOf(file_)) {
     naming(path, [&] {
         database_.exec("PRAGMA foreign_keys = ON");
         database_.exec("PRAGMA temp_store = MEMORY");  // sorting needs no room on disk
-        bringUpToDate(schema);
+        createTables(schema);
+        checkVersion(schema);
     });
+}
+
+bool Connection::isReplaced() {
+    // SQLite compares the inode alone, but with that of the file that it opened: a file
+    // that was replaced between its opening and the look at its identity is noticed too.
+    int moved = 0;
+    sqlite3_file_control(database_.getHandle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0 || identityOf(file_) != identity_;
 }
 
 void Connection::write(const std::function<void()>& work) {
@@ -92,27 +121,36 @@ void Connection::transact(const char* begin, const std::function<void()>& work) 
     });
 }
 
-void Connection::bringUpToDate(const Schema& schema) {
-    std::int64_t version = schemaVersion();
-    if (version == 0) {
+void Connection::createTables(const Schema& schema) {
+    const auto isEmpty = [this] {
+        return number("PRAGMA user_version") == 0 &&
+               number("SELECT count(*) FROM sqlite_master") == 0;
+    };
+    if (isEmpty()) {
         write([&] {
-            version = schemaVersion();
-            if (version == 0) {  // nobody created it while this waited for the lock
+            if (isEmpty()) {  // nobody created them while this waited for the lock
                 database_.exec(schema.sql);
-                version = schema.version;
-                database_.exec("PRAGMA user_version = " + std::to_string(version));
+                database_.exec("PRAGMA user_version = " + std::to_string(schema.version));
             }
         });
     }
-    if (version > schema.version) {
-        throw std::runtime_error(path_ + ": written by a later version (schema " +
-                                 std::to_string(version) + ", known is " +
-                                 std::to_string(schema.version) + ")");
-    }
 }
 
-std::int64_t Connection::schemaVersion() {
-    return database_.execAndGet("PRAGMA user_version").getInt64();
+void Connection::checkVersion(const Schema& schema) {
+    const std::int64_t version = number("PRAGMA user_version");
+    if (version == schema.version) {
+        return;
+    }
+    const std::string writer = version == 0               ? "another program"
+                               : version > schema.version ? "a later version"
+                                                          : "an earlier version";
+    throw std::runtime_error(path_ + ": written by " + writer + " (schema " +
+                             std::to_string(version) + ", known is " +
+                             std::to_string(schema.version) + ")");
+}
+
+std::int64_t Connection::number(const char* query) {
+    return database_.execAndGet(query).getInt64();
 }
 
 SQLite::Statement& Connection::prepared(const char* sql) {

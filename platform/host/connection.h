@@ -13,6 +13,8 @@
 #include <optional>
 #include <string>
 
+#include "file_identity.h"
+
 namespace host {
 
 // What a database file holds: `sql` creates it, `version` is kept in user_version.
@@ -54,9 +56,10 @@ public:
 
 private:
     void bind(int index, std::int64_t value) { statement_.bind(index, value); }
-    void bind(int index, const std::string& text) { statement_.bindNoCopy(index, text); }
+    void bind(int index, const std::string& text);
     void bind(int index, const std::optional<std::string>& text);
     void bind(int index, const Blob& blob);
+    void requireRoomFor(const std::string& value) const;
 
     SQLite::Statement& statement_;
     const std::string& path_;
@@ -67,9 +70,15 @@ private:
 class Connection {
 public:
     // Opens the database at `path`. Missing directories, the file and its tables are
-    // created; several processes may do that at once. A file of a later schema version is a
-    // failure.
+    // created; several processes may do that at once. A file of another schema version, or
+    // with tables of somebody else, is a failure.
     Connection(const std::string& path, const Schema& schema);
+
+    // The path of the file, which does not depend on the working directory any more.
+    const std::string& file() const { return file_; }
+
+    // Whether there is another file, or none, under that path now.
+    bool isReplaced();
 
     // The statement `sql`, which is compiled once and lives in static storage, with
     // `values` bound to its parameters in order.
@@ -88,12 +97,15 @@ public:
 
 private:
     void transact(const char* begin, const std::function<void()>& work);
-    void bringUpToDate(const Schema& schema);
-    std::int64_t schemaVersion();
+    void createTables(const Schema& schema);
+    void checkVersion(const Schema& schema);
+    std::int64_t number(const char* query);
     SQLite::Statement& prepared(const char* sql);
 
     std::string path_;
+    std::string file_;
     SQLite::Database database_;
+    std::optional<FileIdentity> identity_;
     std::map<const char*, SQLite::Statement> statements_;
 };
 

@@ -1,11 +1,13 @@
 #include "note_json.h"
 
-#include <json/reader.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "json_sax.h"
 #include "utf8.h"
@@ -13,16 +15,18 @@
 namespace host {
 namespace {
 
-constexpr int kMaxDepth = 32;
-constexpr std::size_t kMaxParsedSize = std::size_t{256} << 10;
+using rapidjson::SizeType;
+
+constexpr std::size_t kMaxDepth = 32;
+constexpr std::size_t kMaxParsedSize = std::size_t{4} << 10;
 
 // Accepts everything but too deep a nesting.
 class DepthGuard : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, DepthGuard> {
 public:
     bool StartObject() { return ++depth_ <= kMaxDepth; }
     bool StartArray() { return ++depth_ <= kMaxDepth; }
-    bool EndObject(rapidjson::SizeType /*members*/) { return leave(); }
-    bool EndArray(rapidjson::SizeType /*elements*/) { return leave(); }
+    bool EndObject(SizeType /*members*/) { return leave(); }
+    bool EndArray(SizeType /*elements*/) { return leave(); }
 
 private:
     bool leave() {
@@ -30,47 +34,93 @@ private:
         return true;
     }
 
-    int depth_ = 0;
+    std::size_t depth_ = 0;
 };
 
-std::unique_ptr<Json::CharReader> strictReader() {
-    Json::CharReaderBuilder builder;
-    Json::CharReaderBuilder::strictMode(&builder.settings_);
-    builder["strictRoot"] = false;     // a tag may hold a bare string or number
-    builder["rejectDupKeys"] = false;  // allowed, if unwise; the last one counts
-    return std::unique_ptr<Json::CharReader>(builder.newCharReader());
-}
+// Not jsoncpp's own reader: that one takes numbers as the global locale writes them.
+class ValueBuilder {
+public:
+    bool Null() { return add(Json::Value()); }
+    bool Bool(bool value) { return add(value); }
+    bool Int(int value) { return add(value); }
+    bool Uint(unsigned value) { return add(value); }
+    bool Int64(std::int64_t value) { return add(Json::Int64{value}); }
+    bool Uint64(std::uint64_t value) { return add(Json::UInt64{value}); }
+    bool Double(double value) { return add(value); }
+    static bool RawNumber(const char* /*digits*/, SizeType /*length*/, bool /*copy*/) {
+        return false;
+    }
+    bool String(const char* text, SizeType length, bool /*copy*/) {
+        return add(Json::Value(text, text + length));
+    }
+    bool Key(const char* name, SizeType length, bool /*copy*/) {
+        key_.assign(name, length);
+        return true;
+    }
+    bool StartObject() { return open(Json::objectValue); }
+    bool StartArray() { return open(Json::arrayValue); }
+    bool EndObject(SizeType /*members*/) { return close(); }
+    bool EndArray(SizeType /*elements*/) { return close(); }
+
+    Json::Value take() { return std::move(root_); }
+
+private:
+    Json::Value& place(Json::Value value) {
+        if (open_.empty()) {
+            return root_ = std::move(value);
+        }
+        Json::Value& parent = *open_.back();
+        return parent.isArray() ? parent.append(std::move(value))
+                                : parent[key_] = std::move(value);
+    }
+    bool add(Json::Value value) {
+        place(std::move(value));
+        return true;
+    }
+    bool open(Json::ValueType type) {
+        open_.push_back(&place(type));
+        return open_.size() <= kMaxDepth;
+    }
+    bool close() {
+        open_.pop_back();
+        return true;
+    }
+
+    Json::Value root_;
+    std::vector<Json::Value*> open_;
+    std::string key_;
+};
 
 }  // namespace
 
-struct NoteJson::Validator {
-    JsonReader reader;
+struct NoteJson::Reader {
+    JsonReader json;
 };
 
-NoteJson::NoteJson() : validator_(std::make_unique<Validator>()), parser_(strictReader()) {}
+NoteJson::NoteJson() : reader_(std::make_unique<Reader>()) {}
 
 NoteJson::~NoteJson() = default;
 
-bool NoteJson::isJson(const std::string& text) {
+template <class Handler>
+bool NoteJson::read(const std::string& text, Handler& handler) {
     rapidjson::MemoryStream bytes(text.data(), text.size());
-    DepthGuard guard;
     // The parser takes a zero byte for the end of the text.
     return isUtf8(text) &&
-           !validator_->reader.Parse<rapidjson::kParseIterativeFlag>(bytes, guard)
-                .IsError() &&
+           !reader_->json.Parse<rapidjson::kParseIterativeFlag>(bytes, handler).IsError() &&
            bytes.Tell() == text.size();
 }
 
+bool NoteJson::isJson(const std::string& text) {
+    DepthGuard guard;
+    return read(text, guard);
+}
+
 std::optional<Json::Value> NoteJson::parse(const std::string& text) {
-    if (text.size() > kMaxParsedSize || !isJson(text)) {
+    ValueBuilder builder;
+    if (text.size() > kMaxParsedSize || !read(text, builder)) {
         return std::nullopt;
     }
-    std::optional<Json::Value> value(std::in_place);
-    const char* begin = text.data();
-    if (!parser_->parse(begin, begin + text.size(), &*value, nullptr)) {
-        value.reset();
-    }
-    return value;
+    return builder.take();
 }
 
 }  // namespace host

@@ -7,10 +7,6 @@
 #include <optional>
 #include <string>
 
-namespace Json {
-class CharReader;
-}
-
 namespace host {
 
 // Reads one text after the other, which is much cheaper than to begin anew for each. Serves
@@ -26,15 +22,17 @@ public:
     // levels. Takes little memory, whatever the text.
     bool isJson(const std::string& text);
 
-    // The value that `text` spells; nothing when it is not JSON as above, or longer than
-    // any tag of a note has reason to be (256 KiB).
+    // The value that `text` spells, whatever the locale; nothing when it is not JSON as
+    // above, or longer than a position has reason to be (4 KiB).
     std::optional<Json::Value> parse(const std::string& text);
 
 private:
-    struct Validator;
+    struct Reader;
 
-    std::unique_ptr<Validator> validator_;
-    std::unique_ptr<Json::CharReader> parser_;
+    template <class Handler>
+    bool read(const std::string& text, Handler& handler);
+
+    std::unique_ptr<Reader> reader_;
 };
 
 }  // namespace host

@@ -38,6 +38,14 @@ std::int64_t noteIdOf(const std::string& key) {
     return std::from_chars(key.data(), end, id).ptr == end ? id : 0;
 }
 
+// For the questions that start from a book hash. Those that start from an identifier stay
+// with the file that it came from.
+host::ReaderStore& currentStore(Sqlite& connection) {
+    host::ReaderStore& store = connected(connection).store;
+    store.followFile();
+    return store;
+}
+
 std::time_t toTime(std::int64_t seconds) {
     using Limits = std::numeric_limits<std::time_t>;
     return static_cast<std::time_t>(
@@ -47,7 +55,9 @@ std::time_t toTime(std::int64_t seconds) {
 void setTag(Note& note, host::TagRecord& record, host::NoteJson& json) {
     Note::Value& value = note.tags[Note::Tag{record.tag}];
     value.str = std::move(record.text);
-    if (record.json) {
+    // The JSON of other tags means nothing here, and may take a hundred times the memory of
+    // its text.
+    if (record.json && (record.tag == host::kAnchorTag || record.tag == host::kRangeTag)) {
         value.json = json.parse(*record.json);
     }
     value.timestamp = toTime(record.timestamp);
@@ -67,12 +77,12 @@ void setUuid(Note& note, const std::string& uuid) {
 ReaderDbManager::ReaderDbManager() = default;
 
 long long ReaderDbManager::getItemId(const std::string& bookHash) {
-    const auto book = connected(connection_).store.findBook(bookHash);
+    const auto book = currentStore(connection_).findBook(bookHash);
     return book ? book->id : -1;
 }
 
 std::vector<Book> ReaderDbManager::getBookByFastHash(const std::string& bookHash) {
-    const auto entry = connected(connection_).store.findBook(bookHash);
+    const auto entry = currentStore(connection_).findBook(bookHash);
     if (!entry) {
         return {};
     }
@@ -91,7 +101,7 @@ std::string ReaderDbManager::getBookFastHashById(long long itemId) {
 std::vector<std::pair<std::string, unsigned long long>>
 ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*/) {
     std::vector<std::pair<std::string, unsigned long long>> keys;
-    host::ReaderStore& store = connected(connection_).store;
+    host::ReaderStore& store = currentStore(connection_);
     if (const auto book = store.findBook(bookHash)) {
         for (const std::int64_t id : store.noteIds(book->id)) {
             keys.emplace_back(std::to_string(id), static_cast<unsigned long long>(id));

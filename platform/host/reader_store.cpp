@@ -1,5 +1,7 @@
 #include "reader_store.h"
 
+#include <stdexcept>
+
 #include "connection.h"
 #include "note_tags.h"
 
@@ -49,7 +51,12 @@ std::vector<std::int64_t> identifiers(Query&& rows) {
 
 TagRecord tagRecord(Query& row) {
     TagRecord record;
-    record.tag = static_cast<std::int32_t>(row.integer(1));
+    const std::int64_t number = row.integer(1);
+    record.tag = static_cast<std::int32_t>(number);
+    if (record.tag != number) {  // it would take the place of another tag
+        throw std::runtime_error("the note " + row.bytes(0) + " has a tag " +
+                                 std::to_string(number) + ", which does not fit 32 bits");
+    }
     record.text = row.bytes(2);
     if (!row.isNull(3)) {
         record.json = row.bytes(3);
@@ -66,6 +73,12 @@ ReaderStore::ReaderStore(const std::string& path)
 ReaderStore::~ReaderStore() = default;
 ReaderStore::ReaderStore(ReaderStore&&) noexcept = default;
 ReaderStore& ReaderStore::operator=(ReaderStore&&) noexcept = default;
+
+void ReaderStore::followFile() {
+    if (connection_->isReplaced()) {
+        connection_ = std::make_unique<Connection>(connection_->file(), kSchema);
+    }
+}
 
 std::vector<BookEntry> ReaderStore::books() {
     Query rows = connection_->query(

@@ -33,6 +33,10 @@ public:
     ReaderStore(ReaderStore&& other) noexcept;
     ReaderStore& operator=(ReaderStore&& other) noexcept;
 
+    // Opens the database anew when there is another file under its path by now. Row
+    // identifiers of the file before mean nothing in this one.
+    void followFile();
+
     // All books, by fast hash.
     std::vector<BookEntry> books();
 

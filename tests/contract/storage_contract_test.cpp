@@ -44,6 +44,26 @@ TEST_F(SeamContract, ManagerOfABrokenDatabaseThrowsFromQueriesAndIsDestroyedInPe
     EXPECT_THROW(manager.getNote("1"), std::exception);
 }
 
+TEST_F(SeamContract, DatabaseThatTookThePlaceOfAnotherIsTheOneThatCounts) {
+    Engine engine;
+    ReaderDbManager manager;
+    EXPECT_EQ(manager.getItemId("bb"), -1);
+    const std::filesystem::path before = std::filesystem::current_path();
+    {
+        const ScratchDirectory elsewhere;
+        startEmptyDevice();
+        putOnDevice({"bb", "New", "", "", {}});  // at the place of another book, perhaps
+        putOnDevice({kHash, "Dune", "", "", {{"uuid-c", "", "new", "", "", uriOfPage(1)}}});
+        std::filesystem::rename(readerDatabasePath(), before / readerDatabasePath());
+    }
+    EXPECT_NE(manager.getItemId("bb"), -1);
+    EXPECT_EQ(manager.getBookNotesHashUUIDs(kHash, true).size(), 1U);
+    std::string payload;
+    const auto book = static_cast<unsigned long long>(manager.getItemId(kHash));
+    EXPECT_TRUE(engine->books_export(payload, {book}));
+    EXPECT_EQ(textsAfterImporting(payload), std::set<std::string>{"new"});
+}
+
 TEST_F(SeamContract, FilePropertyReplacesTheEarlierOneFromAnyThread) {
     constexpr DbManager::FileProp kProp{7};
     std::vector<std::thread> threads;

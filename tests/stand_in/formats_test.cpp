@@ -70,7 +70,7 @@ TEST(JsonElement, IsTheTextOfAStringInAnObject) {
     EXPECT_EQ(anchor(R"({"anchor":"a","anchor":"b"})"), "b");
     const std::string tooDeep = std::string(33, '[') + std::string(33, ']');
     EXPECT_EQ(anchor(R"({"anchor":"x","deep":)" + tooDeep + "}"), "");
-    EXPECT_EQ(anchor(R"({"anchor":")" + std::string(300000, 'x') + "\"}"), "");
+    EXPECT_EQ(anchor(R"({"anchor":")" + std::string(5000, 'x') + "\"}"), "");
     EXPECT_EQ(anchor(R"({"anchor":"x"})" + std::string(1, '\0')), "");
     for (const char* json :
          {"", R"({"other":"x"})", R"({"anchor":1.5})", R"({"anchor":{"anchor":"x"}})",

@@ -14,6 +14,8 @@
 
 using Document = OnEmptyDevice;
 using Store = OnEmptyDevice;
+using veloran::utilities::Note;
+using veloran::utilities::ReaderDbManager;
 
 namespace {
 
@@ -74,12 +76,21 @@ TEST_F(Document, DamagedAnywhereIsReadWholeAndRightOrLeavesTheDatabaseAlone) {
 TEST_F(Store, TimesBeyondThoseOfTheClockAreItsLimits) {
     using Clock = std::numeric_limits<std::time_t>;
     using Stored = std::numeric_limits<std::int64_t>;
-    using veloran::utilities::Note;
     const host::TagRecord last{1, "", {}, Stored::max()}, first{2, "", {}, Stored::min()};
     merge({{"ab", "", "", {{"n", {last, first}}}}});
-    const Note note = veloran::utilities::ReaderDbManager().getNote("1");
+    const Note note = ReaderDbManager().getNote("1");
     EXPECT_EQ(note[Note::Tag{1}].timestamp, Clock::max());
     EXPECT_EQ(note[Note::Tag{2}].timestamp, Clock::min());
+}
+
+TEST_F(Store, JsonThatMeansNothingHereIsKeptAsText) {
+    const host::TagRecord position{host::kAnchorTag, "", R"({"anchor":"x"})", 1};
+    const host::TagRecord other{999, "", R"({"anchor":"y"})", 1};
+    merge({{"ab", "", "", {{"n", {position, other}}}}});
+    const Note note = ReaderDbManager().getNote("1");
+    EXPECT_TRUE(note[Note::Tag::Anchor].json);
+    EXPECT_FALSE(note[Note::Tag{999}].json);
+    EXPECT_NE(recordsOnDevice().find(*other.json), std::string::npos);
 }
 
 TEST_F(Store, FailuresAreReportedWithTheFileAndWhatIsWrong) {
@@ -94,14 +105,30 @@ TEST_F(Store, FailuresAreReportedWithTheFileAndWhatIsWrong) {
     for (const char* file : {"missing", ".", ""}) {
         EXPECT_EQ(engine->books_import(file), host::kFileUnreadable) << file;
     }
-    host::Connection(path, {1, ""}).query("DROP TABLE tags").run();
+    const auto change = [&](const char* sql) {
+        host::Connection(path, {1, ""}).query(sql).run();
+    };
+    change("UPDATE tags SET tag = 4294967399 WHERE tag = 103");
+    EXPECT_EQ(failureOfReading(),
+              "the note full has a tag 4294967399, which does not fit 32 bits");
+    change("DROP TABLE tags");
     EXPECT_EQ(failureOfReading(), path + ": no such table: tags");
     std::string payload;
     EXPECT_FALSE(engine->books_export(payload, {1}));
     EXPECT_EQ(imported(document), host::kDatabaseError);
 
-    host::Connection(path, {1, ""}).query("PRAGMA user_version = 2").run();
-    EXPECT_EQ(failureOfReading().find(path + ": written by a later version"), 0U);
+    const std::pair<const char*, const char*> versions[] = {
+        {"2", "a later version (schema 2, known is 1)"},
+        {"-1", "an earlier version (schema -1, known is 1)"},
+        {"0", "another program (schema 0, known is 1)"},
+    };
+    for (const auto& [version, writer] : versions) {
+        const ScratchDirectory elsewhere;
+        merge({});
+        change((std::string("PRAGMA user_version = ") + version).c_str());
+        EXPECT_EQ(failureOfReading(), path + ": written by " + writer);
+        EXPECT_EQ(imported(document), host::kDatabaseError);
+    }
     std::filesystem::remove_all("mnt");
     std::filesystem::create_directories(path);
     EXPECT_EQ(failureOfReading(), path + ": unable to open database file");
