@@ -28,9 +28,8 @@ std::string documentOfInput(const std::string& input) {
 
 struct Device {
     Device() {
-        std::string path = ":memory:";
-        check(database.open(path), "the reader database opens");
-        database.state->store.merge(sampleBooks());
+        database.state.reset(new Veloran::ReaderLib::DataBase::State{":memory:"});
+        database.state->current().merge(sampleBooks());
     }
     int import() {
         return Veloran::ReaderLib::ImportExportDBV2(&database, 10, 3)
@@ -62,7 +61,7 @@ Facts merged(Facts facts, const std::vector<host::BookRecord>& books) {
     return facts;
 }
 
-Facts factsIn(Device& device) { return merged({}, device.database.state->store.records()); }
+Facts factsIn(Device& device) { return merged({}, device.database.state->current().records()); }
 
 std::string outcomeOf(int result) {
     return result == host::kNoDump           ? "no_dump"

@@ -13,12 +13,16 @@
  * 3. A pointer may be null only where its function says so.
  * 4. A book is named by its book hash: the fast hash of the book's file as hexadecimal
  *    text, the key under which the device's databases know the book.
- * 5. Every function does its whole work on the calling thread, takes no lock and starts no
- *    thread. One handle must not serve two calls at the same time; different handles may
- *    serve different threads.
- * 6. What becomes of the exported file is not reported: a full disk or a directory that
- *    cannot be written gives the same result as success. Whoever must know looks at the
- *    file that notes_exporter_get_exported_file_name named before the export.
+ * 5. Every function does its whole work on the calling thread and starts no thread. One
+ *    handle must not serve two calls at the same time; different handles may serve
+ * different threads. The library takes no lock of its own, but the device's databases make
+ * a call wait while another thread or process writes. How long is the platform's choice
+ * (the stand-in for desktops: at most 5 seconds a question); then the call fails as 7 says,
+ *    or an export lacks its records as 6 says.
+ * 6. What becomes of the exported file is not reported: a full disk, a directory that
+ * cannot be written or a reader database that was busy (the file then lacks the records
+ * that an import needs) gives the same result as success. Whoever must know looks at the
+ * file that notes_exporter_get_exported_file_name named before the export.
  * 7. A failure inside the device's libraries, a failed allocation or a null text is a C++
  *    exception. notes_exporter_import_from_file turns one derived from std::exception into
  *    -1. Every other function lets it pass to its caller, everything released on the way;

@@ -18,7 +18,8 @@ namespace veloran {
 
 class NotesExporterImpl;
 
-/// One exporter serves one thread at a time; different exporters share nothing.
+/// One exporter serves one thread at a time; different exporters share nothing but the
+/// device's databases, where one may have to wait for the other.
 class NOTES_EXPORT_API NotesExporter {
 public:
     /// Opens the reader database. The export directory starts as "/mnt/ext1/Notes".

@@ -20,9 +20,7 @@ bool ImportExportDBV2::books_export(std::string& out,
         return false;
     }
     try {
-        host::ReaderStore& store = database_->state->store;
-        store.followFile();
-        return host::writeDump(store, books, exportBookmarkIds_, out);
+        return host::writeDump(database_->state->current(), books, exportBookmarkIds_, out);
     } catch (const std::runtime_error&) {
         return false;
     }

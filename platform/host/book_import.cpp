@@ -13,8 +13,7 @@ int ImportExportDBV2::books_import(const std::string& path) {
         return host::kDatabaseError;
     }
     try {
-        host::ReaderStore& store = database_->state->store;
-        store.followFile();
+        host::ReaderStore& store = database_->state->current();
         return store.merge(host::readDump(path));
     } catch (const host::DumpError& error) {
         return error.result;

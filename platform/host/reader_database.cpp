@@ -1,5 +1,6 @@
 #include "readerlib/database.h"
 
+#include <filesystem>
 #include <stdexcept>
 
 #include "reader_database_state.h"
@@ -14,9 +15,9 @@ DB::~DB() = default;
 namespace Veloran::ReaderLib {
 
 bool DataBase::open(std::string& path) {
-    state.reset();
+    state = std::make_unique<State>(State{std::filesystem::absolute(path).string()});
     try {
-        state = std::make_unique<State>(State{host::ReaderStore(path)});
+        state->current();
     } catch (const std::runtime_error&) {  // the result says it; the file may be anything
         return false;
     }

@@ -9,7 +9,8 @@ namespace veloran::db {
 
 /// One instance serves the process, from any thread: the platform serialises its use.
 /// Any call may throw an exception derived from std::exception when the database cannot
-/// be read; finding nothing is not such a failure.
+/// be read; finding nothing is not such a failure. Any call may wait while another process
+/// writes; a wait must end, with an exception (of SetFileProp: false) if need be.
 class DbManager {
 public:
     /// Properties of a file, by number; their meaning is the platform's.

@@ -24,7 +24,7 @@ public:
     /// platform alone.
     struct State;
 
-    /// Null while the connection is closed.
+    /// Null while there is nothing to keep.
     std::unique_ptr<State> state;
 };
 
@@ -37,9 +37,15 @@ class DataBase : public SqliteCpp::DB {
 public:
     /// Opens the handle on the database file `path`, replacing what was open before.
     /// `path` may be modified; the caller does not look at it again.
+    /// A handle stays open for as long as its exporter lives. When another file takes the
+    /// place of the one at `path` meanwhile (a backup is put back, a synchronisation
+    /// renames its copy), the platform must go on with the new file: see ImportExportDBV2.
+    /// May wait while another process writes; a wait must end, with failure if need be.
     /// Returns true when the database is open. The library ignores the result: an
     /// ImportExportDBV2 on a handle that is not open must answer its calls with
-    /// failure, never crash. May throw exceptions derived from std::exception.
+    /// failure, never crash. It may try again to open it, so that a database that was busy
+    /// for a moment does not leave every later export without records.
+    /// May throw exceptions derived from std::exception.
     bool open(std::string& path);
 };
 

@@ -11,7 +11,10 @@ namespace Veloran::ReaderLib {
 class DataBase;
 
 /// One engine serves one export or one import, on one thread. Every member but the
-/// destructor may throw exceptions derived from std::exception.
+/// destructor may throw exceptions derived from std::exception. Exports and imports read
+/// and write the file that is at the handle's path when they are called, even if it is not
+/// the one that was opened. They may wait while another process writes; a wait must end,
+/// with failure if need be.
 class ImportExportDBV2 {
 public:
     /// An engine on `database`, which it does not own and which must outlive it.
@@ -32,7 +35,8 @@ public:
 
     /// Appends to `out` the payload that holds the books with the given item
     /// identifiers and their (selected) notes: bytes of any length and content.
-    /// Returns false, with `out` unspecified, when there is no payload to be had.
+    /// Returns false, with `out` unspecified, when there is no payload to be had; the
+    /// document then carries no records, and the library reports nothing.
     bool books_export(std::string& out, const std::set<unsigned long long>& books);
 
     /// Reads the exported document at `path`, takes the payload from its first

@@ -32,9 +32,11 @@ public:
         Value& operator=(const Value&) = default;  ///< copies every member
         ~Value();                                  ///< library
 
-        std::string str;                  ///< the value as text
-        std::optional<Json::Value> json;  ///< the value as JSON, where it has one
-        std::time_t timestamp;            ///< seconds since the Unix epoch
+        std::string str;  ///< the value as text
+        /// The value as JSON, where it has one that the platform gives a meaning. Other
+        /// JSON stays text in the database: parsed, it may take a hundred times the memory.
+        std::optional<Json::Value> json;
+        std::time_t timestamp;  ///< seconds since the Unix epoch
     };
 
     /// library: the value under `tag`, or a shared default value (empty text, no JSON)

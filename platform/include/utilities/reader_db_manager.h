@@ -26,7 +26,11 @@ struct Book {
 
 /// A manager has its own connection to the reader database and serves one thread at a
 /// time. Any query may throw an exception derived from std::exception when the database
-/// cannot be read; finding nothing is not such a failure.
+/// cannot be read; finding nothing is not such a failure. A query may wait while another
+/// process writes; a wait must end, with an exception if need be.
+/// A query that takes a book hash reads the file that is at the database's path when it is
+/// called, even if that is not the file that was opened. A query that takes an identifier
+/// or a note key reads the file that it came from.
 class ReaderDbManager {
 public:
     /// A manager ready for queries. Whether it connects now or at the first query is the
