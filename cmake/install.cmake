@@ -21,6 +21,9 @@ configure_file("${CMAKE_CURRENT_LIST_DIR}/notes_export.pc.in" notes_export.pc @O
 install(FILES "${PROJECT_BINARY_DIR}/notes_export.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 
+install(FILES LICENSE docs/embedding.md docs/file-format.md DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+  COMPONENT development)
+
 if(TARGET notes-export)
   set_target_properties(notes-export PROPERTIES
     INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
