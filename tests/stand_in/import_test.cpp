@@ -94,11 +94,8 @@ TEST_F(Document, OfUnknownBytesPrintsNothingAndLeavesTheHandlerOfErrors) {
     for (const xmlStructuredErrorFunc before : {xmlStructuredErrorFunc{}, own}) {
         xmlSetStructuredErrorFunc(nullptr, before);
         testing::internal::CaptureStderr();
-        for (const char* encoding : {"utf-7", "utf-16", "none"}) {
-            imported("<?xml version=\"1.0\" encoding=\"" + std::string(encoding) +
-                     "\"?><html>\xff\xfe+ADw" + documentAround("AAAA"));
-        }
-        imported("\xff\xfe<\0h\0>\xdc<\0");
+        imported("<?xml version='1.0' encoding='utf-7'?><html>\xff\xfe+ADw</html>");
+        imported("\xff\xfe" + std::string({'<', '\0', 'h', '\0', '>', '\xdc', '<', '\0'}));
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
         EXPECT_EQ(xmlStructuredError, before);
     }
