@@ -1,10 +1,9 @@
 #include "dump_element.h"
 
 #include <libxml/parser.h>
-#include <libxml/parserInternals.h>
 
+#include <cstddef>
 #include <exception>
-#include <fstream>
 #include <memory>
 #include <mutex>
 #include <new>
@@ -13,15 +12,21 @@
 #include "base64.h"
 #include "dump_format.h"
 #include "import_result.h"
+#include "input_file.h"
 
 namespace host {
 namespace {
 
 constexpr std::size_t kPieceSize = 65536;
-// Space for attributes that the parser takes at the most, two entries for each.
-constexpr int kMaxAttributeEntries = 4096;
-constexpr int kParserOptions = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR |
-                               XML_PARSE_NOWARNING | XML_PARSE_HUGE;
+constexpr int kParserOptions = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_HUGE;
+
+// The parser compares each attribute of a start tag with all before it, its dictionary of
+// names has few buckets, and an error costs it more than an element. The limits hold the
+// time of an import to the length of the document.
+constexpr std::size_t kMaxBytesBeforeDump = std::size_t{64} << 20;
+constexpr std::size_t kMaxBytesOfNames = std::size_t{64} << 10;
+constexpr int kMaxAttributes = 100;  // of one start tag
+constexpr int kMaxErrors = 100000;
 
 std::string_view view(const xmlChar* text) { return reinterpret_cast<const char*>(text); }
 
@@ -37,103 +42,136 @@ bool isDump(const xmlChar* name, const xmlChar** attributes) {
     return false;
 }
 
-// Receives the parser's events. It must not handle declarations of entities: a dump of more
-// than 10 MB needs XML_PARSE_HUGE, which lifts the parser's own guard against entities that
-// amplify each other. Without handlers the parser knows only the five predefined ones, as
-// long as its user data is not the parser itself: it then looks them up on its own.
+void checkNumberOf(const xmlChar** attributes) {
+    for (int count = 0; attributes != nullptr && *attributes != nullptr; attributes += 2) {
+        if (++count > kMaxAttributes) {
+            throw DumpError(kNoDump, "an element of it has more than 100 attributes");
+        }
+    }
+}
+
+InputFile open(const std::string& path) {
+    try {
+        return InputFile(path);
+    } catch (const std::runtime_error&) {
+        throw DumpError(kFileUnreadable, "it is not a file, or must not be read");
+    }
+}
+
+// Takes what the libxml2 of this thread complains of, which else prints on standard error.
+// The program around may use libxml2, too, and gets its own handler back.
+class Complaints {
+public:
+    template <class Handler>
+    Complaints(void* self, Handler handler) {
+        xmlSetStructuredErrorFunc(self, handler);
+    }
+    ~Complaints() { xmlSetStructuredErrorFunc(previousSelf_, previous_); }
+    Complaints(const Complaints&) = delete;
+    Complaints& operator=(const Complaints&) = delete;
+
+private:
+    const xmlStructuredErrorFunc previous_ = xmlStructuredError;
+    void* const previousSelf_ = xmlStructuredErrorContext;
+};
+
+// Receives the parser's events. No entity is ever declared: a dump of more than 10 MB needs
+// XML_PARSE_HUGE, which lifts the parser's own guard against entities that amplify each
+// other. Without handlers the parser knows only the five predefined ones, as long as its
+// user data is not the parser itself: it then looks them up on its own.
 class DumpFinder {
 public:
-    explicit DumpFinder(const std::string& path) : file_(path, std::ios::binary) {}
+    explicit DumpFinder(const std::string& path) : file_(open(path)) {}
 
     Payload find();
 
 private:
     struct Release {
-        void operator()(xmlParserCtxt* parser) const {
-            xmlFreeDoc(parser->myDoc);  // made for the declarations of a hostile DTD
-            xmlFreeParserCtxt(parser);
-        }
-        void operator()(xmlParserInputBuffer* buffer) const {
-            xmlFreeParserInputBuffer(buffer);
-        }
+        void operator()(xmlParserCtxt* parser) const { xmlFreeParserCtxt(parser); }
+        void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
     };
     enum class State { kBefore, kInside, kAfter };
 
-    void createParser();
     void parse();
+    void refuseInternalSubset() const;
     void start(const xmlChar* name, const xmlChar** attributes);
     void append(const xmlChar* text, int size);
     void end();
+    void complain(int error);
+    std::size_t read(char* buffer, std::size_t size);
+    void checkLimits() const;
 
     // No exception may pass through the parser: it is kept until the parser has returned.
+    template <class Event>
+    bool keepFailure(Event event);
     template <class Event>
     static void on(void* self, Event event);
     static xmlSAXHandler handlers();
     static int read(void* self, char* buffer, int size);
-    bool hasTooManyAttributes() const;
 
-    std::ifstream file_;
+    InputFile file_;
     std::unique_ptr<xmlParserCtxt, Release> parser_;
     std::exception_ptr failure_;
+    std::size_t bytesRead_ = 0;
+    int errors_ = 0;
     State state_ = State::kBefore;
     Base64Decoder decoder_;
     Payload payload_;
 };
 
 Payload DumpFinder::find() {
-    if (file_.is_open()) {
-        parse();
-    }
+    parse();
     if (failure_) {
         std::rethrow_exception(failure_);
     }
-    if (!file_.is_open() || file_.bad()) {
-        throw DumpError(kFileUnreadable, "the document cannot be read");
-    }
     if (state_ == State::kBefore) {
-        throw DumpError(kNoDump, "the document holds no dump");
+        throw DumpError(kNoDump, "it holds no dump");
     }
     if (state_ == State::kInside) {
-        throw DumpError(kDumpDamaged, "the dump is cut");
+        throw DumpError(kDumpDamaged, "its dump is cut");
     }
     return std::move(payload_);
-}
-
-// In place of xmlCreateIOParserCtxt, which leaks its input when memory runs out.
-void DumpFinder::createParser() {
-    constexpr auto kAnyEncoding = XML_CHAR_ENCODING_NONE;
-    parser_.reset(xmlNewParserCtxt());
-    std::unique_ptr<xmlParserInputBuffer, Release> buffer(
-        xmlParserInputBufferCreateIO(read, nullptr, this, kAnyEncoding));
-    if (parser_ == nullptr || buffer == nullptr) {
-        throw std::bad_alloc();
-    }
-    *parser_->sax = handlers();
-    parser_->userData = this;
-    xmlParserInput* input = xmlNewIOInputStream(parser_.get(), buffer.get(), kAnyEncoding);
-    if (input == nullptr) {
-        throw std::bad_alloc();
-    }
-    static_cast<void>(buffer.release());  // the input's now
-    inputPush(parser_.get(), input);
 }
 
 void DumpFinder::parse() {
     static std::once_flag initialized;  // several threads may be the first to import
     std::call_once(initialized, xmlInitParser);
-    createParser();
-    xmlCtxtUseOptions(parser_.get(), kParserOptions);
-    xmlParseDocument(parser_.get());
-    if (parser_->errNo == XML_ERR_NO_MEMORY) {
+    const Complaints complaints(this, [](void* self, auto* error) {
+        static_cast<DumpFinder*>(self)->complain(error->code);
+    });
+    parser_.reset(xmlNewParserCtxt());
+    if (parser_ == nullptr) {
         throw std::bad_alloc();
+    }
+    *parser_->sax = handlers();
+    parser_->userData = this;
+    const std::unique_ptr<xmlDoc, Release> document(xmlCtxtReadIO(
+        parser_.get(), read, nullptr, this, nullptr, nullptr, kParserOptions));
+}
+
+void DumpFinder::complain(int error) {
+    ++errors_;
+    keepFailure([error] {
+        if (error == XML_ERR_NO_MEMORY) {
+            throw std::bad_alloc();
+        }
+    });
+}
+
+// Enumerations and declarations take time that grows faster than they do.
+void DumpFinder::refuseInternalSubset() const {
+    if (*parser_->input->cur == '[') {
+        throw DumpError(kNoDump,
+                        "it has an internal subset, which no exported document has");
     }
 }
 
 void DumpFinder::start(const xmlChar* name, const xmlChar** attributes) {
     if (state_ == State::kInside) {
-        throw DumpError(kDumpDamaged, "the dump holds an element");
+        throw DumpError(kDumpDamaged, "its dump holds an element");
     }
-    if (state_ == State::kBefore && isDump(name, attributes)) {
+    checkNumberOf(attributes);
+    if (isDump(name, attributes)) {
         state_ = State::kInside;
     }
 }
@@ -147,7 +185,7 @@ void DumpFinder::append(const xmlChar* text, int size) {
     }
     if (!decoder_.feed(reinterpret_cast<const char*>(text), static_cast<std::size_t>(size),
                        payload_.back())) {
-        throw DumpError(kDumpDamaged, "the dump is not Base64");
+        throw DumpError(kDumpDamaged, "its dump is not Base64");
     }
 }
 
@@ -158,26 +196,33 @@ void DumpFinder::end() {
     state_ = State::kAfter;
     xmlStopParser(parser_.get());
     if (payload_.empty() || !decoder_.finish(payload_.back())) {
-        throw DumpError(kDumpDamaged, "the dump is not Base64");
+        throw DumpError(kDumpDamaged, "its dump is not Base64");
     }
+}
+
+template <class Event>
+bool DumpFinder::keepFailure(Event event) {
+    try {
+        event();
+    } catch (...) {
+        failure_ = failure_ ? failure_ : std::current_exception();
+    }
+    return failure_ != nullptr;
 }
 
 template <class Event>
 void DumpFinder::on(void* self, Event event) {
     DumpFinder& finder = *static_cast<DumpFinder*>(self);
-    if (finder.failure_) {
-        return;
-    }
-    try {
-        event(finder);
-    } catch (...) {
-        finder.failure_ = std::current_exception();
+    if (finder.failure_ || finder.keepFailure([&] { event(finder); })) {
         xmlStopParser(finder.parser_.get());
     }
 }
 
 xmlSAXHandler DumpFinder::handlers() {
     xmlSAXHandler sax = {};
+    sax.internalSubset = [](void* self, const xmlChar*, const xmlChar*, const xmlChar*) {
+        on(self, [](DumpFinder& finder) { finder.refuseInternalSubset(); });
+    };
     sax.startElement = [](void* self, const xmlChar* name, const xmlChar** attributes) {
         on(self, [&](DumpFinder& finder) { finder.start(name, attributes); });
     };
@@ -190,19 +235,35 @@ xmlSAXHandler DumpFinder::handlers() {
     return sax;
 }
 
+// A failure ends the document for the parser, which must not be stopped while it reads.
 int DumpFinder::read(void* self, char* buffer, int size) {
     DumpFinder& finder = *static_cast<DumpFinder*>(self);
-    if (finder.hasTooManyAttributes()) {
-        return -1;  // ends the document for the parser
-    }
-    finder.file_.read(buffer, size);
-    return finder.file_.bad() ? -1 : static_cast<int>(finder.file_.gcount());
+    std::size_t count = 0;
+    const auto fill = [&] { count = finder.read(buffer, static_cast<std::size_t>(size)); };
+    return finder.failure_ || finder.keepFailure(fill) ? -1 : static_cast<int>(count);
 }
 
-// The parser compares each attribute of a start tag with all before it: with a million of
-// them it would take an hour.
-bool DumpFinder::hasTooManyAttributes() const {
-    return parser_ != nullptr && parser_->maxatts > kMaxAttributeEntries;
+std::size_t DumpFinder::read(char* buffer, std::size_t size) {
+    checkLimits();
+    try {
+        const std::size_t count = file_.read(buffer, size);
+        bytesRead_ += count;
+        return count;
+    } catch (const std::runtime_error&) {
+        throw DumpError(kFileUnreadable, "it cannot be read to its end");
+    }
+}
+
+void DumpFinder::checkLimits() const {
+    if (errors_ > kMaxErrors) {
+        throw DumpError(kNoDump, "it is broken in more than 100000 places");
+    }
+    if (xmlDictGetUsage(parser_->dict) > kMaxBytesOfNames) {
+        throw DumpError(kNoDump, "it uses more names than any exported document");
+    }
+    if (state_ == State::kBefore && bytesRead_ > kMaxBytesBeforeDump) {
+        throw DumpError(kNoDump, "it holds no dump in its first 64 MiB");
+    }
 }
 
 }  // namespace

@@ -20,10 +20,13 @@ std::vector<BookRecord> readPayload(Payload payload, std::size_t limit) {
     JsonReader reader;
     DumpHandler handler;
     if (reader.Parse<rapidjson::kParseIterativeFlag>(text, handler).IsError()) {
-        throw DumpError(handler.failure(), "the dump does not hold what a dump holds");
+        const ImportResult failure = handler.failure();
+        throw DumpError(failure, failure == kVersionUnknown
+                                     ? "its dump was written by a later version"
+                                     : "its dump does not hold the records of books");
     }
     if (!text.atEnd()) {
-        throw DumpError(kDumpDamaged, "something follows the records of the dump");
+        throw DumpError(kDumpDamaged, "something follows the records in its dump");
     }
     return std::move(handler.books());
 }

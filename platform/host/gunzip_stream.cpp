@@ -30,7 +30,7 @@ bool GunzipStream::refill() {
         inflateMore();
     }
     if (stream_.total_out > limit_) {
-        damaged("the dump exceeds its largest size");
+        damaged("its dump is larger than any that is written");
     }
     next_ = output_.data();
     end_ = next_ + (output_.size() - stream_.avail_out);
@@ -47,16 +47,16 @@ void GunzipStream::inflateMore() {
     }
     ended_ = status == Z_STREAM_END;
     if (ended_ && (stream_.avail_in > 0 || !payload_.empty())) {
-        damaged("something follows the dump");
+        damaged("something follows the records in its dump");
     }
     if (!ended_ && status != Z_OK) {
-        damaged("the dump does not inflate");
+        damaged("its dump was changed or is not compressed");
     }
 }
 
 void GunzipStream::nextPiece() {
     if (payload_.empty()) {
-        damaged("the dump is cut");
+        damaged("its dump is cut");
     }
     piece_ = std::move(payload_.front());
     payload_.pop_front();

@@ -3,9 +3,9 @@
 
 #include <zlib.h>
 
-#include <array>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "payload.h"
 
@@ -51,7 +51,7 @@ private:
     bool ended_ = false;
     const char* next_ = nullptr;
     const char* end_ = nullptr;
-    std::array<char, 65536> output_;
+    std::vector<char> output_ = std::vector<char>(65536);
 };
 
 }  // namespace host

@@ -1,5 +1,8 @@
 // Documents such as the corpus of the fuzz target has no room for, and a reader database
 // that fails.
+#include <libxml/xmlerror.h>
+#include <sys/stat.h>
+
 #include <cstdint>
 #include <ctime>
 #include <limits>
@@ -27,15 +30,78 @@ std::string failureOfReading() {
     }
 }
 
+// At least `size` bytes, with a number that grows in place of each '#'.
+std::string repeated(const std::string& unit, std::size_t size) {
+    std::string text;
+    for (int number = 0; text.size() < size; ++number) {
+        for (const char c : unit) {
+            text += c == '#' ? std::to_string(number) : std::string(1, c);
+        }
+    }
+    return text;
+}
+
+std::string refusal() {
+    try {
+        host::readDump("export.html");
+        return "";
+    } catch (const host::DumpError& error) {
+        return error.what();
+    }
+}
+
 }  // namespace
 
 TEST_F(Document, EntitiesAreNotFetched) {
     using veloran::utilities::SerializationUtils;
-    writeFile("dump", SerializationUtils::ToBase64(dumpOf(R"({"fast_hash":"ab"})")));
-    const std::string entity = "<!DOCTYPE html [<!ENTITY dump SYSTEM \"dump\">]>";
-    const std::string start = "<html><script type=\"application/x-veloran-dbdump\">";
-    EXPECT_EQ(imported(entity + start + readFile("dump") + "</script></html>"), 0);
-    EXPECT_EQ(imported(entity + start + "&dump;</script></html>"), host::kDumpDamaged);
+    const std::string dump = SerializationUtils::ToBase64(dumpOf(R"({"fast_hash":"ab"})"));
+    writeFile("dump.dtd", "<!ENTITY dump \"" + dump + "\">");
+    const std::string start =
+        "<!DOCTYPE html SYSTEM \"dump.dtd\"><html>"
+        "<script type=\"application/x-veloran-dbdump\">";
+    EXPECT_EQ(imported(start + dump + "</script></html>"), 0);
+    EXPECT_EQ(imported(start + "&dump;</script></html>"), host::kDumpDamaged);
+}
+
+TEST_F(Document, TakesTimeInProportionToItsLengthWhateverFillsIt) {
+    // '#' stands for a number that grows. The first document is the measure.
+    const struct {
+        const char *start, *unit, *refusal;
+    } shapes[] = {
+        {"<html>", "<b/>", "it holds no dump"},
+        {"<!DOCTYPE html [<!ATTLIST a b (c", "|a#", "it has an internal subset"},
+        {"<!DOCTYPE html [", "<!ENTITY a# ''>", "it has an internal subset"},
+        {"<html>", "<a#/>", "it uses more names"},
+        {"<html>", "&a#;", "it uses more names"},
+        {"<html>", "<?a#?>", "it uses more names"},
+        {"<html><p", " a#=''", "it uses more names"},
+        {"<html>", "<a b='' c='' d='' b#=''/>", "it uses more names"},
+        {"<html><p", " a=''", "it is broken in more than"},
+        {"<html>", "&", "it is broken in more than"},
+    };
+    std::clock_t measure = 0;
+    for (const auto& shape : shapes) {
+        writeFile("export.html", shape.start + repeated(shape.unit, 4000000));
+        const std::clock_t start = std::clock();
+        EXPECT_EQ(refusal().find(shape.refusal), 0U) << shape.unit << ": " << refusal();
+        const std::clock_t duration = std::clock() - start;
+        measure = measure == 0 ? duration : measure;
+        EXPECT_LT(duration, 10 * measure) << shape.start << shape.unit;
+    }
+}
+
+TEST_F(Document, OfUnknownBytesPrintsNothingAndLeavesTheHandlerOfErrors) {
+    const auto handler = [](void* /*self*/, auto* /*error*/) {};
+    const xmlStructuredErrorFunc own = handler;
+    for (const xmlStructuredErrorFunc before : {xmlStructuredErrorFunc{}, own}) {
+        xmlSetStructuredErrorFunc(nullptr, before);
+        testing::internal::CaptureStderr();
+        imported("<?xml version='1.0' encoding='utf-7'?><html>\xff\xfe+ADw</html>");
+        imported("\xff\xfe" + std::string({'<', '\0', 'h', '\0', '>', '\xdc', '<', '\0'}));
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+        EXPECT_EQ(xmlStructuredError, before);
+    }
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
 
 TEST_F(Document, DamagedAnywhereIsReadWholeAndRightOrLeavesTheDatabaseAlone) {
@@ -102,7 +168,8 @@ TEST_F(Store, FailuresAreReportedWithTheFileAndWhatIsWrong) {
     EXPECT_EQ(store.merge(sampleBooks()), 4) << "another merge goes as ever";
     const std::string document = documentOf(exported());
     Engine engine;
-    for (const char* file : {"missing", ".", ""}) {
+    ASSERT_EQ(mkfifo("fifo", 0600), 0);
+    for (const char* file : {"missing", ".", "", "fifo"}) {
         EXPECT_EQ(engine->books_import(file), host::kFileUnreadable) << file;
     }
     const auto change = [&](const char* sql) {
