@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "book_hash.h"
 #include "complaint.h"
 #include "decimal.h"
 #include "files.h"
@@ -82,11 +83,9 @@ host::NoteRecord readNote(const Json::Value& json, const std::string& place,
     return {uuid, tags.take()};
 }
 
-// The library database is asked for the bytes that the hash spells.
 std::string readHash(JsonObject& object) {
     std::string hash = object.requiredText("hash");
-    if (hash.size() % 2 != 0 ||
-        hash.find_first_not_of("0123456789abcdef") != std::string::npos) {
+    if (!host::isBookHash(hash)) {
         object.complain("\"hash\" wants pairs of hexadecimal digits, in lower case");
     }
     return hash;

@@ -1,12 +1,16 @@
 // Books and notes as they travel between databases: without row identifiers.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace host {
+
+// Bytes of one string; SQLite takes no more.
+inline constexpr std::size_t kMaxValueSize = 1000000000;
 
 // Every string may hold any bytes.
 struct TagRecord {
