@@ -1,6 +1,7 @@
 // notes-export: loads, lists, exports and imports the notes on a stand-in device.
 #include <exception>
 #include <iostream>
+#include <new>
 
 #include "command_line.h"
 #include "complaint.h"
@@ -12,8 +13,10 @@ int main(int argc, char** argv) {
             throw Complaint("Could not write the results.");
         }
         return status;
+    } catch (const std::bad_alloc&) {
+        std::cerr << complaintText("There is not enough memory.");
     } catch (const std::exception& error) {
-        std::cerr << complaintStart() << error.what() << '\n';
-        return 1;
+        std::cerr << complaintText(error.what());
     }
+    return 1;
 }
