@@ -1,7 +1,10 @@
 // notes-export: loads, lists, exports and imports the notes on a stand-in device.
+#include <cerrno>
+#include <cstdio>
 #include <exception>
 #include <iostream>
 #include <new>
+#include <system_error>
 
 #include "command_line.h"
 #include "complaint.h"
@@ -10,7 +13,8 @@ int main(int argc, char** argv) {
     try {
         const int status = runCommandLine(argc, argv);
         if (!std::cout.flush()) {
-            throw Complaint("Could not write the results.");
+            static_cast<void>(std::fflush(stdout));  // fails again, and tells why
+            complain("Could not write the results", {errno, std::generic_category()});
         }
         return status;
     } catch (const std::bad_alloc&) {
