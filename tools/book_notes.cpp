@@ -1,5 +1,8 @@
 #include "book_notes.h"
 
+#include "book_hash.h"
+#include "complaint.h"
+#include "one_line.h"
 #include "readerlib/position_uri.h"
 #include "unknown_book.h"
 #include "utilities/reader_db_manager.h"
@@ -9,6 +12,12 @@ namespace {
 void check(veloran::utilities::ReaderDbManager& readerDb, const std::string& hash) {
     if (readerDb.getItemId(hash) == -1) {
         complainAboutUnknownBook(hash);
+    }
+    // One that came from elsewhere could be a path or an option.
+    if (!host::isBookHash(hash)) {
+        throw Complaint("The book with the hash " + oneLine(hash) +
+                        " can only be listed: a hash is pairs of hexadecimal digits, in "
+                        "lower case.");
     }
 }
 

@@ -7,9 +7,10 @@
 
 #include "utilities/note.h"
 
+// Complains about a book that the device does not know, and about one whose hash is none.
 void complainUnlessKnown(const std::string& hash);
 
-// All notes of the book, in the database's order. Complains about an unknown book.
+// All notes of the book, in the database's order. Complains as above.
 std::vector<veloran::utilities::Note> notesOf(const std::string& hash);
 
 // The page that the note is on; nothing when its position names none.

@@ -44,8 +44,7 @@ CommandLine::CommandLine() {
     app_.set_version_flag("--version", "notes-export " NOTES_EXPORT_VERSION);
     app_.add_option("-C", device_,
                     "The folder that holds the device (default: this folder)")
-        ->type_name("DIR")
-        ->check(CLI::Validator(CLI::ExistingDirectory).description(""));
+        ->type_name("DIR");
     addFileCommands();
     addBooks();
     addNotes();
@@ -60,7 +59,7 @@ int CommandLine::run(int argc, const char* const* argv) {
     } catch (const CLI::RequiredError& error) {
         // Of an unknown command, the parser says only that a known one is missing.
         const std::vector<std::string> unknown = app_.remaining();
-        app_.exit(unknown.empty() ? CLI::Error(error) : CLI::ExtrasError(unknown));
+        app_.exit(unknown.empty() ? CLI::Error(error) : notUnderstood(unknown));
         return 2;
     } catch (const CLI::ParseError& error) {
         return app_.exit(error) == 0 ? 0 : 2;
@@ -71,6 +70,7 @@ int CommandLine::run(int argc, const char* const* argv) {
 CLI::App* CommandLine::addCommand(const char* name, const char* description, Device device,
                                   std::function<void()> action) {
     CLI::App* command = app_.add_subcommand(name, description);
+    command->fallthrough();  // -C may follow it
     command->callback([this, device, action = std::move(action)] {
         resolvePaths();
         enterDevice(device_, device);

@@ -2,8 +2,21 @@
 
 #include <unistd.h>
 
+#include <sstream>
+
+#include "one_line.h"
 #include "terminal.h"
 
-const char* complaintStart() {
-    return isColorful(STDERR_FILENO) ? "\033[1;31mnotes-export:\033[0m " : "notes-export: ";
+void complain(const std::string& what, std::error_code why) {
+    throw Complaint(what + ": " + why.message());
+}
+
+std::string complaintText(const std::string& text) {
+    std::string result =
+        isColorful(STDERR_FILENO) ? "\033[1;31mnotes-export:\033[0m " : "notes-export: ";
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        result += oneLine(line) + '\n';
+    }
+    return result;
 }

@@ -1,27 +1,20 @@
 #include "device_file.h"
 
 #include <json/reader.h>
-#include <json/writer.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
+#include <string_view>
 
+#include "book_hash.h"
 #include "complaint.h"
-#include "decimal.h"
+#include "device_note.h"
 #include "files.h"
 #include "json_object.h"
-#include "note_tags.h"
+#include "utilities/serialization_utils.h"
 
 namespace {
-
-std::string compact(const Json::Value& json) {
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "";
-    builder["emitUTF8"] = true;
-    return Json::writeString(builder, json);
-}
-
-std::string positionUri(double page) { return "book:/position?page=" + decimal(page); }
 
 Json::Value parse(const std::string& text, const std::string& path) {
     Json::CharReaderBuilder builder;
@@ -39,74 +32,55 @@ Json::Value parse(const std::string& text, const std::string& path) {
     throw Complaint(path + " is not JSON that a device file may hold:\n" + errors);
 }
 
-// Puts the tags of one note together; an empty text or JSON gives no tag.
-class TagList {
-public:
-    explicit TagList(std::int64_t timestamp) : timestamp_(timestamp) {}
-
-    void addText(std::int32_t tag, std::string text) {
-        if (!text.empty()) {
-            tags_.push_back({tag, std::move(text), std::nullopt, timestamp_});
-        }
-    }
-
-    void addUri(std::int32_t tag, const char* element, const std::string& uri) {
-        Json::Value json;
-        json[element] = uri;
-        tags_.push_back({tag, "", compact(json), timestamp_});
-    }
-
-    std::vector<host::TagRecord> take() { return std::move(tags_); }
-
-private:
-    std::int64_t timestamp_;
-    std::vector<host::TagRecord> tags_;
-};
-
-host::NoteRecord readNote(const Json::Value& json, const std::string& place,
-                          const std::filesystem::path& folder) {
-    JsonObject object(json, place);
-    TagList tags(object.integer("timestamp").value_or(0));
-    const std::string uuid = object.requiredText("uuid");
-    const std::string image = object.text("image");
-    tags.addText(host::kUuidTag, uuid);
-    if (const auto page = object.number("page")) {
-        tags.addUri(host::kAnchorTag, "anchor", positionUri(*page));
-        tags.addUri(host::kRangeTag, "begin", positionUri(*page));
-    }
-    tags.addText(host::kColorTag, object.text("color"));
-    tags.addText(host::kTextTag, object.text("text"));
-    tags.addText(host::kCommentTag, object.text("comment"));
-    tags.addText(host::kImageTag, image.empty() ? image : readFile(folder / image));
-    object.complainAboutUnknownMembers();
-    return {uuid, tags.take()};
+std::string numbered(const std::string& kind, std::size_t number) {
+    return kind + std::to_string(number);
 }
 
-// The library database is asked for the bytes that the hash spells.
+// Complains when two of the things in the object have one name, which is their `member`.
+template <class Thing>
+void checkNames(const JsonObject& object, const std::vector<Thing>& things,
+                std::string Thing::*name, const char* kind, const char* member) {
+    std::map<std::string_view, std::size_t> numbers;
+    for (const Thing& thing : things) {
+        const std::size_t number = numbers.size() + 1;
+        const auto [first, isNew] = numbers.try_emplace(thing.*name, number);
+        if (!isNew) {
+            object.complain(numbered(kind, first->second) + numbered(" and ", number) +
+                            " have one " + member);
+        }
+    }
+}
+
 std::string readHash(JsonObject& object) {
     std::string hash = object.requiredText("hash");
-    if (hash.size() % 2 != 0 ||
-        hash.find_first_not_of("0123456789abcdef") != std::string::npos) {
+    if (!host::isBookHash(hash)) {
         object.complain("\"hash\" wants pairs of hexadecimal digits, in lower case");
     }
     return hash;
 }
 
-LoadedBook readBook(const Json::Value& json, const std::string& place,
-                    const std::filesystem::path& folder) {
-    JsonObject object(json, place);
-    LoadedBook book;
-    book.author = object.text("author");
-    book.record.fastHash = readHash(object);
-    book.record.title = object.text("title");
-    book.record.path = object.text("path");
-    std::size_t number = 0;
-    for (const Json::Value& note : object.array("notes")) {
-        const std::string notePlace = place + ", note " + std::to_string(++number);
-        book.record.notes.push_back(readNote(note, notePlace, folder));
+std::vector<host::NoteRecord> readNotes(JsonObject& book, const std::string& place,
+                                        const std::filesystem::path& folder) {
+    std::vector<host::NoteRecord> notes;
+    for (const Json::Value& note : book.array("notes")) {
+        const std::string notePlace = numbered(place + ", note ", notes.size() + 1);
+        notes.push_back(readNote(note, notePlace, folder));
     }
+    checkNames(book, notes, &host::NoteRecord::uuid, "notes ", "uuid");
+    return notes;
+}
+
+void readBook(const Json::Value& json, const std::string& place,
+              const std::filesystem::path& folder, DeviceFile& device) {
+    using veloran::utilities::SerializationUtils;
+    JsonObject object(json, place);
+    const std::string hash = readHash(object);
+    const std::string title = object.text("title");
+    const std::string path = object.text("path");
+    device.libraryBooks.push_back(
+        {SerializationUtils::FromHex(hash), title, object.text("author"), path});
+    device.records.push_back({hash, title, path, readNotes(object, place, folder)});
     object.complainAboutUnknownMembers();
-    return book;
 }
 
 }  // namespace
@@ -116,13 +90,12 @@ DeviceFile readDeviceFile(const std::string& path) {
     const Json::Value json = parse(readFile(path), path);
     JsonObject object(json, path);
     DeviceFile device;
-    std::size_t number = 0;
     for (const Json::Value& book : object.array("books")) {
-        const std::string place = path + ": book " + std::to_string(++number);
-        device.books.push_back(readBook(book, place, folder));
+        const std::string place = numbered(path + ": book ", device.records.size() + 1);
+        readBook(book, place, folder, device);
     }
-    const std::string styleSheet = object.text("style_sheet");
-    device.styleSheet = styleSheet.empty() ? styleSheet : readFile(folder / styleSheet);
+    checkNames(object, device.records, &host::BookRecord::fastHash, "books ", "hash");
+    device.styleSheet = object.file("style_sheet", folder);
     object.complainAboutUnknownMembers();
     return device;
 }

@@ -1,9 +1,14 @@
 #include "device_folder.h"
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <filesystem>
+#include <system_error>
 
 #include "complaint.h"
 #include "device_paths.h"
+#include "files.h"
 
 namespace fs = std::filesystem;
 
@@ -14,12 +19,34 @@ void makeAbsolute(std::string& path) {
 }
 
 void enterDevice(const std::string& folder, Device device) {
+    std::error_code error;
     if (!folder.empty()) {
-        fs::current_path(folder);
+        fs::current_path(folder, error);
     }
-    if (device == Device::MustExist && !fs::exists(host::kReaderDatabasePath)) {
+    if (error) {
+        complain("Cannot enter " + folder, error);
+    }
+    if (device == Device::MustExist && !isDevice()) {
         throw Complaint(
             "There is no device in " + fs::current_path().string() +
             ". Name its folder with -C, or make one with \"notes-export load\".");
+    }
+}
+
+bool isDevice() {
+    std::error_code error;
+    const bool isThere = fs::exists(host::kReaderDatabasePath, error);
+    if (error) {
+        complain("Cannot look for " + fs::absolute(host::kReaderDatabasePath).string(),
+                 error);
+    }
+    return isThere;
+}
+
+void prepareDevice() {
+    const fs::path folder = fs::absolute(host::kReaderDatabasePath).parent_path();
+    makeFolders(folder);
+    if (!isDevice() && access(folder.c_str(), W_OK) != 0) {
+        complain("Cannot write in " + folder.string(), {errno, std::generic_category()});
     }
 }

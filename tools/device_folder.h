@@ -11,3 +11,9 @@ enum class Device { MayBeEmpty, MustExist };
 // Makes the device's folder the working directory, where the library finds the device; an
 // empty one leaves the caller's.
 void enterDevice(const std::string& folder, Device device);
+
+// Whether there is a device in the working directory.
+bool isDevice();
+
+// Makes the folders of the databases, which come into being there when they are looked for.
+void prepareDevice();

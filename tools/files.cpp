@@ -1,36 +1,77 @@
 #include "files.h"
 
-#include <fstream>
-#include <iterator>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <stdexcept>
+#include <system_error>
+#include <vector>
 
 #include "complaint.h"
+#include "input_file.h"
+#include "records.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
-std::ifstream opened(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path)) {
-        throw Complaint("Cannot read " + path.string() + ": is it there, and a file?");
+void checkSize(const fs::path& path, std::uint64_t size) {
+    if (size > host::kMaxValueSize) {
+        throw std::runtime_error(
+            path.string() + ": its " + std::to_string(size) + " bytes are more than the " +
+            std::to_string(host::kMaxValueSize) + " that a database takes");
     }
-    return file;
+}
+
+std::string contentOf(const fs::path& path) {
+    host::InputFile file(path.string());
+    checkSize(path, file.size());
+    std::string content;
+    content.reserve(static_cast<std::size_t>(file.size()));
+    std::vector<char> block(65536);
+    while (const std::size_t size = file.read(block.data(), block.size())) {
+        content.append(block.data(), size);
+        checkSize(path, content.size());  // it may grow meanwhile
+    }
+    return content;
+}
+
+// Leaves the reason in errno when it fails.
+bool wrote(const fs::path& path, const std::string& content) {
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    if (file == nullptr) {
+        return false;
+    }
+    const bool whole =
+        std::fwrite(content.data(), 1, content.size(), file) == content.size();
+    return std::fclose(file) == 0 && whole;
 }
 
 }  // namespace
 
-void complainUnlessReadable(const std::filesystem::path& path) { opened(path); }
-
-std::string readFile(const std::filesystem::path& path) {
-    std::ifstream file = opened(path);
-    return {std::istreambuf_iterator<char>(file), {}};
+std::string readFile(const fs::path& path) {
+    try {
+        return contentOf(path);
+    } catch (const std::runtime_error& error) {
+        throw Complaint(std::string("Cannot read ") + error.what());
+    }
 }
 
-void writeFile(const std::filesystem::path& path, const std::string& content) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream file(path, std::ios::binary);
-    file << content;
-    file.close();
-    if (!file) {
-        throw Complaint("Cannot write " + path.string() +
-                        ": is there room, and may you write there?");
+void writeFile(const fs::path& path, const std::string& content) {
+    makeFolders(path.parent_path());
+    const fs::path part = path.string() + ".part";
+    if (!wrote(part, content) || std::rename(part.c_str(), path.c_str()) != 0) {
+        const std::error_code error(errno, std::generic_category());
+        std::error_code ignored;
+        fs::remove(part, ignored);
+        complain("Cannot write " + path.string(), error);
+    }
+}
+
+void makeFolders(const fs::path& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (error) {
+        complain("Cannot make the folder " + path.string(), error);
     }
 }

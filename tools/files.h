@@ -1,12 +1,14 @@
-// Whole files, with a Complaint where one cannot be read or written.
+// Whole files, with a Complaint in the system's words where one cannot be read or written.
 #pragma once
 
 #include <filesystem>
 #include <string>
 
-void complainUnlessReadable(const std::filesystem::path& path);
-
+// Refuses, before it reads it, what is no regular file or larger than a database takes.
 std::string readFile(const std::filesystem::path& path);
 
-// Creates the missing folders that lead to it.
+// Creates the missing folders that lead to it. The file that is there stays as it is until
+// the new one is whole.
 void writeFile(const std::filesystem::path& path, const std::string& content);
+
+void makeFolders(const std::filesystem::path& path);

@@ -2,53 +2,83 @@
 
 #include "commands.h"
 #include "complaint.h"
+#include "device_folder.h"
+#include "device_paths.h"
+#include "dump_reader.h"
 #include "exporter.h"
-#include "files.h"
 #include "import_result.h"
+#include "input_file.h"
 #include "progress_line.h"
+#include "reader_store.h"
 
 namespace {
 
-// The library's own result; the import engine has others for its failures.
-constexpr int kException = -1;
-
-std::string reason(int result) {
+std::string advice(int result) {
     switch (result) {
-        case host::kFileUnreadable:
-            return "it cannot be read to its end.";
         case host::kNoDump:
-            return "it carries no records. Was it exported by this library, and the book "
-                   "not too large?";
+            return ". Was it exported by this library, and the book not too large?";
         case host::kDumpDamaged:
-            return "its records are damaged. Fetch the file again, byte for byte.";
+            return ". Fetch the file again, byte for byte.";
         case host::kVersionUnknown:
-            return "its records are of a version that this program does not know. Update "
-                   "it.";
-        case host::kDatabaseError:
-            return "the reader database cannot be written. Is it in use, is there room?";
+            return ". Update this program.";
         default:
-            return "the library failed with " + std::to_string(result) + ".";
+            return ".";
+    }
+}
+
+[[noreturn]] void refuse(const std::string& file, std::string why) {
+    if (why.rfind(file + ": ", 0) == 0) {
+        why.erase(0, file.size() + 2);
+    }
+    throw Complaint("Nothing was imported from " + file + ": " + why);
+}
+
+std::vector<host::BookRecord> recordsOf(const std::string& file) {
+    try {
+        const host::InputFile readable(file);  // otherwise in the system's words
+        return host::readDump(file);
+    } catch (const host::DumpError& error) {
+        refuse(file, error.what() + advice(error.result));
+    } catch (const std::runtime_error& error) {
+        refuse(file, error.what());
     }
 }
 
 int callLibrary(const std::string& file) {
-    const ProgressLine progress("Importing");
     const Exporter exporter;
     return notes_exporter_import_from_file(exporter.handle(), file.c_str());
 }
 
+// The library tells a failure only as a number; its cause is told by the store.
+int mergeDirectly(const std::string& file) {
+    const std::vector<host::BookRecord> records = recordsOf(file);
+    try {
+        return host::ReaderStore(host::kReaderDatabasePath).merge(records);
+    } catch (const std::runtime_error& error) {
+        refuse(file, error.what());
+    }
+}
+
+// A failure that has passed meanwhile leaves the notes merged and the file to be marked.
+int importAgain(const std::string& file) {
+    const int merged = mergeDirectly(file);
+    if (callLibrary(file) < 0) {
+        throw Complaint("The notes of " + file +
+                        " were imported, but the file could not be marked.");
+    }
+    return merged;
+}
+
+int imported(const std::string& file) {
+    const ProgressLine progress("Importing");
+    if (!isDevice()) {
+        recordsOf(file);  // a file that is refused makes no device
+        prepareDevice();
+    }
+    const int result = callLibrary(file);
+    return result < 0 ? importAgain(file) : result;
+}
+
 }  // namespace
 
-void importNotes(const std::string& file) {
-    complainUnlessReadable(file);  // before the exporter makes a device for it
-    const int result = callLibrary(file);
-    if (result == kException) {
-        throw Complaint("The import of " + file +
-                        " failed part-way: its notes may be in, but the file could not be "
-                        "marked. Is the library database in use, is there room?");
-    }
-    if (result < 0) {
-        throw Complaint("Nothing was imported from " + file + ": " + reason(result));
-    }
-    std::cout << result << '\n';
-}
+void importNotes(const std::string& file) { std::cout << imported(file) << '\n'; }

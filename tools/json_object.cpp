@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "complaint.h"
+#include "files.h"
+#include "one_line.h"
 
 JsonObject::JsonObject(const Json::Value& value, std::string place)
     : value_(value), place_(std::move(place)) {
@@ -40,10 +42,23 @@ const Json::Value& JsonObject::array(const std::string& name) {
     return member == nullptr ? none : *member;
 }
 
+std::optional<std::string> JsonObject::file(const std::string& name,
+                                            const std::filesystem::path& folder) {
+    const std::string path = text(name);
+    if (path.empty()) {
+        return std::nullopt;
+    }
+    try {
+        return readFile(folder / path);
+    } catch (const Complaint& error) {
+        complain(error.what());
+    }
+}
+
 void JsonObject::complainAboutUnknownMembers() const {
     for (const std::string& name : value_.getMemberNames()) {
         if (known_.count(name) == 0) {
-            complain("\"" + name + "\" is not known here");
+            complain("\"" + oneLine(name) + "\" is not known here");
         }
     }
 }

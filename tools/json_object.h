@@ -3,6 +3,7 @@
 
 #include <json/value.h>
 
+#include <filesystem>
 #include <optional>
 #include <set>
 #include <string>
@@ -21,6 +22,11 @@ public:
     std::optional<double> number(const std::string& name);
     std::optional<long long> integer(const std::string& name);
     const Json::Value& array(const std::string& name);
+
+    // The content of the file that the member names, relative to `folder`; nothing when the
+    // member is missing or empty.
+    std::optional<std::string> file(const std::string& name,
+                                    const std::filesystem::path& folder);
 
     [[noreturn]] void complain(const std::string& what) const;
 

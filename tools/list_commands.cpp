@@ -1,3 +1,4 @@
+#include "book_hash.h"
 #include "book_notes.h"
 #include "commands.h"
 #include "device_paths.h"
@@ -9,6 +10,9 @@
 namespace {
 
 std::string author(host::LibraryStore& library, const std::string& hash) {
+    if (!host::isBookHash(hash)) {  // other text spells the bytes of some other book
+        return {};
+    }
     const auto id = library.findBook(veloran::utilities::SerializationUtils::FromHex(hash));
     return id ? library.book(*id).value_or(host::LibraryBook{}).author : std::string();
 }

@@ -1,34 +1,70 @@
+#include <algorithm>
 #include <iostream>
 
 #include "commands.h"
+#include "complaint.h"
 #include "device_file.h"
+#include "device_folder.h"
 #include "device_paths.h"
 #include "files.h"
 #include "library_store.h"
+#include "one_line.h"
 #include "progress_line.h"
 #include "reader_store.h"
-#include "utilities/serialization_utils.h"
 
 namespace {
 
-int loaded(const std::string& file) {
-    using veloran::utilities::SerializationUtils;
+constexpr std::size_t kMostNamed = 3;
+
+void writeRest(const DeviceFile& device, host::LibraryStore& library) {
+    try {
+        library.putBooks(device.libraryBooks);
+        if (device.styleSheet) {
+            writeFile(host::kNoteStyleSheetPath, *device.styleSheet);
+        }
+    } catch (const std::runtime_error& error) {
+        throw Complaint(
+            std::string("The notes are on the device, but not all of the rest: ") +
+            error.what() + "\nLoad the file again once that is repaired.");
+    }
+}
+
+// Nothing is written before all of the file is known to be right, and both databases to be
+// databases.
+host::LoadResult loaded(const std::string& file) {
     const ProgressLine progress("Loading");
-    DeviceFile device = readDeviceFile(file);
+    const DeviceFile device = readDeviceFile(file);
+    prepareDevice();
+    host::ReaderStore reader(host::kReaderDatabasePath);
     host::LibraryStore library(host::kLibraryDatabasePath);
-    std::vector<host::BookRecord> records;
-    for (LoadedBook& book : device.books) {
-        host::BookRecord& record = book.record;
-        const std::string uid = SerializationUtils::FromHex(record.fastHash);
-        library.putBook({uid, record.title, book.author, record.path});
-        records.push_back(std::move(record));
+    host::LoadResult result = reader.load(device.records);
+    writeRest(device, library);
+    return result;
+}
+
+std::string named(const host::KeptNote& note) {
+    return "  " + oneLine(note.uuid) + " of " + oneLine(note.fastHash) + "  \"" +
+           oneLine(note.title) + "\"\n";
+}
+
+std::string keptNotes(const std::vector<host::KeptNote>& notes) {
+    std::string text =
+        "The device keeps its own of these notes, as the file's differ but "
+        "are not newer:\n";
+    for (std::size_t i = 0; i < std::min(notes.size(), kMostNamed); ++i) {
+        text += named(notes[i]);
     }
-    if (!device.styleSheet.empty()) {
-        writeFile(host::kNoteStyleSheetPath, device.styleSheet);
-    }
-    return host::ReaderStore(host::kReaderDatabasePath).merge(records);
+    return notes.size() <= kMostNamed
+               ? text
+               : text + "  and " + std::to_string(notes.size() - kMostNamed) + " more\n";
 }
 
 }  // namespace
 
-void load(const std::string& file) { std::cout << loaded(file) << '\n'; }
+void load(const std::string& file) {
+    const host::LoadResult result = loaded(file);
+    if (!result.kept.empty()) {
+        std::cerr << complaintText(keptNotes(result.kept));
+    }
+    std::cout << result.changed << '\n';
+}

@@ -1,6 +1,10 @@
 // notes-export: loads, lists, exports and imports the notes on a stand-in device.
+#include <cerrno>
+#include <cstdio>
 #include <exception>
 #include <iostream>
+#include <new>
+#include <system_error>
 
 #include "command_line.h"
 #include "complaint.h"
@@ -9,11 +13,14 @@ int main(int argc, char** argv) {
     try {
         const int status = runCommandLine(argc, argv);
         if (!std::cout.flush()) {
-            throw Complaint("Could not write the results.");
+            static_cast<void>(std::fflush(stdout));  // fails again, and tells why
+            complain("Could not write the results", {errno, std::generic_category()});
         }
         return status;
+    } catch (const std::bad_alloc&) {
+        std::cerr << complaintText("There is not enough memory.");
     } catch (const std::exception& error) {
-        std::cerr << complaintStart() << error.what() << '\n';
-        return 1;
+        std::cerr << complaintText(error.what());
     }
+    return 1;
 }

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "complaint.h"
+#include "one_line.h"
 
 std::string isIdentifier(const std::string& text) {
     unsigned long long id = 0;
@@ -13,11 +14,20 @@ std::string isIdentifier(const std::string& text) {
                : text + " is not the identifier of a note";
 }
 
+CLI::Error notUnderstood(const std::vector<std::string>& words) {
+    const std::string& first = words.front();
+    if (first.rfind('-', 0) == 0) {
+        return CLI::ExtrasError(words);
+    }
+    return CLI::ParseError("Unknown command: " + oneLine(first),
+                           CLI::ExitCodes::ExtrasError);
+}
+
 std::string misuse(const CLI::App* app, const CLI::Error& error) {
     std::string command = app->get_name();
     for (const CLI::App* typed : app->get_subcommands()) {
         command += " " + typed->get_name();
     }
-    return complaintStart() + std::string(error.what()) + "\n\"" + command +
-           " --help\" tells what can be typed.\n";
+    return complaintText(std::string(error.what()) + "\n\"" + command +
+                         " --help\" tells what can be typed.");
 }

@@ -43,7 +43,7 @@ std::string suggestions(const std::string& typed, const Books& books) {
 
 void complainAboutUnknownBook(const std::string& typed) {
     const Books books = host::ReaderStore(host::kReaderDatabasePath).books();
-    const std::string start = "No book has the hash " + typed;
+    const std::string start = "No book has the hash " + oneLine(typed);
     if (books.empty()) {
         throw Complaint(start +
                         ": the device holds none. \"notes-export load\" puts some on.");

@@ -41,6 +41,14 @@ void LibraryStore::putBook(const LibraryBook& book) {
         .run();
 }
 
+void LibraryStore::putBooks(const std::vector<LibraryBook>& books) {
+    connection_->write([&] {
+        for (const LibraryBook& book : books) {
+            putBook(book);
+        }
+    });
+}
+
 std::optional<std::int64_t> LibraryStore::findBook(const std::string& fastHash) {
     Query row =
         connection_->query("SELECT id FROM books WHERE fast_hash = ?", Blob{fastHash});

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace host {
 
@@ -29,6 +30,9 @@ public:
 
     // Adds the book, or replaces what is known of the one with its hash.
     void putBook(const LibraryBook& book);
+
+    // The same of all these, in one transaction.
+    void putBooks(const std::vector<LibraryBook>& books);
 
     std::optional<std::int64_t> findBook(const std::string& fastHash);  // raw bytes
     std::optional<LibraryBook> book(std::int64_t id);

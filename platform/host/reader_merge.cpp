@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "connection.h"
 #include "reader_store.h"
 
@@ -16,6 +18,12 @@ constexpr const char* kMergeTag =
     "ON CONFLICT (note_id, tag) DO UPDATE "
     "SET text = excluded.text, json = excluded.json, timestamp = excluded.timestamp "
     "WHERE excluded.timestamp > tags.timestamp";
+// An update to what is there already would still write to the file.
+constexpr const char* kSetTitleAndPath =
+    "UPDATE books SET title = ?2, path = ?3 WHERE fast_hash = ?1 AND (title, path) IS NOT "
+    "(?2, ?3)";
+constexpr const char* kFindOtherTag =
+    "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
 
 }  // namespace
 
@@ -30,6 +38,27 @@ int ReaderStore::merge(const std::vector<BookRecord>& books) {
         }
     });
     return merged;
+}
+
+LoadResult ReaderStore::load(const std::vector<BookRecord>& books) {
+    LoadResult result;
+    connection_->write([&] {
+        for (const BookRecord& book : books) {
+            loadBook(book, result);
+        }
+    });
+    return result;
+}
+
+void ReaderStore::loadBook(const BookRecord& book, LoadResult& result) {
+    const std::int64_t bookId = mergeBook(book);
+    connection_->query(kSetTitleAndPath, book.fastHash, book.title, book.path).run();
+    for (const NoteRecord& note : book.notes) {
+        result.changed += mergeNote(bookId, note) ? 1 : 0;
+        if (differs(bookId, note)) {
+            result.kept.push_back({book.fastHash, book.title, note.uuid});
+        }
+    }
 }
 
 std::int64_t ReaderStore::mergeBook(const BookRecord& book) {
@@ -58,6 +87,15 @@ bool ReaderStore::mergeTag(std::int64_t noteId, const TagRecord& tag) {
     return connection_
                ->query(kMergeTag, noteId, number, Blob{tag.text}, tag.json, tag.timestamp)
                .run() > 0;
+}
+
+bool ReaderStore::differs(std::int64_t bookId, const NoteRecord& note) {
+    const std::int64_t noteId = findNote(bookId, note.uuid);
+    return std::any_of(note.tags.begin(), note.tags.end(), [&](const TagRecord& tag) {
+        const std::int64_t number = tag.tag;
+        return connection_->query(kFindOtherTag, noteId, number, Blob{tag.text}, tag.json)
+            .next();
+    });
 }
 
 }  // namespace host

@@ -22,6 +22,18 @@ struct BookEntry {
     std::string path;
 };
 
+// A note that the device keeps although the loaded one is another.
+struct KeptNote {
+    std::string fastHash;  // of its book
+    std::string title;     // of its book
+    std::string uuid;
+};
+
+struct LoadResult {
+    int changed = 0;  // notes added or changed
+    std::vector<KeptNote> kept;
+};
+
 // One connection to the database; serves one thread at a time. Every failure is an
 // exception of the std::runtime_error family that names the file and what is wrong with it,
 // but for std::bad_alloc.
@@ -68,11 +80,17 @@ public:
     // uuid is empty; the database is then as it was.
     int merge(const std::vector<BookRecord>& books);
 
+    // The same, but a book gets the title and path of its record. Tells of each note that
+    // has a tag whose text or JSON remains another than its record's.
+    LoadResult load(const std::vector<BookRecord>& books);
+
 private:
     std::int64_t mergeBook(const BookRecord& book);
+    void loadBook(const BookRecord& book, LoadResult& result);
     bool mergeNote(std::int64_t bookId, const NoteRecord& note);
     std::int64_t findNote(std::int64_t bookId, const std::string& uuid);
     bool mergeTag(std::int64_t noteId, const TagRecord& tag);
+    bool differs(std::int64_t bookId, const NoteRecord& note);
 
     std::unique_ptr<Connection> connection_;
 };

@@ -52,7 +52,7 @@ _notes_export_words() {
     elif [[ -z $command ]]; then
         compgen -W 'load import books notes export name' -- "$1"
     elif [[ $1 == -* ]]; then
-        compgen -W "${options[$command]-} --help" -- "$1"
+        compgen -W "${options[$command]-} -C --help" -- "$1"
     elif [[ -z $argument && $command =~ ^(notes|export|name)$ ]]; then
         _notes_export_books "$1"
     fi
