@@ -120,7 +120,6 @@ Exported exported(const ExportRequest& request) {
     complainUnlessKnown(request.hash);
     complainUnlessStyleSheetIsFile(request);
     const std::string directory = exporter.directory();
-    const std::string wanted = shown(request, exporter.fileName(request.hash));
     FreshFolder folder(directory);
 
     exporter.setDirectory(folder.path());
@@ -128,7 +127,8 @@ Exported exported(const ExportRequest& request) {
     complainUnlessWithin(exporter, page);
     folder.expect(page);
     callLibrary(exporter, request, times);
-    complainUnlessWhole(page, wanted);
+    complainUnlessWhole(page,
+                        shown(request, directory + page.substr(folder.path().size())));
     const std::string unrecorded = whyWithoutRecords(
         page, request.hash, {request.noteIds.begin(), request.noteIds.end()});
 

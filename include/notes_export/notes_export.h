@@ -19,10 +19,17 @@
  * 6. What becomes of the exported file is not reported: a full disk or a directory that
  *    cannot be written gives the same result as success. Whoever must know looks at the
  *    file that notes_exporter_get_exported_file_name named before the export.
+ *    It ends in "</html>" when it is whole. A page without a dump, because the engine had
+ *    none to give, is not reported either.
  * 7. A failure inside the device's libraries, a failed allocation or a null text is a C++
  *    exception. notes_exporter_import_from_file turns one derived from std::exception into
  *    -1. Every other function lets it pass to its caller, everything released on the way;
  *    in a program without a C++ handler that ends the program.
+ * 8. Choosing a file name and opening the file are two steps. Two exports of one title into
+ *    one directory at the same time can write into one file: let each export write into a
+ *    directory of its own and then move the file to a name that is free.
+ * 9. The fixed paths, under /mnt/ext1, are those of a device build. A host build has them
+ *    below the working directory, without the leading "/".
  *
  * Example: export all notes of a book in page order, then import the file.
  *
@@ -90,6 +97,7 @@ NOTES_EXPORT_API void notes_exporter_set_export_dir(notes_exporter* exporter,
  * Writes notes of one book into a new XHTML file under the export directory, creating
  * missing directories, and marks the file in the device's library database. The file is
  * named after the book's title; a name that is taken when the export begins gets a counter.
+ * What takes the name after that is truncated (convention 8).
  *
  * @param exporter the handle; not null
  * @param book_hash the book; not null
