@@ -25,7 +25,7 @@ protected:
     ~Leftover() = default;
 };
 
-// From now on, a signal that ends the program removes `leftover` first, if that is not null;
-// the program then dies of that signal, as its caller expects. Ignored signals stay ignored.
-// Called while signals are held.
+// From now on, a signal that ends the program removes `leftover` first, if that is not
+// null; the program then dies of that signal, as its caller expects. Ignored signals stay
+// ignored. Called while signals are held.
 void removeOnSignal(const Leftover* leftover);
