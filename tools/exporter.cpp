@@ -1,10 +1,21 @@
 #include "exporter.h"
 
+#include "device_paths.h"
+
+namespace {
+
+constexpr char kDeviceDirectory[] = NOTES_EXPORT_DEVICE_ROOT "/Notes";
+
+}  // namespace
+
 Exporter::Exporter(const std::string& directory)
     : handle_(new_notes_exporter(), &free_notes_exporter) {
-    if (!directory.empty()) {
-        notes_exporter_set_export_dir(handle(), directory.c_str());
-    }
+    setDirectory(directory.empty() ? kDeviceDirectory : directory);
+}
+
+void Exporter::setDirectory(const std::string& directory) {
+    notes_exporter_set_export_dir(handle(), directory.c_str());
+    directory_ = directory;
 }
 
 std::string Exporter::fileName(const std::string& hash) const {

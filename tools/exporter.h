@@ -8,8 +8,11 @@
 
 class Exporter {
 public:
-    // An empty directory leaves the device's own.
+    // An empty directory is the device's own.
     explicit Exporter(const std::string& directory = {});
+
+    void setDirectory(const std::string& directory);
+    const std::string& directory() const { return directory_; }
 
     // The path of the file that an export of the book would write now.
     std::string fileName(const std::string& hash) const;
@@ -18,4 +21,5 @@ public:
 
 private:
     std::unique_ptr<notes_exporter, decltype(&free_notes_exporter)> handle_;
+    std::string directory_;
 };

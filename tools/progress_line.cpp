@@ -7,12 +7,14 @@
 #include <system_error>
 #include <utility>
 
+#include "interruption.h"
 #include "terminal.h"
 
 ProgressLine::ProgressLine(std::string what) : what_(std::move(what)) {
     if (!isTerminal(STDERR_FILENO)) {
         return;
     }
+    const SignalsHeld held;  // they are for the main thread
     try {
         thread_ = std::thread([this] { run(); });
     } catch (const std::system_error&) {

@@ -15,18 +15,24 @@
  *    text, the key under which the device's databases know the book.
  * 5. Every function does its whole work on the calling thread and starts no thread. One
  *    handle must not serve two calls at the same time; different handles may serve
- * different threads. The library takes no lock of its own, but the device's databases make
- * a call wait while another thread or process writes. How long is the platform's choice
- * (the stand-in for desktops: at most 5 seconds a question); then the call fails as 7 says,
- *    or an export lacks its records as 6 says.
+ *    different threads. The library takes no lock of its own, but the device's databases
+ *    make a call wait while another thread or process writes. How long is the platform's
+ *    choice (the stand-in for desktops: at most 5 seconds for each question). Then the call
+ *    fails as 7 says, or an export lacks its records as 6 says.
  * 6. What becomes of the exported file is not reported: a full disk, a directory that
- * cannot be written or a reader database that was busy (the file then lacks the records
- * that an import needs) gives the same result as success. Whoever must know looks at the
- * file that notes_exporter_get_exported_file_name named before the export.
+ *    cannot be written or a reader database that was busy gives the same result as success.
+ *    Whoever must know looks at the file that notes_exporter_get_exported_file_name named
+ *    before the export. It ends in "</html>" when it is whole. When the records that an
+ *    import needs could not be had, it has no "script" element.
  * 7. A failure inside the device's libraries, a failed allocation or a null text is a C++
  *    exception. notes_exporter_import_from_file turns one derived from std::exception into
  *    -1. Every other function lets it pass to its caller, everything released on the way;
  *    in a program without a C++ handler that ends the program.
+ * 8. Choosing a file name and opening the file are two steps. Two exports of one title into
+ *    one directory at the same time can write into one file: let each export write into a
+ *    directory of its own and then move the file to a name that is free.
+ * 9. The fixed paths, under /mnt/ext1, are those of a device build. A host build has them
+ *    below the working directory, without the leading "/".
  *
  * Example: export all notes of a book in page order, then import the file.
  *
@@ -94,6 +100,7 @@ NOTES_EXPORT_API void notes_exporter_set_export_dir(notes_exporter* exporter,
  * Writes notes of one book into a new XHTML file under the export directory, creating
  * missing directories, and marks the file in the device's library database. The file is
  * named after the book's title; a name that is taken when the export begins gets a counter.
+ * What takes the name after that is truncated (convention 8).
  *
  * @param exporter the handle; not null
  * @param book_hash the book; not null

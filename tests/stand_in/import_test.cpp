@@ -3,12 +3,16 @@
 #include <libxml/xmlerror.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <ctime>
 #include <limits>
+#include <locale>
+#include <tuple>
 
 #include "connection.h"
 #include "dump_reader.h"
+#include "fast_book_hash.h"
 #include "import_result.h"
 #include "on_empty_device.h"
 #include "records.h"
@@ -102,6 +106,39 @@ TEST_F(Document, OfUnknownBytesPrintsNothingAndLeavesTheHandlerOfErrors) {
         EXPECT_EQ(xmlStructuredError, before);
     }
     xmlSetStructuredErrorFunc(nullptr, nullptr);
+}
+
+// Numbers in groups, and files of other bytes than they hold.
+struct GroupedDigits : std::numpunct<char> {
+    std::string do_grouping() const override { return "\1"; }
+};
+struct ShiftedBytes : std::codecvt<char, char, std::mbstate_t> {
+    bool do_always_noconv() const noexcept override { return false; }
+    result do_in(std::mbstate_t& /*state*/, const char* from, const char* end,
+                 const char*& next, char* to, char* /*room*/, char*& last) const override {
+        last = std::transform(from, end, to, [](char byte) { return byte ^ 1; });
+        next = end;
+        return ok;
+    }
+};
+
+TEST_F(Document, IsReadTheSameInEveryLocale) {
+    const std::string anchor = R"({"anchor":"book:/position?page=7","zoom":1.5})";
+    merge({{"ab", "", "", {{"n", {{host::kAnchorTag, "", anchor, 7}}}}}});
+    writeFile("export.html", documentOf(exported()));
+    const auto read = [] {
+        std::string hash(32, '\0');
+        FastBookHash("export.html", hash.data(), 32);
+        return std::tuple(Engine()->books_import("export.html"), hash,
+                          ReaderDbManager().getNote("1").getAnchorUri());
+    };
+    const auto expected = read();
+    EXPECT_EQ(std::get<0>(expected), 0);
+    EXPECT_EQ(std::get<2>(expected), "book:/position?page=7");
+    std::locale::global({{std::locale::classic(), new GroupedDigits}, new ShiftedBytes});
+    const auto result = read();
+    std::locale::global(std::locale::classic());
+    EXPECT_EQ(result, expected);
 }
 
 TEST_F(Document, DamagedAnywhereIsReadWholeAndRightOrLeavesTheDatabaseAlone) {
