@@ -61,7 +61,9 @@ Facts merged(Facts facts, const std::vector<host::BookRecord>& books) {
     return facts;
 }
 
-Facts factsIn(Device& device) { return merged({}, device.database.state->current().records()); }
+Facts factsIn(Device& device) {
+    return merged({}, device.database.state->current().records());
+}
 
 std::string outcomeOf(int result) {
     return result == host::kNoDump           ? "no_dump"

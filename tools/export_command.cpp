@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
@@ -12,6 +14,7 @@
 #include "exporter.h"
 #include "fresh_folder.h"
 #include "move_into_place.h"
+#include "one_line.h"
 #include "page_checks.h"
 #include "progress_line.h"
 #include "unknown_book.h"
@@ -29,6 +32,11 @@ namespace fs = std::filesystem;
 // The path as the caller of the client can use it.
 std::string shown(const ExportRequest& request, const std::string& path) {
     return (fs::path(request.deviceFolder) / path).string();
+}
+
+// Programs get every byte; a terminal would obey some of them.
+std::string printable(const std::string& path) {
+    return isatty(STDOUT_FILENO) == 1 ? oneLine(path) : path;
 }
 
 using Timestamps = std::unordered_map<long long, std::time_t>;
@@ -141,7 +149,7 @@ Exported exported(const ExportRequest& request) {
 void exportNotes(const ExportRequest& request) {
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write
     const Exported result = exported(request);
-    std::cout << result.path << '\n';
+    std::cout << printable(result.path) << '\n';
     if (!result.unrecorded.empty()) {
         throw Complaint("The page carries no records that an import could read: " +
                         result.unrecorded + '.');
@@ -150,5 +158,6 @@ void exportNotes(const ExportRequest& request) {
 
 void printName(const ExportRequest& request) {
     complainUnlessKnown(request.hash);
-    std::cout << shown(request, Exporter(request.directory).fileName(request.hash)) << '\n';
+    const std::string path = Exporter(request.directory).fileName(request.hash);
+    std::cout << printable(shown(request, path)) << '\n';
 }

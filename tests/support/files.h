@@ -21,8 +21,8 @@ public:
     ScratchDirectory();
     ~ScratchDirectory();
 
-    // Throws unless `path` leads into the scratch directory, which must still be the working
-    // directory: a test's last look before it writes there.
+    // Throws unless `path` leads into the scratch directory, which must still be the
+    // working directory: a test's last look before it writes there.
     void require(const std::string& path) const;
 
     ScratchDirectory(const ScratchDirectory&) = delete;
