@@ -55,21 +55,21 @@ FreshFolder::~FreshFolder() {
 
 // What fails here makes the folder itself fail, for the same reason.
 void FreshFolder::makeParents(const std::string& parent) {
-    fs::path path;
+    fs::path folder;
     for (const fs::path& part : fs::path(parent)) {
-        path /= part;
-        if (!isFolder(path) && mkdir(path.c_str(), 0777) == 0) {
-            made_.push_back(path.string());
+        folder /= part;
+        if (!isFolder(folder) && mkdir(folder.c_str(), 0777) == 0) {
+            made_.push_back(folder.string());
         }
     }
 }
 
 bool FreshFolder::make(const std::string& parent) {
-    std::string path = parent + "/.notes-export-XXXXXX";
-    if (mkdtemp(path.data()) == nullptr) {
+    std::string name = parent + "/.notes-export-XXXXXX";
+    if (mkdtemp(name.data()) == nullptr) {
         return false;
     }
-    path_ = path;
+    path_ = name;
     return true;
 }
 

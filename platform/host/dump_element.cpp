@@ -221,7 +221,7 @@ void DumpFinder::on(void* self, Event event) {
 xmlSAXHandler DumpFinder::handlers() {
     xmlSAXHandler sax = {};
     sax.internalSubset = [](void* self, const xmlChar*, const xmlChar*, const xmlChar*) {
-        on(self, [](DumpFinder& finder) { finder.refuseInternalSubset(); });
+        on(self, [](const DumpFinder& finder) { finder.refuseInternalSubset(); });
     };
     sax.startElement = [](void* self, const xmlChar* name, const xmlChar** attributes) {
         on(self, [&](DumpFinder& finder) { finder.start(name, attributes); });

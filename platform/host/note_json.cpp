@@ -66,12 +66,10 @@ public:
 
 private:
     Json::Value& place(Json::Value value) {
-        if (open_.empty()) {
-            return root_ = std::move(value);
-        }
-        Json::Value& parent = *open_.back();
-        return parent.isArray() ? parent.append(std::move(value))
-                                : parent[key_] = std::move(value);
+        Json::Value& target = open_.empty()             ? root_
+                              : open_.back()->isArray() ? open_.back()->append({})
+                                                        : (*open_.back())[key_];
+        return target = std::move(value);
     }
     bool add(Json::Value value) {
         place(std::move(value));

@@ -53,10 +53,10 @@ LoadResult ReaderStore::load(const std::vector<BookRecord>& books) {
 void ReaderStore::loadBook(const BookRecord& book, LoadResult& result) {
     const std::int64_t bookId = mergeBook(book);
     connection_->query(kSetTitleAndPath, book.fastHash, book.title, book.path).run();
-    for (const NoteRecord& note : book.notes) {
-        result.changed += mergeNote(bookId, note) ? 1 : 0;
-        if (differs(bookId, note)) {
-            result.kept.push_back({book.fastHash, book.title, note.uuid});
+    for (const NoteRecord& incoming : book.notes) {
+        result.changed += mergeNote(bookId, incoming) ? 1 : 0;
+        if (differs(bookId, incoming)) {
+            result.kept.push_back({book.fastHash, book.title, incoming.uuid});
         }
     }
 }
