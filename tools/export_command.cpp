@@ -147,7 +147,8 @@ Exported exported(const ExportRequest& request) {
 }  // namespace
 
 void exportNotes(const ExportRequest& request) {
-    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write
+    static_cast<void>(
+        std::signal(SIGXFSZ, SIG_IGN));  // a file at its size limit is a failed write
     const Exported result = exported(request);
     std::cout << printable(result.path) << '\n';
     if (!result.unrecorded.empty()) {

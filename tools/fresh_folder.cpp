@@ -38,7 +38,7 @@ FreshFolder::FreshFolder(const std::string& parent) {
     }
     if (!done) {
         const std::string why = cause(errno);
-        remove();
+        FreshFolder::remove();
         throw Complaint("Cannot write into the folder " + parent + ": " + why + '.');
     }
     removeOnSignal(this);
@@ -50,7 +50,7 @@ FreshFolder::~FreshFolder() {
     // The library may have chosen another name: a book's title can change meanwhile.
     std::error_code failure;
     fs::remove_all(path_, failure);
-    remove();
+    FreshFolder::remove();
 }
 
 // What fails here makes the folder itself fail, for the same reason.

@@ -22,7 +22,8 @@ extern "C" void removeLeftover(int signal) {
     if (const Leftover* leftover = registered) {
         leftover->remove();
     }
-    raise(signal);  // with its default action again, once this handler has returned
+    static_cast<void>(
+        raise(signal));  // with its default action again, once this handler has returned
 }
 
 void handle(int signal) {
