@@ -26,7 +26,8 @@ GzipWriter::~GzipWriter() { deflateEnd(&stream_); }
 
 void GzipWriter::compress(int flush) {
     if (stream_.total_in + used_ > limit_) {
-        throw std::runtime_error("the dump exceeds its largest size");
+        throw std::runtime_error("the dump would hold more than " + std::to_string(limit_) +
+                                 " bytes of JSON");
     }
     stream_.next_in = reinterpret_cast<Bytef*>(input_.get());
     stream_.avail_in = static_cast<uInt>(used_);

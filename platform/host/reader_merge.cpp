@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <stdexcept>
 
 #include "connection.h"
 #include "reader_store.h"
@@ -25,6 +26,16 @@ constexpr const char* kSetTitleAndPath =
 constexpr const char* kFindOtherTag =
     "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
 
+void checkSize(const NoteRecord& note, const TagRecord& tag) {
+    const std::size_t size = std::max(tag.text.size(), tag.json ? tag.json->size() : 0);
+    if (size > kMaxValueSize) {
+        throw std::runtime_error("tag " + std::to_string(tag.tag) + " of the note " +
+                                 note.uuid + " has " + std::to_string(size) +
+                                 " bytes; a database takes at most " +
+                                 std::to_string(kMaxValueSize));
+    }
+}
+
 }  // namespace
 
 int ReaderStore::merge(const std::vector<BookRecord>& books) {
@@ -33,7 +44,7 @@ int ReaderStore::merge(const std::vector<BookRecord>& books) {
         for (const BookRecord& book : books) {
             const std::int64_t bookId = mergeBook(book);
             for (const NoteRecord& note : book.notes) {
-                merged += mergeNote(bookId, note) ? 1 : 0;
+                merged += mergeNote(bookId, note).changed ? 1 : 0;
             }
         }
     });
@@ -54,8 +65,9 @@ void ReaderStore::loadBook(const BookRecord& book, LoadResult& result) {
     const std::int64_t bookId = mergeBook(book);
     connection_->query(kSetTitleAndPath, book.fastHash, book.title, book.path).run();
     for (const NoteRecord& incoming : book.notes) {
-        result.changed += mergeNote(bookId, incoming) ? 1 : 0;
-        if (differs(bookId, incoming)) {
+        const Merged merged = mergeNote(bookId, incoming);
+        result.changed += merged.changed ? 1 : 0;
+        if (!merged.complete && differs(bookId, incoming)) {
             result.kept.push_back({book.fastHash, book.title, incoming.uuid});
         }
     }
@@ -66,14 +78,16 @@ std::int64_t ReaderStore::mergeBook(const BookRecord& book) {
     return findBook(book.fastHash).value().id;
 }
 
-bool ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord& note) {
-    bool changed = connection_->query(kInsertNote, bookId, note.uuid).run() > 0;
+ReaderStore::Merged ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord& note) {
+    const bool isNew = connection_->query(kInsertNote, bookId, note.uuid).run() > 0;
     const std::int64_t noteId =
-        changed ? connection_->lastInsertedId() : findNote(bookId, note.uuid);
+        isNew ? connection_->lastInsertedId() : findNote(bookId, note.uuid);
+    std::size_t taken = 0;
     for (const TagRecord& tag : note.tags) {
-        changed = mergeTag(noteId, tag) || changed;
+        checkSize(note, tag);
+        taken += mergeTag(noteId, tag) ? 1 : 0;
     }
-    return changed;
+    return {isNew || taken > 0, taken == note.tags.size()};
 }
 
 std::int64_t ReaderStore::findNote(std::int64_t bookId, const std::string& uuid) {

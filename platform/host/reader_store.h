@@ -87,7 +87,11 @@ public:
 private:
     std::int64_t mergeBook(const BookRecord& book);
     void loadBook(const BookRecord& book, LoadResult& result);
-    bool mergeNote(std::int64_t bookId, const NoteRecord& note);
+    struct Merged {
+        bool changed;   // the note, in any way
+        bool complete;  // every tag was taken over
+    };
+    Merged mergeNote(std::int64_t bookId, const NoteRecord& note);
     std::int64_t findNote(std::int64_t bookId, const std::string& uuid);
     bool mergeTag(std::int64_t noteId, const TagRecord& tag);
     bool differs(std::int64_t bookId, const NoteRecord& note);
