@@ -5,12 +5,12 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "device_paths.h"
-#include "library_store.h"
-#include "note_tags.h"
 #include "notes_export/notes_export.h"
-#include "reader_store.h"
 #include "sample_notes.h"
+#include "store/device_paths.h"
+#include "store/library_store.h"
+#include "store/note_tags.h"
+#include "store/reader_store.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "records.h"
+#include "store/records.h"
 
 // Books of which each note has a text, a position and, every second one, a comment.
 host::BookRecord bookOfNotes(std::size_t notes);

@@ -4,12 +4,12 @@
 
 #include <filesystem>
 
-#include "base64.h"
 #include "device.h"
 #include "document.h"
 #include "floors.h"
 #include "job.h"
 #include "sample_notes.h"
+#include "text/base64.h"
 
 namespace {
 

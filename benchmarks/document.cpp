@@ -6,7 +6,7 @@
 #include <sstream>
 #include <vector>
 
-#include "base64.h"
+#include "text/base64.h"
 
 std::string contentOf(const char* path) {
     std::ostringstream content;

@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "device_paths.h"
-#include "reader_store.h"
+#include "store/device_paths.h"
+#include "store/reader_store.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The least that exporting and importing can do, on the stand-in's databases.
 #pragma once
 
-#include "records.h"
+#include "store/records.h"
 
 // Reads every row of the reader database twice, as an export must, which writes the dump
 // first and then one note after the other: with one lock of the database for all.

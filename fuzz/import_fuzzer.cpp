@@ -4,10 +4,10 @@
 #include <optional>
 #include <tuple>
 
-#include "dump_reader.h"
+#include "database_state.h"
+#include "dump/import_result.h"
+#include "dump/reader.h"
 #include "fuzz_target.h"
-#include "import_result.h"
-#include "reader_database_state.h"
 #include "readerlib/import_export_db.h"
 #include "records.h"
 

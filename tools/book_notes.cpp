@@ -1,9 +1,9 @@
 #include "book_notes.h"
 
-#include "book_hash.h"
 #include "complaint.h"
 #include "one_line.h"
 #include "readerlib/position_uri.h"
+#include "store/book_hash.h"
 #include "unknown_book.h"
 #include "utilities/reader_db_manager.h"
 

@@ -7,11 +7,11 @@
 #include <memory>
 #include <string_view>
 
-#include "book_hash.h"
 #include "complaint.h"
 #include "device_note.h"
 #include "files.h"
 #include "json_object.h"
+#include "store/book_hash.h"
 #include "utilities/serialization_utils.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "library_store.h"
-#include "records.h"
+#include "store/library_store.h"
+#include "store/records.h"
 
 struct DeviceFile {
     std::optional<std::string> styleSheet;  // text; nothing when the file names none

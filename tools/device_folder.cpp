@@ -7,8 +7,8 @@
 #include <system_error>
 
 #include "complaint.h"
-#include "device_paths.h"
 #include "files.h"
+#include "store/device_paths.h"
 
 namespace fs = std::filesystem;
 

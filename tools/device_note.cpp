@@ -6,7 +6,7 @@
 
 #include "decimal.h"
 #include "json_object.h"
-#include "note_tags.h"
+#include "store/note_tags.h"
 
 namespace {
 

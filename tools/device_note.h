@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "records.h"
+#include "store/records.h"
 
 // Reads the note that stands at `place`, and the picture that it names, which is found
 // relative to `folder`. What is wrong with it is a Complaint.

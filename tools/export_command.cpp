@@ -10,13 +10,13 @@
 #include "book_notes.h"
 #include "commands.h"
 #include "complaint.h"
-#include "device_paths.h"
 #include "exporter.h"
 #include "fresh_folder.h"
 #include "move_into_place.h"
 #include "one_line.h"
 #include "page_checks.h"
 #include "progress_line.h"
+#include "store/device_paths.h"
 #include "unknown_book.h"
 
 namespace {

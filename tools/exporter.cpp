@@ -1,6 +1,6 @@
 #include "exporter.h"
 
-#include "device_paths.h"
+#include "store/device_paths.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "complaint.h"
-#include "input_file.h"
-#include "records.h"
+#include "files/input_file.h"
+#include "store/records.h"
 
 namespace fs = std::filesystem;
 

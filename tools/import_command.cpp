@@ -3,13 +3,13 @@
 #include "commands.h"
 #include "complaint.h"
 #include "device_folder.h"
-#include "device_paths.h"
-#include "dump_reader.h"
+#include "dump/import_result.h"
+#include "dump/reader.h"
 #include "exporter.h"
-#include "import_result.h"
-#include "input_file.h"
+#include "files/input_file.h"
 #include "progress_line.h"
-#include "reader_store.h"
+#include "store/device_paths.h"
+#include "store/reader_store.h"
 
 namespace {
 

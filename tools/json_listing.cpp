@@ -5,9 +5,9 @@
 
 #include "book_notes.h"
 #include "decimal.h"
-#include "json_sax.h"
+#include "dump/json_sax.h"
 #include "listing.h"
-#include "valid_utf8.h"
+#include "text/utf8.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ rapidjson::SizeType length(const std::string& text) {
 }
 
 void writeText(Writer& json, const char* name, const std::string& text) {
-    const std::string valid = validUtf8(text);
+    const std::string valid = host::validUtf8(text);
     json.Key(name);
     json.String(valid.data(), length(valid));
 }

@@ -1,10 +1,10 @@
-#include "book_hash.h"
 #include "book_notes.h"
 #include "commands.h"
-#include "device_paths.h"
-#include "library_store.h"
 #include "listing.h"
-#include "reader_store.h"
+#include "store/book_hash.h"
+#include "store/device_paths.h"
+#include "store/library_store.h"
+#include "store/reader_store.h"
 #include "utilities/serialization_utils.h"
 
 namespace {

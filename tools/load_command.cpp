@@ -5,12 +5,12 @@
 #include "complaint.h"
 #include "device_file.h"
 #include "device_folder.h"
-#include "device_paths.h"
 #include "files.h"
-#include "library_store.h"
 #include "one_line.h"
 #include "progress_line.h"
-#include "reader_store.h"
+#include "store/device_paths.h"
+#include "store/library_store.h"
+#include "store/reader_store.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "reader_store.h"
+#include "store/reader_store.h"
 
 // All below take letters of the English alphabet as equal in either case.
 

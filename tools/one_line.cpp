@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-#include "valid_utf8.h"
+#include "text/utf8.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ bool isSeparatorOrDirection(unsigned code) {
 }  // namespace
 
 std::string oneLine(const std::string& text) {
-    const std::string valid = validUtf8(text);
+    const std::string valid = host::validUtf8(text);
     rapidjson::MemoryStream characters(valid.data(), valid.size());
     std::string line;
     while (characters.Tell() < valid.size()) {

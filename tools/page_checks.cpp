@@ -11,11 +11,11 @@
 
 #include "cause.h"
 #include "complaint.h"
-#include "device_paths.h"
-#include "dump_reader.h"
-#include "dump_writer.h"
-#include "import_result.h"
-#include "payload.h"
+#include "dump/import_result.h"
+#include "dump/payload.h"
+#include "dump/reader.h"
+#include "dump/writer.h"
+#include "store/device_paths.h"
 
 namespace {
 

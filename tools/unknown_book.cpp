@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "complaint.h"
-#include "device_paths.h"
 #include "nearest_books.h"
 #include "one_line.h"
-#include "reader_store.h"
+#include "store/device_paths.h"
+#include "store/reader_store.h"
 
 namespace {
 

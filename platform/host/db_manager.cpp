@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
-#include "device_paths.h"
-#include "library_store.h"
+#include "store/device_paths.h"
+#include "store/library_store.h"
 
 namespace veloran::db {
 namespace {

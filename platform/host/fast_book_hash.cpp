@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "input_file.h"
+#include "files/input_file.h"
 
 namespace {
 

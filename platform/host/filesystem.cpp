@@ -3,8 +3,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "oa_buildpath.h"
-
 namespace veloran::system::filesystem {
 
 bool IsFileExist(const std::string& path) {
@@ -22,13 +20,3 @@ std::string GetFileNameFromPath(const std::string& path) {
 }
 
 }  // namespace veloran::system::filesystem
-
-int oa_buildpath(const char* path) {
-    const auto directory = std::filesystem::path(path).parent_path();
-    if (directory.empty()) {
-        return 0;
-    }
-    std::error_code failure;
-    std::filesystem::create_directories(directory, failure);
-    return std::filesystem::is_directory(directory, failure) ? 0 : -1;
-}

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <limits>
 
-#include "device_paths.h"
-#include "note_json.h"
-#include "note_tags.h"
-#include "reader_store.h"
+#include "dump/note_json.h"
+#include "store/device_paths.h"
+#include "store/note_tags.h"
+#include "store/reader_store.h"
 
 namespace veloran::utilities {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "base64.h"
+#include "text/base64.h"
 
 namespace veloran::utilities {
 

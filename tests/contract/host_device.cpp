@@ -1,10 +1,10 @@
 #include <sstream>
 
 #include "contract_device.h"
-#include "device_paths.h"
-#include "library_store.h"
-#include "note_tags.h"
-#include "reader_store.h"
+#include "store/device_paths.h"
+#include "store/library_store.h"
+#include "store/note_tags.h"
+#include "store/reader_store.h"
 #include "utilities/serialization_utils.h"
 
 // Databases come into being where they are looked for.

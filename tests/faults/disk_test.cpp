@@ -6,9 +6,9 @@
 #include <cerrno>
 #include <csignal>
 
-#include "connection.h"
-#include "import_result.h"
+#include "dump/import_result.h"
 #include "incoming_notes.h"
+#include "store/connection.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <random>
 
-#include "dump_format.h"
-#include "dump_reader.h"
-#include "import_result.h"
+#include "dump/format.h"
+#include "dump/import_result.h"
+#include "dump/reader.h"
 #include "on_empty_device.h"
 #include "records.h"
 

@@ -4,10 +4,10 @@
 #include <optional>
 #include <string>
 
-#include "base64.h"
-#include "note_json.h"
+#include "dump/note_json.h"
 #include "readerlib/position_uri.h"
-#include "utf8.h"
+#include "text/base64.h"
+#include "text/utf8.h"
 #include "utilities/note.h"
 
 TEST(PositionUri, NamesThePageInItsQuery) {

@@ -10,12 +10,12 @@
 #include <locale>
 #include <tuple>
 
-#include "connection.h"
-#include "dump_reader.h"
+#include "dump/import_result.h"
+#include "dump/reader.h"
 #include "fast_book_hash.h"
-#include "import_result.h"
 #include "on_empty_device.h"
 #include "records.h"
+#include "store/connection.h"
 #include "utilities/reader_db_manager.h"
 #include "utilities/serialization_utils.h"
 

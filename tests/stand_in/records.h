@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "device_paths.h"
-#include "dump_format.h"
+#include "dump/format.h"
+#include "dump/gzip_writer.h"
 #include "engine.h"
 #include "files.h"
-#include "gzip_writer.h"
-#include "note_tags.h"
-#include "reader_store.h"
+#include "store/device_paths.h"
+#include "store/note_tags.h"
+#include "store/reader_store.h"
 
 // Everything in the records as text, so that a difference shows.
 inline std::string show(const std::vector<host::BookRecord>& books) {

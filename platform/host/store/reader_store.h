@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "records.h"
+#include "store/records.h"
 
 namespace host {
 

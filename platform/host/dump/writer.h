@@ -4,11 +4,11 @@
 #include <set>
 #include <string>
 
-#include "reader_store.h"
+#include "store/reader_store.h"
 
 namespace host {
 
-// Appends to `out` the dump (dump_format.h) of the books with the identifiers `books`, with
+// Appends to `out` the dump (format.h) of the books with the identifiers `books`, with
 // those of their notes that `notes` names, or all when it is empty. Identifiers of nothing
 // are ignored. Only one note at a time is held in memory. The same records give the same
 // bytes, whatever the row identifiers are. Returns false when there is none of the books.

@@ -1,4 +1,4 @@
-#include "dump_handler.h"
+#include "dump/handler.h"
 
 #include <algorithm>
 #include <iterator>
@@ -6,10 +6,10 @@
 #include <optional>
 #include <utility>
 
-#include "base64.h"
-#include "book_hash.h"
-#include "dump_format.h"
-#include "utf8.h"
+#include "dump/format.h"
+#include "store/book_hash.h"
+#include "text/base64.h"
+#include "text/utf8.h"
 
 namespace host {
 

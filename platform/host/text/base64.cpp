@@ -1,4 +1,4 @@
-#include "base64.h"
+#include "text/base64.h"
 
 #include <openssl/evp.h>
 

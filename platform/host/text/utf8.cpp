@@ -1,4 +1,4 @@
-#include "utf8.h"
+#include "text/utf8.h"
 
 #include <rapidjson/encodings.h>
 #include <rapidjson/memorystream.h>
@@ -6,9 +6,15 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace host {
 namespace {
+
+struct Appender {
+    void Put(char byte) { text += byte; }
+    std::string text;
+};
 
 struct Nowhere {
     void Put(char /*c*/) {}
@@ -40,6 +46,21 @@ bool isUtf8(std::string_view bytes) {
         bytes.remove_prefix(length);
     }
     return true;
+}
+
+std::string validUtf8(const std::string& text) {
+    rapidjson::MemoryStream bytes(text.data(), text.size());
+    Appender valid;
+    while (bytes.Tell() < text.size()) {
+        const std::size_t start = bytes.Tell();
+        const std::size_t kept = valid.text.size();
+        if (!rapidjson::UTF8<>::Validate(bytes, valid)) {
+            valid.text.resize(kept);
+            valid.text += "\uFFFD";
+            bytes.src_ = bytes.begin_ + start + 1;
+        }
+    }
+    return std::move(valid.text);
 }
 
 }  // namespace host

@@ -1,9 +1,9 @@
-#include "reader_store.h"
+#include "store/reader_store.h"
 
 #include <stdexcept>
 
-#include "connection.h"
-#include "note_tags.h"
+#include "store/connection.h"
+#include "store/note_tags.h"
 
 namespace host {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "payload.h"
+#include "dump/payload.h"
 
 namespace host {
 

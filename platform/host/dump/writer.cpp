@@ -1,4 +1,4 @@
-#include "dump_writer.h"
+#include "dump/writer.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,12 +6,12 @@
 #include <stdexcept>
 #include <vector>
 
-#include "base64.h"
-#include "dump_format.h"
-#include "gzip_writer.h"
-#include "json_sax.h"
-#include "note_json.h"
-#include "utf8.h"
+#include "dump/format.h"
+#include "dump/gzip_writer.h"
+#include "dump/json_sax.h"
+#include "dump/note_json.h"
+#include "text/base64.h"
+#include "text/utf8.h"
 
 namespace host {
 namespace {

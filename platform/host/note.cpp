@@ -1,6 +1,6 @@
 // What a note's tags say, member by member.
-#include "note_tags.h"
 #include "utilities/note.h"
+#include "store/note_tags.h"
 
 namespace veloran::utilities {
 namespace {

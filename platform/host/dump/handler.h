@@ -9,13 +9,13 @@
 #include <string_view>
 #include <vector>
 
-#include "import_result.h"
-#include "note_json.h"
-#include "records.h"
+#include "dump/import_result.h"
+#include "dump/note_json.h"
+#include "store/records.h"
 
 namespace host {
 
-// A handler for RapidJSON, hence the capitals. It accepts what dump_format.h describes and
+// A handler for RapidJSON, hence the capitals. It accepts what format.h describes and
 // nothing else: the first key, value or bracket out of place is refused, which ends the
 // parsing. So neither depth nor size of foreign JSON costs anything.
 class DumpHandler {

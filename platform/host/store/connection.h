@@ -13,7 +13,7 @@
 #include <optional>
 #include <string>
 
-#include "file_identity.h"
+#include "files/file_identity.h"
 
 namespace host {
 

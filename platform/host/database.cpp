@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "reader_database_state.h"
+#include "database_state.h"
 
 namespace SqliteCpp {
 

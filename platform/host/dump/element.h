@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "payload.h"
+#include "dump/payload.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "gzip_writer.h"
+#include "dump/gzip_writer.h"
 
 #include <new>
 #include <stdexcept>

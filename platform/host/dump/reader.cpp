@@ -1,13 +1,13 @@
-#include "dump_reader.h"
+#include "dump/reader.h"
 
 #include <utility>
 
-#include "dump_element.h"
-#include "dump_format.h"
-#include "dump_handler.h"
-#include "gunzip_stream.h"
-#include "import_result.h"
-#include "json_sax.h"
+#include "dump/element.h"
+#include "dump/format.h"
+#include "dump/gunzip_stream.h"
+#include "dump/handler.h"
+#include "dump/import_result.h"
+#include "dump/json_sax.h"
 
 namespace host {
 

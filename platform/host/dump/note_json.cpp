@@ -1,4 +1,4 @@
-#include "note_json.h"
+#include "dump/note_json.h"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "json_sax.h"
-#include "utf8.h"
+#include "dump/json_sax.h"
+#include "text/utf8.h"
 
 namespace host {
 namespace {

@@ -1,4 +1,4 @@
-#include "dump_element.h"
+#include "dump/element.h"
 
 #include <libxml/parser.h>
 
@@ -9,10 +9,10 @@
 #include <new>
 #include <string_view>
 
-#include "base64.h"
-#include "dump_format.h"
-#include "import_result.h"
-#include "input_file.h"
+#include "dump/format.h"
+#include "dump/import_result.h"
+#include "files/input_file.h"
+#include "text/base64.h"
 
 namespace host {
 namespace {

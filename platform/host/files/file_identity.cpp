@@ -1,4 +1,4 @@
-#include "file_identity.h"
+#include "files/file_identity.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,6 +1,6 @@
-#include "library_store.h"
+#include "store/library_store.h"
 
-#include "connection.h"
+#include "store/connection.h"
 
 namespace host {
 namespace {

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "reader_store.h"
 #include "readerlib/database.h"
+#include "store/reader_store.h"
 
 struct SqliteCpp::DB::State {
     // The database that is under the path now. Tries again to open one that could not be

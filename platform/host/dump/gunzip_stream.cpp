@@ -1,9 +1,9 @@
-#include "gunzip_stream.h"
+#include "dump/gunzip_stream.h"
 
 #include <new>
 #include <utility>
 
-#include "import_result.h"
+#include "dump/import_result.h"
 
 namespace host {
 namespace {

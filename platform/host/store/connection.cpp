@@ -1,4 +1,4 @@
-#include "connection.h"
+#include "store/connection.h"
 
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
@@ -7,7 +7,7 @@
 #include <new>
 #include <stdexcept>
 
-#include "records.h"
+#include "store/records.h"
 
 namespace host {
 namespace {

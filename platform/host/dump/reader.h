@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "payload.h"
-#include "records.h"
+#include "dump/payload.h"
+#include "store/records.h"
 
 namespace host {
 
-// The records of the dump (dump_format.h) in the document at `path`, complete and checked.
+// The records of the dump (format.h) in the document at `path`, complete and checked.
 // Throws DumpError, with what the import is to answer.
 std::vector<BookRecord> readDump(const std::string& path);
 

@@ -1,9 +1,13 @@
 #include "readerlib/import_export_db.h"
 
+#include <exception>
+#include <new>
 #include <stdexcept>
 
-#include "dump_writer.h"
-#include "reader_database_state.h"
+#include "database_state.h"
+#include "dump/import_result.h"
+#include "dump/reader.h"
+#include "dump/writer.h"
 
 namespace Veloran::ReaderLib {
 
@@ -23,6 +27,22 @@ bool ImportExportDBV2::books_export(std::string& out,
         return host::writeDump(database_->state->current(), books, exportBookmarkIds_, out);
     } catch (const std::runtime_error&) {
         return false;
+    }
+}
+
+int ImportExportDBV2::books_import(const std::string& path) {
+    if (database_->state == nullptr) {
+        return host::kDatabaseError;
+    }
+    try {
+        host::ReaderStore& store = database_->state->current();
+        return store.merge(host::readDump(path));
+    } catch (const host::DumpError& error) {
+        return error.result;
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception&) {
+        return host::kDatabaseError;
     }
 }
 

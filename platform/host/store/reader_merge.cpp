@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "connection.h"
-#include "reader_store.h"
+#include "store/connection.h"
+#include "store/reader_store.h"
 
 namespace host {
 namespace {
