@@ -1,10 +1,10 @@
-#include "json_object.h"
+#include "sources/json_object.h"
 
 #include <utility>
 
-#include "complaint.h"
-#include "files.h"
-#include "one_line.h"
+#include "device/files.h"
+#include "terminal/complaint.h"
+#include "terminal/one_line.h"
 
 JsonObject::JsonObject(const Json::Value& value, std::string place)
     : value_(value), place_(std::move(place)) {

@@ -1,4 +1,4 @@
-#include "progress_line.h"
+#include "terminal/progress_line.h"
 
 #include <unistd.h>
 
@@ -7,8 +7,8 @@
 #include <system_error>
 #include <utility>
 
-#include "interruption.h"
-#include "terminal.h"
+#include "terminal/interruption.h"
+#include "terminal/terminal.h"
 
 ProgressLine::ProgressLine(std::string what) : what_(std::move(what)) {
     if (!isTerminal(STDERR_FILENO)) {

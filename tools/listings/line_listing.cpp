@@ -1,10 +1,10 @@
 #include <iostream>
 
-#include "book_notes.h"
-#include "decimal.h"
-#include "listing.h"
-#include "one_line.h"
-#include "terminal.h"
+#include "device/book_notes.h"
+#include "device/decimal.h"
+#include "listings/listing.h"
+#include "terminal/one_line.h"
+#include "terminal/terminal.h"
 
 void printLines(const Books& books) {
     for (const ListedBook& book : books) {

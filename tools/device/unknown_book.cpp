@@ -1,14 +1,14 @@
-#include "unknown_book.h"
+#include "device/unknown_book.h"
 
 #include <algorithm>
 #include <iterator>
 #include <vector>
 
-#include "complaint.h"
-#include "nearest_books.h"
-#include "one_line.h"
+#include "device/nearest_books.h"
 #include "store/device_paths.h"
 #include "store/reader_store.h"
+#include "terminal/complaint.h"
+#include "terminal/one_line.h"
 
 namespace {
 

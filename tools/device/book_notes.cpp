@@ -1,10 +1,10 @@
-#include "book_notes.h"
+#include "device/book_notes.h"
 
-#include "complaint.h"
-#include "one_line.h"
+#include "device/unknown_book.h"
 #include "readerlib/position_uri.h"
 #include "store/book_hash.h"
-#include "unknown_book.h"
+#include "terminal/complaint.h"
+#include "terminal/one_line.h"
 #include "utilities/reader_db_manager.h"
 
 namespace {

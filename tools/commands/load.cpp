@@ -1,16 +1,16 @@
 #include <algorithm>
 #include <iostream>
 
-#include "commands.h"
-#include "complaint.h"
-#include "device_file.h"
-#include "device_folder.h"
-#include "files.h"
-#include "one_line.h"
-#include "progress_line.h"
+#include "commands/commands.h"
+#include "device/device_folder.h"
+#include "device/files.h"
+#include "sources/device_file.h"
 #include "store/device_paths.h"
 #include "store/library_store.h"
 #include "store/reader_store.h"
+#include "terminal/complaint.h"
+#include "terminal/one_line.h"
+#include "terminal/progress_line.h"
 
 namespace {
 

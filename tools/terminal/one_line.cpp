@@ -1,4 +1,4 @@
-#include "one_line.h"
+#include "terminal/one_line.h"
 
 #include <rapidjson/encodings.h>
 #include <rapidjson/memorystream.h>

@@ -7,17 +7,17 @@
 #include <system_error>
 #include <unordered_map>
 
-#include "book_notes.h"
-#include "commands.h"
-#include "complaint.h"
-#include "exporter.h"
-#include "fresh_folder.h"
-#include "move_into_place.h"
-#include "one_line.h"
-#include "page_checks.h"
-#include "progress_line.h"
+#include "commands/commands.h"
+#include "device/book_notes.h"
+#include "device/exporter.h"
+#include "device/unknown_book.h"
+#include "page/fresh_folder.h"
+#include "page/move_into_place.h"
+#include "page/page_checks.h"
 #include "store/device_paths.h"
-#include "unknown_book.h"
+#include "terminal/complaint.h"
+#include "terminal/one_line.h"
+#include "terminal/progress_line.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "device_note.h"
+#include "sources/device_note.h"
 
 #include <json/writer.h>
 
 #include <utility>
 
-#include "decimal.h"
-#include "json_object.h"
+#include "device/decimal.h"
+#include "sources/json_object.h"
 #include "store/note_tags.h"
 
 namespace {

@@ -1,12 +1,12 @@
-#include "command_line.h"
+#include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
 #include <functional>
 
-#include "commands.h"
-#include "device_folder.h"
-#include "examples.h"
-#include "misuse.h"
+#include "cli/examples.h"
+#include "cli/misuse.h"
+#include "commands/commands.h"
+#include "device/device_folder.h"
 
 namespace {
 

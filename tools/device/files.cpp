@@ -1,4 +1,4 @@
-#include "files.h"
+#include "device/files.h"
 
 #include <cerrno>
 #include <cstdint>
@@ -7,9 +7,9 @@
 #include <system_error>
 #include <vector>
 
-#include "complaint.h"
 #include "files/input_file.h"
 #include "store/records.h"
+#include "terminal/complaint.h"
 
 namespace fs = std::filesystem;
 

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <iostream>
 
-#include "book_notes.h"
-#include "decimal.h"
+#include "device/book_notes.h"
+#include "device/decimal.h"
 #include "dump/json_sax.h"
-#include "listing.h"
+#include "listings/listing.h"
 #include "text/utf8.h"
 
 namespace {

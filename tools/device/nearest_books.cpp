@@ -1,4 +1,4 @@
-#include "nearest_books.h"
+#include "device/nearest_books.h"
 
 #include <algorithm>
 #include <string_view>

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "interruption.h"
+#include "terminal/interruption.h"
 
 // A new folder within another one, on the same file system. Its destructor, and a signal
 // that ends the program, remove it with its file, and those folders around it that were

@@ -1,11 +1,11 @@
-#include "complaint.h"
+#include "terminal/complaint.h"
 
 #include <unistd.h>
 
 #include <sstream>
 
-#include "one_line.h"
-#include "terminal.h"
+#include "terminal/one_line.h"
+#include "terminal/terminal.h"
 
 void complain(const std::string& what, std::error_code why) {
     throw Complaint(what + ": " + why.message());

@@ -1,4 +1,4 @@
-#include "fresh_folder.h"
+#include "page/fresh_folder.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <system_error>
 
-#include "cause.h"
-#include "complaint.h"
+#include "page/cause.h"
+#include "terminal/complaint.h"
 
 namespace fs = std::filesystem;
 

@@ -1,15 +1,15 @@
 #include <iostream>
 
-#include "commands.h"
-#include "complaint.h"
-#include "device_folder.h"
+#include "commands/commands.h"
+#include "device/device_folder.h"
+#include "device/exporter.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
-#include "exporter.h"
 #include "files/input_file.h"
-#include "progress_line.h"
 #include "store/device_paths.h"
 #include "store/reader_store.h"
+#include "terminal/complaint.h"
+#include "terminal/progress_line.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "cause.h"
+#include "page/cause.h"
 
 #include <unistd.h>
 

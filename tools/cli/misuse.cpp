@@ -1,9 +1,9 @@
-#include "misuse.h"
+#include "cli/misuse.h"
 
 #include <charconv>
 
-#include "complaint.h"
-#include "one_line.h"
+#include "terminal/complaint.h"
+#include "terminal/one_line.h"
 
 std::string isIdentifier(const std::string& text) {
     unsigned long long id = 0;

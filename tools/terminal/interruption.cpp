@@ -1,4 +1,4 @@
-#include "interruption.h"
+#include "terminal/interruption.h"
 
 #include <atomic>
 

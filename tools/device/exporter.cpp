@@ -1,4 +1,4 @@
-#include "exporter.h"
+#include "device/exporter.h"
 
 #include "store/device_paths.h"
 

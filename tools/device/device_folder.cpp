@@ -1,4 +1,4 @@
-#include "device_folder.h"
+#include "device/device_folder.h"
 
 #include <unistd.h>
 
@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <system_error>
 
-#include "complaint.h"
-#include "files.h"
+#include "device/files.h"
 #include "store/device_paths.h"
+#include "terminal/complaint.h"
 
 namespace fs = std::filesystem;
 

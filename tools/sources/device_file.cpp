@@ -1,4 +1,4 @@
-#include "device_file.h"
+#include "sources/device_file.h"
 
 #include <json/reader.h>
 
@@ -7,11 +7,11 @@
 #include <memory>
 #include <string_view>
 
-#include "complaint.h"
-#include "device_note.h"
-#include "files.h"
-#include "json_object.h"
+#include "device/files.h"
+#include "sources/device_note.h"
+#include "sources/json_object.h"
 #include "store/book_hash.h"
+#include "terminal/complaint.h"
 #include "utilities/serialization_utils.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "page_checks.h"
+#include "page/page_checks.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -9,13 +9,13 @@
 #include <stdexcept>
 #include <vector>
 
-#include "cause.h"
-#include "complaint.h"
 #include "dump/import_result.h"
 #include "dump/payload.h"
 #include "dump/reader.h"
 #include "dump/writer.h"
+#include "page/cause.h"
 #include "store/device_paths.h"
+#include "terminal/complaint.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <new>
 #include <system_error>
 
-#include "command_line.h"
-#include "complaint.h"
+#include "cli/command_line.h"
+#include "terminal/complaint.h"
 
 int main(int argc, char** argv) {
     try {

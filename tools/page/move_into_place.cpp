@@ -1,4 +1,4 @@
-#include "move_into_place.h"
+#include "page/move_into_place.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -6,8 +6,8 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "cause.h"
-#include "complaint.h"
+#include "page/cause.h"
+#include "terminal/complaint.h"
 
 namespace {
 
