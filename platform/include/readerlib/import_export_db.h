@@ -48,8 +48,9 @@ public:
 
 private:
     DataBase* database_;
-    unsigned long long limit_;
-    int mode_;
+    // A platform may have no use for them.
+    [[maybe_unused]] unsigned long long limit_;
+    [[maybe_unused]] int mode_;
     std::set<unsigned long long> exportBookIds_;
     std::set<unsigned long long> exportBookmarkIds_;
     std::set<std::string> importedHashes_;
