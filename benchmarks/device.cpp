@@ -7,7 +7,7 @@
 
 #include "notes_export/notes_export.h"
 #include "sample_notes.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/library_store.h"
 #include "store/note_tags.h"
 #include "store/reader_store.h"

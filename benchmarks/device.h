@@ -1,4 +1,5 @@
-// Devices on the stand-in, each in a folder of its own that lasts as long as the process.
+// Devices on the host platform, each in a folder of its own that lasts as long as the
+// process.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// Whole exports and imports on the stand-in, beside what no program can leave out.
+// Whole exports and imports on the host platform, beside what no program can leave out.
 #include <benchmark/benchmark.h>
 #include <openssl/evp.h>
 
@@ -97,20 +97,20 @@ constexpr Job exportNotes = exportBookOf<bookOfNotes>;
 constexpr Job exportComment = exportBookOf<bookOfComment>;
 constexpr Job exportPictures = exportBookOf<bookOfPictures>;
 
-BENCHMARK_CAPTURE(timed, standInExport, exportNotes)->Arg(10000)->UseManualTime();
-BENCHMARK_CAPTURE(timed, standInImport, importNotes)->Arg(10000)->UseManualTime();
-BENCHMARK_CAPTURE(ratio, standInExportToFloorAsAsked, exportNotes,
+BENCHMARK_CAPTURE(timed, hostExport, exportNotes)->Arg(10000)->UseManualTime();
+BENCHMARK_CAPTURE(timed, hostImport, importNotes)->Arg(10000)->UseManualTime();
+BENCHMARK_CAPTURE(ratio, hostExportToFloorAsAsked, exportNotes,
                   exportFloor<readRowsAsAsked>)
     ->Arg(10000);
-BENCHMARK_CAPTURE(ratio, standInExportToFloorInOneGo, exportNotes,
+BENCHMARK_CAPTURE(ratio, hostExportToFloorInOneGo, exportNotes,
                   exportFloor<readRowsInOneGo>)
     ->Arg(10000);
-BENCHMARK_CAPTURE(ratio, standInImportToFloor, importNotes, importFloor)->Arg(10000);
+BENCHMARK_CAPTURE(ratio, hostImportToFloor, importNotes, importFloor)->Arg(10000);
 BENCHMARK_CAPTURE(ratio, base64ToOpenSsl, base64, base64Floor)->Arg(400000);
-BENCHMARK_CAPTURE(growth, standInExportNotes, exportNotes)->Apply(growsTenfold);
-BENCHMARK_CAPTURE(growth, standInImportNotes, importNotes)->Apply(growsTenfold);
-BENCHMARK_CAPTURE(growth, standInExportComment, exportComment)->Args({1000000, 10000000});
-BENCHMARK_CAPTURE(growth, standInExportPictures, exportPictures)->Args({50, 500});
+BENCHMARK_CAPTURE(growth, hostExportNotes, exportNotes)->Apply(growsTenfold);
+BENCHMARK_CAPTURE(growth, hostImportNotes, importNotes)->Apply(growsTenfold);
+BENCHMARK_CAPTURE(growth, hostExportComment, exportComment)->Args({1000000, 10000000});
+BENCHMARK_CAPTURE(growth, hostExportPictures, exportPictures)->Args({50, 500});
 BENCHMARK(createAndFree);
 BENCHMARK(nameFile);
 

@@ -1,4 +1,4 @@
-// Jobs on the stand-in: device_instructions export|import NOTES
+// Jobs on the host platform: device_instructions export|import NOTES
 #include <cstdlib>
 #include <string>
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/reader_store.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The least that exporting and importing can do, on the stand-in's databases.
+// The least that exporting and importing can do, on the host platform's databases.
 #pragma once
 
 #include "store/records.h"

@@ -1,5 +1,5 @@
-// The peak memory of one export on the stand-in as a whole process, what it may be, and
-// that of an import of the document: peak_memory notes|predicate|comment|pictures SIZE
+// The peak memory of one export on the host platform as a whole process, what it may be,
+// and that of an import of the document: peak_memory notes|predicate|comment|pictures SIZE
 #include <malloc.h>
 #include <sys/mman.h>
 #include <sys/resource.h>

@@ -6,8 +6,8 @@
   def row($what; $ratio; $limit): {$what, $ratio, $limit};
   {"ratio/exportToRendering/1000": 1.3, "ratio/exportToFetchingAndRendering/1000": 1.3,
    "ratio/exportToFetchingAndRendering/100000": 1.3, "ratio/dumpElementToItsEncoding/1000000": 2,
-   "ratio/base64ToOpenSsl/400000": 1.25, "ratio/standInExportToFloorAsAsked/10000": 2,
-   "ratio/standInImportToFloor/10000": 2} as $limits
+   "ratio/base64ToOpenSsl/400000": 1.25, "ratio/hostExportToFloorAsAsked/10000": 2,
+   "ratio/hostImportToFloor/10000": 2} as $limits
 | [
   ($limits | keys[] | time(.) | empty),  # each of them was measured
   ({render: "", write: "/writer"} | to_entries[] | .key as $task | .value as $ours

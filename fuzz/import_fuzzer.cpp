@@ -8,8 +8,8 @@
 #include "dump/import_result.h"
 #include "dump/reader.h"
 #include "fuzz_target.h"
+#include "host_records.h"
 #include "readerlib/import_export_db.h"
-#include "records.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 
 #include "canonical_xml.h"
 #include "export/notes_exporter_impl.h"
-#include "files.h"
 #include "fuzz_target.h"
+#include "scratch_files.h"
 #include "script.h"
 #include "utilities/serialization_utils.h"
 

@@ -2,8 +2,8 @@
 // looks whether it goes as its folder says.
 #include <filesystem>
 
-#include "files.h"
 #include "fuzz_target.h"
+#include "scratch_files.h"
 
 int main(int count, char** arguments) {
     fuzz::check(count == 2, "a directory is given");

@@ -17,8 +17,8 @@
  *    handle must not serve two calls at the same time; different handles may serve
  *    different threads. The library takes no lock of its own, but the device's databases
  *    make a call wait while another thread or process writes. How long is the platform's
- *    choice (the stand-in for desktops: at most 5 seconds for each question). Then the call
- *    fails as 7 says, or an export lacks its records as 6 says.
+ *    choice (the host platform, for desktops: at most 5 seconds for each question). Then
+ * the call fails as 7 says, or an export lacks its records as 6 says.
  * 6. What becomes of the exported file is not reported: a full disk, a directory that
  *    cannot be written or a reader database that was busy gives the same result as success.
  *    Whoever must know looks at the file that notes_exporter_get_exported_file_name named

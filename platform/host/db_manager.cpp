@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/library_store.h"
 
 namespace veloran::db {

@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "dump/note_json.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/note_tags.h"
 #include "store/reader_store.h"
 

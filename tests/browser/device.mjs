@@ -1,4 +1,4 @@
-// Loads a device file into a stand-in device, exports its books, and says what each exported
+// Loads a device file into a device of the host platform, exports its books, and says what each exported
 // page is to show.
 import { execFileSync } from 'node:child_process';
 import { mkdirSync, readFileSync, rmSync } from 'node:fs';

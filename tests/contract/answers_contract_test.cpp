@@ -4,9 +4,9 @@
 
 #include "contract_test.h"
 #include "db/db_manager.h"
-#include "files.h"
 #include "oa_buildpath.h"
 #include "readerlib/position_uri.h"
+#include "scratch_files.h"
 #include "system/filesystem.h"
 #include "utilities/serialization_utils.h"
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "contract_device.h"
-#include "files.h"
+#include "scratch_files.h"
 #include "utilities/reader_db_manager.h"
 
 using veloran::utilities::Note;

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "contract_device.h"
-#include "files.h"
 #include "readerlib/database.h"
 #include "readerlib/import_export_db.h"
+#include "scratch_files.h"
 #include "utilities/serialization_utils.h"
 
 // The engine on the reader database of the device.

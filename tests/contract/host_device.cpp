@@ -1,7 +1,7 @@
 #include <sstream>
 
 #include "contract_device.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/library_store.h"
 #include "store/note_tags.h"
 #include "store/reader_store.h"

@@ -8,7 +8,7 @@
 #include "db/db_manager.h"
 #include "engine.h"
 #include "fast_book_hash.h"
-#include "files.h"
+#include "scratch_files.h"
 
 using veloran::db::DbManager;
 

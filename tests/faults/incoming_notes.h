@@ -5,8 +5,8 @@
 
 #include "c_exporter.h"
 #include "contract_device.h"
+#include "host_records.h"
 #include "on_empty_device.h"
-#include "records.h"
 
 // The book b00c with notes of those numbers; each text begins with the timestamp.
 inline host::BookRecord bookOf(int first, int last, std::int64_t timestamp,

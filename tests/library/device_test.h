@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "export/notes_exporter_impl.h"
-#include "files.h"
+#include "scratch_files.h"
 #include "script.h"
 
 using scripted::script;

@@ -1,4 +1,5 @@
-// notes-export: loads, lists, exports and imports the notes on a stand-in device.
+// notes-export: loads, lists, exports and imports the notes on a device of the host
+// platform.
 #include <cerrno>
 #include <cstdio>
 #include <exception>

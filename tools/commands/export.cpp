@@ -14,7 +14,7 @@
 #include "page/fresh_folder.h"
 #include "page/move_into_place.h"
 #include "page/page_checks.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "terminal/complaint.h"
 #include "terminal/one_line.h"
 #include "terminal/progress_line.h"

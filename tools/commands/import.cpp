@@ -6,7 +6,7 @@
 #include "dump/import_result.h"
 #include "dump/reader.h"
 #include "files/input_file.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/reader_store.h"
 #include "terminal/complaint.h"
 #include "terminal/progress_line.h"

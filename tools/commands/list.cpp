@@ -2,7 +2,7 @@
 #include "device/book_notes.h"
 #include "listings/listing.h"
 #include "store/book_hash.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/library_store.h"
 #include "store/reader_store.h"
 #include "utilities/serialization_utils.h"

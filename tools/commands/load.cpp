@@ -3,9 +3,9 @@
 
 #include "commands/commands.h"
 #include "device/device_folder.h"
-#include "device/files.h"
+#include "device/whole_file.h"
 #include "sources/device_file.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/library_store.h"
 #include "store/reader_store.h"
 #include "terminal/complaint.h"

@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <system_error>
 
-#include "device/files.h"
-#include "store/device_paths.h"
+#include "device/whole_file.h"
+#include "store/database_paths.h"
 #include "terminal/complaint.h"
 
 namespace fs = std::filesystem;

@@ -1,6 +1,6 @@
 #include "device/exporter.h"
 
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 
 namespace {
 

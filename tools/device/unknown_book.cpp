@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "device/nearest_books.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "store/reader_store.h"
 #include "terminal/complaint.h"
 #include "terminal/one_line.h"

@@ -14,7 +14,7 @@
 #include "dump/reader.h"
 #include "dump/writer.h"
 #include "page/cause.h"
-#include "store/device_paths.h"
+#include "store/database_paths.h"
 #include "terminal/complaint.h"
 
 namespace {

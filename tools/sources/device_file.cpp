@@ -7,7 +7,7 @@
 #include <memory>
 #include <string_view>
 
-#include "device/files.h"
+#include "device/whole_file.h"
 #include "sources/device_note.h"
 #include "sources/json_object.h"
 #include "store/book_hash.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "device/files.h"
+#include "device/whole_file.h"
 #include "terminal/complaint.h"
 #include "terminal/one_line.h"
 

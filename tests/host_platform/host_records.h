@@ -1,4 +1,4 @@
-// Records for the stand-in's reader database, on devices and in dumps.
+// Records for the host platform's reader database, on devices and in dumps.
 #pragma once
 
 #include <sstream>
@@ -9,8 +9,8 @@
 #include "dump/format.h"
 #include "dump/gzip_writer.h"
 #include "engine.h"
-#include "files.h"
-#include "store/device_paths.h"
+#include "scratch_files.h"
+#include "store/database_paths.h"
 #include "store/note_tags.h"
 #include "store/reader_store.h"
 

@@ -7,8 +7,8 @@
 #include "dump/format.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
+#include "host_records.h"
 #include "on_empty_device.h"
-#include "records.h"
 
 using Dump = OnEmptyDevice;
 

@@ -1,4 +1,4 @@
-#include "device/files.h"
+#include "device/whole_file.h"
 
 #include <cerrno>
 #include <cstdint>

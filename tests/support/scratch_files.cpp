@@ -1,4 +1,4 @@
-#include "files.h"
+#include "scratch_files.h"
 
 #include <cstdlib>
 #include <fstream>

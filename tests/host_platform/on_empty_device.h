@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "files.h"
+#include "scratch_files.h"
 
 class OnEmptyDevice : public testing::Test {
     const ScratchDirectory device_;
