@@ -1,26 +1,45 @@
-#include <algorithm>
 #include <iostream>
+#include <iterator>
 
 #include "commands/commands.h"
 #include "device/device_folder.h"
 #include "device/whole_file.h"
-#include "sources/device_file.h"
+#include "sources/source.h"
 #include "store/database_paths.h"
 #include "store/library_store.h"
 #include "store/reader_store.h"
 #include "terminal/complaint.h"
+#include "terminal/first_few.h"
 #include "terminal/one_line.h"
 #include "terminal/progress_line.h"
+#include "utilities/serialization_utils.h"
 
 namespace {
 
-constexpr std::size_t kMostNamed = 3;
+std::vector<host::LibraryBook> libraryBooksOf(const SourceContent& content) {
+    using veloran::utilities::SerializationUtils;
+    std::vector<host::LibraryBook> books;
+    for (const auto& [record, author] : content.books) {
+        books.push_back({SerializationUtils::FromHex(record.fastHash), record.title, author,
+                         record.path});
+    }
+    return books;
+}
 
-void writeRest(const DeviceFile& device, host::LibraryStore& library) {
+std::vector<host::BookRecord> takeRecords(SourceContent& content) {
+    std::vector<host::BookRecord> records;
+    for (SourceBook& book : content.books) {
+        records.push_back(std::move(book.record));
+    }
+    return records;
+}
+
+void writeRest(const SourceContent& content, const std::vector<host::LibraryBook>& books,
+               host::LibraryStore& library) {
     try {
-        library.putBooks(device.libraryBooks);
-        if (device.styleSheet) {
-            writeFile(host::kNoteStyleSheetPath, *device.styleSheet);
+        library.putBooks(books, content.knownBooks);
+        if (content.styleSheet) {
+            writeFile(host::kNoteStyleSheetPath, *content.styleSheet);
         }
     } catch (const std::runtime_error& error) {
         throw Complaint(
@@ -31,40 +50,52 @@ void writeRest(const DeviceFile& device, host::LibraryStore& library) {
 
 // Nothing is written before all of the file is known to be right, and both databases to be
 // databases.
-host::LoadResult loaded(const std::string& file) {
-    const ProgressLine progress("Loading");
-    const DeviceFile device = readDeviceFile(file);
+host::LoadResult put(SourceContent& content) {
     prepareDevice();
     host::ReaderStore reader(host::kReaderDatabasePath);
     host::LibraryStore library(host::kLibraryDatabasePath);
-    host::LoadResult result = reader.load(device.records);
-    writeRest(device, library);
+    const std::vector<host::LibraryBook> books = libraryBooksOf(content);
+    host::LoadResult result = reader.load(takeRecords(content), content.knownBooks);
+    writeRest(content, books, library);
     return result;
 }
 
-std::string named(const host::KeptNote& note) {
-    return "  " + oneLine(note.uuid) + " of " + oneLine(note.fastHash) + "  \"" +
-           oneLine(note.title) + "\"\n";
+std::string keptNotes(const std::vector<host::KeptNote>& notes) {
+    if (notes.empty()) {
+        return {};
+    }
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < std::min(notes.size(), kMostNamed); ++i) {
+        lines.push_back(oneLine(notes[i].uuid) + " of " + oneLine(notes[i].fastHash) +
+                        "  \"" + oneLine(notes[i].title) + "\"");
+    }
+    return "The device keeps its own of these notes, as the file's differ but are not "
+           "newer:\n" +
+           firstFew(lines, notes.size());
 }
 
-std::string keptNotes(const std::vector<host::KeptNote>& notes) {
-    std::string text =
-        "The device keeps its own of these notes, as the file's differ but "
-        "are not newer:\n";
-    for (std::size_t i = 0; i < std::min(notes.size(), kMostNamed); ++i) {
-        text += named(notes[i]);
+void explain(const std::string& text) {
+    if (!text.empty()) {
+        std::cerr << complaintText(text);
     }
-    return notes.size() <= kMostNamed
-               ? text
-               : text + "  and " + std::to_string(notes.size() - kMostNamed) + " more\n";
+}
+
+struct Loaded {
+    host::LoadResult notes;
+    SkippedRecords skipped;
+};
+
+Loaded loaded(const std::string& file) {
+    const ProgressLine progress("Loading");
+    SourceContent content = readSource(file);
+    return {put(content), content.skipped};
 }
 
 }  // namespace
 
 void load(const std::string& file) {
-    const host::LoadResult result = loaded(file);
-    if (!result.kept.empty()) {
-        std::cerr << complaintText(keptNotes(result.kept));
-    }
-    std::cout << result.changed << '\n';
+    const auto [notes, skipped] = loaded(file);
+    explain(skipped.summary(file));
+    explain(keptNotes(notes.kept));
+    std::cout << notes.changed << '\n';
 }

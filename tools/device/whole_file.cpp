@@ -36,6 +36,26 @@ std::string contentOf(const fs::path& path) {
     return content;
 }
 
+std::string startOf(const fs::path& path, std::size_t size) {
+    host::InputFile file(path.string());
+    std::string content(size, '\0');
+    std::size_t length = 0;
+    while (const std::size_t part = file.read(&content[length], size - length)) {
+        length += part;
+    }
+    content.resize(length);
+    return content;
+}
+
+template <class Read>
+std::string complainingOnFailure(const Read& read) {
+    try {
+        return read();
+    } catch (const std::runtime_error& error) {
+        throw Complaint(std::string("Cannot read ") + error.what());
+    }
+}
+
 // Leaves the reason in errno when it fails.
 bool wrote(const fs::path& path, const std::string& content) {
     std::FILE* file = std::fopen(path.c_str(), "wb");
@@ -50,11 +70,11 @@ bool wrote(const fs::path& path, const std::string& content) {
 }  // namespace
 
 std::string readFile(const fs::path& path) {
-    try {
-        return contentOf(path);
-    } catch (const std::runtime_error& error) {
-        throw Complaint(std::string("Cannot read ") + error.what());
-    }
+    return complainingOnFailure([&] { return contentOf(path); });
+}
+
+std::string readStart(const fs::path& path, std::size_t size) {
+    return complainingOnFailure([&] { return startOf(path, size); });
 }
 
 void writeFile(const fs::path& path, const std::string& content) {

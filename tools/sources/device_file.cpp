@@ -8,11 +8,10 @@
 #include <string_view>
 
 #include "device/whole_file.h"
-#include "sources/device_note.h"
 #include "sources/json_object.h"
+#include "sources/source_note.h"
 #include "store/book_hash.h"
 #include "terminal/complaint.h"
-#include "utilities/serialization_utils.h"
 
 namespace {
 
@@ -37,13 +36,13 @@ std::string numbered(const std::string& kind, std::size_t number) {
 }
 
 // Complains when two of the things in the object have one name, which is their `member`.
-template <class Thing>
-void checkNames(const JsonObject& object, const std::vector<Thing>& things,
-                std::string Thing::*name, const char* kind, const char* member) {
+template <class Things, class Name>
+void checkNames(const JsonObject& object, const Things& things, Name name, const char* kind,
+                const char* member) {
     std::map<std::string_view, std::size_t> numbers;
-    for (const Thing& thing : things) {
+    for (const auto& thing : things) {
         const std::size_t number = numbers.size() + 1;
-        const auto [first, isNew] = numbers.try_emplace(thing.*name, number);
+        const auto [first, isNew] = numbers.try_emplace(name(thing), number);
         if (!isNew) {
             object.complain(numbered(kind, first->second) + numbered(" and ", number) +
                             " have one " + member);
@@ -59,6 +58,21 @@ std::string readHash(JsonObject& object) {
     return hash;
 }
 
+host::NoteRecord readNote(const Json::Value& json, const std::string& place,
+                          const std::filesystem::path& folder) {
+    JsonObject object(json, place);
+    SourceNote note;
+    note.timestamp = object.integer("timestamp").value_or(0);
+    note.uuid = object.requiredText("uuid");
+    note.page = object.number("page");
+    note.color = object.text("color");
+    note.text = object.text("text");
+    note.comment = object.text("comment");
+    note.image = object.file("image", folder).value_or("");
+    object.complainAboutUnknownMembers();
+    return noteRecord(std::move(note));
+}
+
 std::vector<host::NoteRecord> readNotes(JsonObject& book, const std::string& place,
                                         const std::filesystem::path& folder) {
     std::vector<host::NoteRecord> notes;
@@ -66,36 +80,44 @@ std::vector<host::NoteRecord> readNotes(JsonObject& book, const std::string& pla
         const std::string notePlace = numbered(place + ", note ", notes.size() + 1);
         notes.push_back(readNote(note, notePlace, folder));
     }
-    checkNames(book, notes, &host::NoteRecord::uuid, "notes ", "uuid");
+    const auto uuid = [](const host::NoteRecord& note) -> const auto& { return note.uuid; };
+    checkNames(book, notes, uuid, "notes ", "uuid");
     return notes;
 }
 
-void readBook(const Json::Value& json, const std::string& place,
-              const std::filesystem::path& folder, DeviceFile& device) {
-    using veloran::utilities::SerializationUtils;
+SourceBook readBook(const Json::Value& json, const std::string& place,
+                    const std::filesystem::path& folder) {
     JsonObject object(json, place);
-    const std::string hash = readHash(object);
-    const std::string title = object.text("title");
-    const std::string path = object.text("path");
-    device.libraryBooks.push_back(
-        {SerializationUtils::FromHex(hash), title, object.text("author"), path});
-    device.records.push_back({hash, title, path, readNotes(object, place, folder)});
+    SourceBook book;
+    book.record = {readHash(object), object.text("title"), object.text("path"), {}};
+    book.author = object.text("author");
+    book.record.notes = readNotes(object, place, folder);
     object.complainAboutUnknownMembers();
+    return book;
 }
 
 }  // namespace
 
-DeviceFile readDeviceFile(const std::string& path) {
+bool isDeviceFile(std::string_view start) {
+    const std::size_t first = start.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && start[first] == '{';
+}
+
+SourceContent readDeviceFile(const std::string& path) {
     const std::filesystem::path folder = std::filesystem::path(path).parent_path();
     const Json::Value json = parse(readFile(path), path);
     JsonObject object(json, path);
-    DeviceFile device;
+    SourceContent content;
+    content.knownBooks = host::KnownBooks::Correct;
     for (const Json::Value& book : object.array("books")) {
-        const std::string place = numbered(path + ": book ", device.records.size() + 1);
-        readBook(book, place, folder, device);
+        const std::string place = numbered(path + ": book ", content.books.size() + 1);
+        content.books.push_back(readBook(book, place, folder));
     }
-    checkNames(object, device.records, &host::BookRecord::fastHash, "books ", "hash");
-    device.styleSheet = object.file("style_sheet", folder);
+    const auto hash = [](const SourceBook& book) -> const auto& {
+        return book.record.fastHash;
+    };
+    checkNames(object, content.books, hash, "books ", "hash");
+    content.styleSheet = object.file("style_sheet", folder);
     object.complainAboutUnknownMembers();
-    return device;
+    return content;
 }

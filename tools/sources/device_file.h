@@ -1,21 +1,15 @@
 // The file that describes a device's content: its books, their notes and the style sheet.
 #pragma once
 
-#include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
-#include "store/library_store.h"
-#include "store/records.h"
+#include "sources/source.h"
 
-struct DeviceFile {
-    std::optional<std::string> styleSheet;  // text; nothing when the file names none
-    std::vector<host::BookRecord> records;  // for the reader database
-    std::vector<host::LibraryBook>
-        libraryBooks;  // the same books, for the library database
-};
+// Whether it is a JSON object.
+bool isDeviceFile(std::string_view start);
 
-// Reads the JSON file at `path` and the pictures and the style sheet that it names, which
-// it finds relative to its own folder. Anything missing, misspelt, of the wrong type or
-// there twice is a Complaint that says where.
-DeviceFile readDeviceFile(const std::string& path);
+// Reads also the pictures and the style sheet that the file names, which it finds relative
+// to its own folder. Anything missing, misspelt, of the wrong type or there twice is a
+// Complaint that says where.
+SourceContent readDeviceFile(const std::string& path);

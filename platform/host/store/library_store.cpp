@@ -23,6 +23,12 @@ constexpr const char* kPutBook =
     "INSERT INTO books (fast_hash, title, author, path) VALUES (?, ?, ?, ?) "
     "ON CONFLICT (fast_hash) DO UPDATE "
     "SET title = excluded.title, author = excluded.author, path = excluded.path";
+constexpr const char* kCompleteBook =
+    "INSERT INTO books (fast_hash, title, author, path) VALUES (?, ?, ?, ?) "
+    "ON CONFLICT (fast_hash) DO UPDATE "
+    "SET title = coalesce(nullif(title, ''), excluded.title), "
+    "author = coalesce(nullif(author, ''), excluded.author), "
+    "path = coalesce(nullif(path, ''), excluded.path)";
 constexpr const char* kPutProp =
     "INSERT INTO file_props (fast_hash, prop, value) VALUES (?, ?, ?) "
     "ON CONFLICT (fast_hash, prop) DO UPDATE SET value = excluded.value";
@@ -37,14 +43,15 @@ LibraryStore::LibraryStore(LibraryStore&&) noexcept = default;
 LibraryStore& LibraryStore::operator=(LibraryStore&&) noexcept = default;
 
 void LibraryStore::putBook(const LibraryBook& book) {
-    connection_->query(kPutBook, Blob{book.fastHash}, book.title, book.author, book.path)
-        .run();
+    putBooks({book}, KnownBooks::Correct);
 }
 
-void LibraryStore::putBooks(const std::vector<LibraryBook>& books) {
+void LibraryStore::putBooks(const std::vector<LibraryBook>& books, KnownBooks known) {
+    const char* put = known == KnownBooks::Correct ? kPutBook : kCompleteBook;
     connection_->write([&] {
         for (const LibraryBook& book : books) {
-            putBook(book);
+            connection_->query(put, Blob{book.fastHash}, book.title, book.author, book.path)
+                .run();
         }
     });
 }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "store/records.h"
+
 namespace host {
 
 class Connection;
@@ -31,8 +33,9 @@ public:
     // Adds the book, or replaces what is known of the one with its hash.
     void putBook(const LibraryBook& book);
 
-    // The same of all these, in one transaction.
-    void putBooks(const std::vector<LibraryBook>& books);
+    // Adds all these in one transaction; what is known of those that are there changes as
+    // `known` says.
+    void putBooks(const std::vector<LibraryBook>& books, KnownBooks known);
 
     std::optional<std::int64_t> findBook(const std::string& fastHash);  // raw bytes
     std::optional<LibraryBook> book(std::int64_t id);

@@ -20,9 +20,13 @@ constexpr const char* kMergeTag =
     "SET text = excluded.text, json = excluded.json, timestamp = excluded.timestamp "
     "WHERE excluded.timestamp > tags.timestamp";
 // An update to what is there already would still write to the file.
-constexpr const char* kSetTitleAndPath =
+constexpr const char* kCorrectBook =
     "UPDATE books SET title = ?2, path = ?3 WHERE fast_hash = ?1 AND (title, path) IS NOT "
     "(?2, ?3)";
+constexpr const char* kCompleteBook =
+    "UPDATE books SET title = coalesce(nullif(title, ''), ?2), path = "
+    "coalesce(nullif(path, ''), ?3) WHERE fast_hash = ?1 AND ((title = '' AND ?2 <> '') OR "
+    "(path = '' AND ?3 <> ''))";
 constexpr const char* kFindOtherTag =
     "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
 
@@ -51,19 +55,20 @@ int ReaderStore::merge(const std::vector<BookRecord>& books) {
     return merged;
 }
 
-LoadResult ReaderStore::load(const std::vector<BookRecord>& books) {
+LoadResult ReaderStore::load(const std::vector<BookRecord>& books, KnownBooks known) {
     LoadResult result;
     connection_->write([&] {
         for (const BookRecord& book : books) {
-            loadBook(book, result);
+            loadBook(book, known, result);
         }
     });
     return result;
 }
 
-void ReaderStore::loadBook(const BookRecord& book, LoadResult& result) {
+void ReaderStore::loadBook(const BookRecord& book, KnownBooks known, LoadResult& result) {
     const std::int64_t bookId = mergeBook(book);
-    connection_->query(kSetTitleAndPath, book.fastHash, book.title, book.path).run();
+    const char* update = known == KnownBooks::Correct ? kCorrectBook : kCompleteBook;
+    connection_->query(update, book.fastHash, book.title, book.path).run();
     for (const NoteRecord& incoming : book.notes) {
         const Merged merged = mergeNote(bookId, incoming);
         result.changed += merged.changed ? 1 : 0;

@@ -80,13 +80,14 @@ public:
     // uuid is empty; the database is then as it was.
     int merge(const std::vector<BookRecord>& books);
 
-    // The same, but a book gets the title and path of its record. Tells of each note that
-    // has a tag whose text or JSON remains another than its record's.
-    LoadResult load(const std::vector<BookRecord>& books);
+    // The same, but a known book gets the title and path of its record as `known` says.
+    // Tells of each note that has a tag whose text or JSON remains another than its
+    // record's.
+    LoadResult load(const std::vector<BookRecord>& books, KnownBooks known);
 
 private:
     std::int64_t mergeBook(const BookRecord& book);
-    void loadBook(const BookRecord& book, LoadResult& result);
+    void loadBook(const BookRecord& book, KnownBooks known, LoadResult& result);
     struct Merged {
         bool changed;   // the note, in any way
         bool complete;  // every tag was taken over

@@ -32,4 +32,8 @@ struct BookRecord {
     std::vector<NoteRecord> notes;
 };
 
+// What incoming records do to the title, author and path of a book that a database has:
+// replace all of them, or fill in those that are empty.
+enum class KnownBooks { Correct, Complete };
+
 }  // namespace host

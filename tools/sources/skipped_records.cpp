@@ -1,0 +1,19 @@
+#include "sources/skipped_records.h"
+
+#include "terminal/first_few.h"
+#include "terminal/one_line.h"
+
+void SkippedRecords::add(const std::string& record) {
+    if (first_.size() < kMostNamed) {
+        first_.push_back(oneLine(record));
+    }
+    ++count_;
+}
+
+std::string SkippedRecords::summary(const std::string& file) const {
+    if (count_ == 0) {
+        return {};
+    }
+    return "Some records of " + file + " could not be read, and were left out:\n" +
+           firstFew(first_, count_);
+}

@@ -1,0 +1,37 @@
+#include "sources/source.h"
+
+#include <algorithm>
+#include <array>
+
+#include "device/whole_file.h"
+#include "sources/device_file.h"
+#include "terminal/complaint.h"
+
+namespace {
+
+// The first that recognises a file reads it.
+constexpr std::array kSources = {
+    Source{"a device file", isDeviceFile, readDeviceFile},
+};
+
+std::string names() {
+    std::string text;
+    for (const Source& source : kSources) {
+        text += (text.empty() ? "" : ", ") + std::string(source.name);
+    }
+    return text;
+}
+
+}  // namespace
+
+SourceContent readSource(const std::string& path) {
+    constexpr std::size_t kStart = 65536;
+    const std::string start = readStart(path, kStart);
+    const auto* source =
+        std::find_if(kSources.begin(), kSources.end(),
+                     [&](const Source& kind) { return kind.recognises(start); });
+    if (source == kSources.end()) {
+        throw Complaint(path + " is of no known kind. These are read: " + names() + '.');
+    }
+    return source->read(path);
+}
