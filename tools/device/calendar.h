@@ -1,0 +1,15 @@
+// The Gregorian calendar, for any year.
+#pragma once
+
+#include <cstdint>
+
+struct Date {
+    std::int64_t year;
+    std::int64_t month;  // 1 to 12
+    std::int64_t day;    // 1 to 31
+};
+
+// The days from 1 January 1970 to the date; a day that its month lacks is one of the next.
+std::int64_t daysSinceEpoch(const Date& date);
+
+Date dateOf(std::int64_t daysFromEpoch);
