@@ -1,39 +1,75 @@
 // books and notes.
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 #include "cli/examples.h"
+#include "cli/filter_options.h"
 #include "cli/program.h"
 #include "commands/commands.h"
 
 namespace {
 
-struct ListRequest {
-    std::string hash;
-    Format format = Format::Lines;
-};
+std::vector<std::string> formatNames() {
+    std::vector<std::string> names;
+    for (const ListingFormat* format : kListingFormats) {
+        names.emplace_back(format->name);
+    }
+    return names;
+}
 
-void addFormat(CLI::App& command, Format& format) {
+const ListingFormat* formatOf(const std::string& name) {
+    return *std::find_if(std::begin(kListingFormats), std::end(kListingFormats),
+                         [&](const ListingFormat* format) { return format->name == name; });
+}
+
+void addFormat(CLI::App& command, const ListingFormat*& format) {
+    command
+        .add_option_function<std::string>(
+            "--format", [&format](const std::string& name) { format = formatOf(name); },
+            "How to write the list (default: lines)")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(formatNames()));
     command.add_flag_callback(
-        "--json", [&format] { format = Format::Json; },
-        "Print one JSON array, with every field");
+        "--json", [&format] { format = &kJsonFormat; }, "The same as --format json");
 }
 
 void addBooks(Program& program) {
-    const auto request = std::make_shared<ListRequest>();
-    CLI::App& books =
-        addCommand(program, "books", "List the books: hash, title, author",
-                   Device::MustExist, [request] { listBooks(request->format); });
-    addFormat(books, request->format);
+    const auto format = std::make_shared<const ListingFormat*>(&kLineFormat);
+    CLI::App& books = addCommand(program, "books", "List the books: hash, title, author",
+                                 Device::MustExist, [format] { listBooks(**format); });
+    addFormat(books, *format);
     books.footer(examples::kBooks);
 }
 
+void addPictures(CLI::App& command, FolderForPictures& pictures) {
+    command
+        .add_option_function<std::string>(
+            "--pictures",
+            [&pictures](const std::string& folder) {
+                pictures = {folder, folder};
+                makeAbsolute(pictures.path);
+            },
+            "With Markdown, write the pictures there and show them")
+        ->type_name("DIR");
+}
+
+void listNotesAsAsked(const NotesRequest& request) {
+    if (!request.pictures.path.empty() && request.format != &kMarkdownFormat) {
+        throw CLI::ValidationError("--pictures", "only --format markdown shows pictures");
+    }
+    listNotes(request);
+}
+
 void addNotes(Program& program) {
-    const auto request = std::make_shared<ListRequest>();
-    CLI::App& notes = addCommand(
-        program, "notes", "List a book's notes: identifier, page, colour, text",
-        Device::MustExist, [request] { listNotes(request->hash, request->format); });
-    addBook(notes, request->hash);
+    const auto request = std::make_shared<NotesRequest>();
+    CLI::App& notes =
+        addCommand(program, "notes", "List notes: identifier, page, colour, text",
+                   Device::MustExist, [request] { listNotesAsAsked(*request); });
+    notes.add_option("BOOK", request->books, "The books' hashes; all books without one");
     addFormat(notes, request->format);
+    addFilter(notes, request->filter);
+    addPictures(notes, request->pictures);
     notes.footer(examples::kNotes);
 }
 

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "device/iso_time.h"
 #include "terminal/complaint.h"
 #include "terminal/one_line.h"
 
@@ -12,6 +13,17 @@ std::string isIdentifier(const std::string& text) {
     return parsed.ec == std::errc() && parsed.ptr == end && text[0] != '0'
                ? std::string()
                : text + " is not the identifier of a note";
+}
+
+std::string isTime(const std::string& text) {
+    return parseIsoTime(text) ? std::string()
+                              : text +
+                                    " is not a date, as 2026-03-07, or a date and time, "
+                                    "as 2026-03-07T09:05Z";
+}
+
+std::string isNotEmpty(const std::string& text) {
+    return text.empty() ? "the text to look for is empty" : std::string();
 }
 
 CLI::Error notUnderstood(const std::vector<std::string>& words) {

@@ -9,6 +9,12 @@
 // parser itself, which takes signs and octal numbers and lets large ones wrap.
 std::string isIdentifier(const std::string& text);
 
+// The same of a date, with a time or without.
+std::string isTime(const std::string& text);
+
+// The same of text to look for: in all notes is no text.
+std::string isNotEmpty(const std::string& text);
+
 // The error of words that the parser left over where it wanted a command.
 CLI::Error notUnderstood(const std::vector<std::string>& words);
 

@@ -5,19 +5,26 @@
 #include <string>
 #include <vector>
 
+#include "device/note_filter.h"
+#include "listings/listing.h"
+
 // Puts the books, notes and style sheet of a device file on the device. Prints how many
 // notes were added or changed.
 void load(const std::string& file);
 
-enum class Format { Lines, Json };
+// Prints every book, in lines its hash, title and author, separated by tabs.
+void listBooks(const ListingFormat& format);
 
-// Prints every book: in lines its hash, title and author, separated by tabs, or in one JSON
-// array all that is known of it.
-void listBooks(Format format);
+struct NotesRequest {
+    std::vector<std::string> books;  // as they were typed; empty: all on the device
+    NoteFilter filter;
+    const ListingFormat* format = &kLineFormat;
+    FolderForPictures pictures;
+};
 
-// Prints every note of the book: in lines its identifier, page, colour and text, separated
-// by tabs, or in one JSON array all fields, of the picture its size in bytes.
-void listNotes(const std::string& hash, Format format);
+// Prints the selected notes of the books, in lines their identifier, page, colour and text,
+// separated by tabs; with several books, the hash of their book comes first.
+void listNotes(const NotesRequest& request);
 
 struct ExportRequest {
     std::string hash;

@@ -1,10 +1,18 @@
+#include <algorithm>
+#include <csignal>
+#include <iostream>
+#include <set>
+#include <utility>
+#include <vector>
+
 #include "commands/commands.h"
 #include "device/book_notes.h"
-#include "listings/listing.h"
 #include "store/book_hash.h"
 #include "store/database_paths.h"
 #include "store/library_store.h"
 #include "store/reader_store.h"
+#include "terminal/complaint.h"
+#include "utilities/reader_db_manager.h"
 #include "utilities/serialization_utils.h"
 
 namespace {
@@ -17,26 +25,103 @@ std::string author(host::LibraryStore& library, const std::string& hash) {
     return id ? library.book(*id).value_or(host::LibraryBook{}).author : std::string();
 }
 
-template <class Items>
-void print(const Items& items, Format format) {
-    if (format == Format::Json) {
-        printJson(items);
-    } else {
-        printLines(items);
+std::vector<ListedBook> listed(const std::vector<host::BookEntry>& books) {
+    host::LibraryStore library(host::kLibraryDatabasePath);
+    std::vector<ListedBook> result;
+    for (const host::BookEntry& book : books) {
+        result.push_back(
+            {book.fastHash, book.title, author(library, book.fastHash), book.path});
+    }
+    return result;
+}
+
+std::vector<ListedBook> allBooks() {
+    return listed(host::ReaderStore(host::kReaderDatabasePath).books());
+}
+
+// Each once, in the order of their first names.
+std::vector<ListedBook> namedBooks(const std::vector<std::string>& names) {
+    std::vector<host::BookEntry> books;
+    std::set<std::string> hashes;
+    for (const std::string& name : names) {
+        complainUnlessKnown(name);
+        host::BookEntry book =
+            host::ReaderStore(host::kReaderDatabasePath).findBook(name).value();
+        if (hashes.insert(book.fastHash).second) {
+            books.push_back(std::move(book));
+        }
+    }
+    return listed(books);
+}
+
+// Fetches one note at a time: together, their pictures may take all memory.
+class NoteLister {
+public:
+    explicit NoteLister(const NotesRequest& request)
+        : request_(request),
+          missing_(request.filter.ids.begin(), request.filter.ids.end()),
+          severalBooks_(request.books.size() != 1),
+          listing_(
+              request.format->listNotes(std::cout, {severalBooks_, request.pictures})) {}
+
+    void listBook(const ListedBook& book);
+    void end();
+
+private:
+    void startBook(const ListedBook& book);
+
+    const NotesRequest& request_;
+    std::set<unsigned long long> missing_;  // of the notes asked for by identifier
+    bool severalBooks_;
+    std::unique_ptr<NoteListing> listing_;
+    veloran::utilities::ReaderDbManager readerDb_;
+};
+
+// Among several books, those without a selected note are left out.
+void NoteLister::listBook(const ListedBook& book) {
+    bool isStarted = !severalBooks_;
+    if (isStarted) {
+        listing_->startBook(book);
+    }
+    for (const auto& [key, id] : readerDb_.getBookNotesHashUUIDs(book.hash, true)) {
+        missing_.erase(id);
+        const veloran::utilities::Note note = readerDb_.getNote(key);
+        if (!request_.filter.selects(note)) {
+            continue;
+        }
+        if (!std::exchange(isStarted, true)) {
+            listing_->startBook(book);
+        }
+        listing_->add(note);
+    }
+}
+
+void NoteLister::end() {
+    listing_->end();
+    if (!missing_.empty()) {
+        throw Complaint("There is no note " + std::to_string(*missing_.begin()) +
+                        " in what was to be listed.");
     }
 }
 
 }  // namespace
 
-void listBooks(Format format) {
-    host::LibraryStore library(host::kLibraryDatabasePath);
-    Books books;
-    for (const host::BookEntry& book :
-         host::ReaderStore(host::kReaderDatabasePath).books()) {
-        books.push_back(
-            {book.fastHash, book.title, author(library, book.fastHash), book.path});
+void listBooks(const ListingFormat& format) {
+    const std::unique_ptr<BookListing> listing = format.listBooks(std::cout);
+    for (const ListedBook& book : allBooks()) {
+        listing->add(book);
     }
-    print(books, format);
+    listing->end();
 }
 
-void listNotes(const std::string& hash, Format format) { print(notesOf(hash), format); }
+void listNotes(const NotesRequest& request) {
+    static_cast<void>(
+        std::signal(SIGXFSZ, SIG_IGN));  // a file at its size limit is a failed write
+    const std::vector<ListedBook> books =
+        request.books.empty() ? allBooks() : namedBooks(request.books);
+    NoteLister lister(request);
+    for (const ListedBook& book : books) {
+        lister.listBook(book);
+    }
+    lister.end();
+}

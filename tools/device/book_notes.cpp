@@ -1,5 +1,6 @@
 #include "device/book_notes.h"
 
+#include "device/iso_time.h"
 #include "device/unknown_book.h"
 #include "readerlib/position_uri.h"
 #include "store/book_hash.h"
@@ -43,4 +44,9 @@ std::optional<double> pageOf(const veloran::utilities::Note& note) {
     return Veloran::ReaderLib::extractPageFromnURI(note.getAnchorUri(), page)
                ? std::optional(page)
                : std::nullopt;
+}
+
+std::string timeOf(const veloran::utilities::Note& note) {
+    const std::int64_t seconds = note[veloran::utilities::Note::Tag::Uuid].timestamp;
+    return seconds == 0 ? std::string() : isoTime(seconds);
 }

@@ -15,3 +15,6 @@ std::vector<veloran::utilities::Note> notesOf(const std::string& hash);
 
 // The page that the note is on; nothing when its position names none.
 std::optional<double> pageOf(const veloran::utilities::Note& note);
+
+// When the note was made, as iso_time.h writes it; empty when nobody knows.
+std::string timeOf(const veloran::utilities::Note& note);

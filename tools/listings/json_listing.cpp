@@ -1,7 +1,8 @@
+// For programs: one array on one line, with an object for each. Bytes that are not UTF-8
+// become U+FFFD.
 #include <rapidjson/ostreamwrapper.h>
 
 #include <cstdint>
-#include <iostream>
 
 #include "device/book_notes.h"
 #include "device/decimal.h"
@@ -12,11 +13,37 @@
 namespace {
 
 using veloran::utilities::Note;
-using Writer = host::JsonWriter<rapidjson::OStreamWrapper>;
 
 rapidjson::SizeType length(const std::string& text) {
     return static_cast<rapidjson::SizeType>(text.size());
 }
+
+// The array, from its first bracket to the line end after its last.
+class Array {
+public:
+    explicit Array(std::ostream& out) : out_(out) { json_.StartArray(); }
+
+    template <class Members>
+    void add(const Members& members) {
+        json_.StartObject();
+        members(json_);
+        json_.EndObject();
+    }
+
+    void end() {
+        json_.EndArray();
+        out_ << '\n';
+    }
+
+    using Writer = host::JsonWriter<rapidjson::OStreamWrapper>;
+
+private:
+    std::ostream& out_;
+    rapidjson::OStreamWrapper stream_{out_};
+    Writer json_{stream_};
+};
+
+using Writer = Array::Writer;
 
 void writeText(Writer& json, const char* name, const std::string& text) {
     const std::string valid = host::validUtf8(text);
@@ -55,21 +82,51 @@ void writeMembers(Writer& json, const Note& note) {
     json.Int64(std::int64_t{note[Note::Tag::Uuid].timestamp});
 }
 
-template <class Items>
-void printArray(const Items& items) {
-    rapidjson::OStreamWrapper stream(std::cout);
-    Writer json(stream);
-    json.StartArray();
-    for (const auto& item : items) {
-        json.StartObject();
-        writeMembers(json, item);
-        json.EndObject();
+class JsonBooks : public BookListing {
+public:
+    explicit JsonBooks(std::ostream& out) : array_(out) {}
+
+    void add(const ListedBook& book) override {
+        array_.add([&](Writer& json) { writeMembers(json, book); });
     }
-    json.EndArray();
-    std::cout << '\n';
+    void end() override { array_.end(); }
+
+private:
+    Array array_;
+};
+
+class JsonNotes : public NoteListing {
+public:
+    JsonNotes(std::ostream& out, const NoteListingOptions& options)
+        : array_(out), severalBooks_(options.severalBooks) {}
+
+    void startBook(const ListedBook& book) override { hash_ = book.hash; }
+
+    void add(const Note& note) override {
+        array_.add([&](Writer& json) {
+            if (severalBooks_) {
+                writeText(json, "book", hash_);
+            }
+            writeMembers(json, note);
+        });
+    }
+    void end() override { array_.end(); }
+
+private:
+    Array array_;
+    bool severalBooks_;
+    std::string hash_;
+};
+
+std::unique_ptr<BookListing> listBooks(std::ostream& out) {
+    return std::make_unique<JsonBooks>(out);
+}
+
+std::unique_ptr<NoteListing> listNotes(std::ostream& out,
+                                       const NoteListingOptions& options) {
+    return std::make_unique<JsonNotes>(out, options);
 }
 
 }  // namespace
 
-void printJson(const Books& books) { printArray(books); }
-void printJson(const Notes& notes) { printArray(notes); }
+const ListingFormat kJsonFormat = {"json", listBooks, listNotes};

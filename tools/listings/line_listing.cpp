@@ -1,22 +1,55 @@
-#include <iostream>
-
+// For people: one line for each, its fields separated by tabs.
 #include "device/book_notes.h"
 #include "device/decimal.h"
 #include "listings/listing.h"
 #include "terminal/one_line.h"
 #include "terminal/terminal.h"
 
-void printLines(const Books& books) {
-    for (const ListedBook& book : books) {
-        std::cout << oneLine(book.hash) << '\t' << bold(oneLine(book.title)) << '\t'
-                  << oneLine(book.author) << '\n';
+namespace {
+
+class BookLines : public BookListing {
+public:
+    explicit BookLines(std::ostream& out) : out_(out) {}
+
+    void add(const ListedBook& book) override {
+        out_ << oneLine(book.hash) << '\t' << bold(oneLine(book.title)) << '\t'
+             << oneLine(book.author) << '\n';
     }
+
+private:
+    std::ostream& out_;
+};
+
+class NoteLines : public NoteListing {
+public:
+    NoteLines(std::ostream& out, const NoteListingOptions& options)
+        : out_(out), severalBooks_(options.severalBooks) {}
+
+    void startBook(const ListedBook& book) override {
+        start_ = severalBooks_ ? oneLine(book.hash) + '\t' : std::string();
+    }
+
+    void add(const veloran::utilities::Note& note) override {
+        const auto page = pageOf(note);
+        out_ << start_ << note.noteId << '\t' << (page ? decimal(*page) : std::string())
+             << '\t' << oneLine(note.getColor()) << '\t' << oneLine(note.getText()) << '\n';
+    }
+
+private:
+    std::ostream& out_;
+    bool severalBooks_;
+    std::string start_;  // of the line of each note
+};
+
+std::unique_ptr<BookListing> listBooks(std::ostream& out) {
+    return std::make_unique<BookLines>(out);
 }
 
-void printLines(const Notes& notes) {
-    for (const veloran::utilities::Note& note : notes) {
-        const auto page = pageOf(note);
-        std::cout << note.noteId << '\t' << (page ? decimal(*page) : std::string()) << '\t'
-                  << oneLine(note.getColor()) << '\t' << oneLine(note.getText()) << '\n';
-    }
+std::unique_ptr<NoteListing> listNotes(std::ostream& out,
+                                       const NoteListingOptions& options) {
+    return std::make_unique<NoteLines>(out, options);
 }
+
+}  // namespace
+
+const ListingFormat kLineFormat = {"lines", listBooks, listNotes};

@@ -1,9 +1,9 @@
-// What the listing commands print on standard output: as lines for people and as JSON for
-// programs.
+// What the listing commands print: books or notes, one after another, in a format.
 #pragma once
 
+#include <memory>
+#include <ostream>
 #include <string>
-#include <vector>
 
 #include "utilities/note.h"
 
@@ -14,13 +14,46 @@ struct ListedBook {
     std::string path;  // of the book's file
 };
 
-using Books = std::vector<ListedBook>;
-using Notes = std::vector<veloran::utilities::Note>;
+// The list is whole after end().
+class BookListing {
+public:
+    virtual ~BookListing() = default;
+    virtual void add(const ListedBook& book) = 0;
+    virtual void end() {}
+};
 
-// One line for each, its fields separated by tabs.
-void printLines(const Books& books);
-void printLines(const Notes& notes);
+class NoteListing {
+public:
+    virtual ~NoteListing() = default;
+    // Names the book of the notes that come next.
+    virtual void startBook(const ListedBook& book) = 0;
+    virtual void add(const veloran::utilities::Note& note) = 0;
+    virtual void end() {}
+};
 
-// One array on one line, with an object for each. Bytes that are not UTF-8 become U+FFFD.
-void printJson(const Books& books);
-void printJson(const Notes& notes);
+// Where pictures are written; an empty path is nowhere.
+struct FolderForPictures {
+    std::string path;
+    std::string linked;  // the path as links name it
+};
+
+struct NoteListingOptions {
+    bool severalBooks;  // whether each note, or group of notes, tells its book
+    FolderForPictures pictures;
+};
+
+// A listing writes to `out` from its construction on.
+struct ListingFormat {
+    const char* name;
+    std::unique_ptr<BookListing> (*listBooks)(std::ostream& out);
+    std::unique_ptr<NoteListing> (*listNotes)(std::ostream& out,
+                                              const NoteListingOptions& options);
+};
+
+extern const ListingFormat kLineFormat;
+extern const ListingFormat kJsonFormat;
+extern const ListingFormat kCsvFormat;
+extern const ListingFormat kMarkdownFormat;
+
+inline constexpr const ListingFormat* kListingFormats[] = {&kLineFormat, &kJsonFormat,
+                                                           &kCsvFormat, &kMarkdownFormat};

@@ -1,0 +1,132 @@
+#include "listings/picture_folder.h"
+
+#include <xxhash.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+#include "device/whole_file.h"
+#include "terminal/complaint.h"
+#include "terminal/interruption.h"
+#include "terminal/one_line.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kMostOfTitle = 100;  // bytes: a name has at most 255
+
+constexpr std::string_view kForbidden = "<>:\"/\\|?*";
+
+constexpr char kDigits[] = "0123456789ABCDEF";
+
+const char* extensionOf(std::string_view picture) {
+    return picture.substr(0, 4) == "\x89PNG" ? ".png"
+           : picture.substr(0, 4) == "GIF8"  ? ".gif"
+                                             : ".jpg";
+}
+
+std::string hashOf(const std::string& picture) {
+    XXH64_canonical_t bytes;
+    XXH64_canonicalFromHash(&bytes, XXH3_64bits(picture.data(), picture.size()));
+    std::string result;
+    for (const unsigned char byte : bytes.digest) {
+        result += kDigits[byte / 16];
+        result += kDigits[byte % 16];
+    }
+    return result;
+}
+
+// At most the first `size` bytes, without a part of a character at the end.
+std::string firstOf(const std::string& text, std::size_t size) {
+    while (size < text.size() && size > 0 && (text[size] & 0xC0) == 0x80) {
+        --size;
+    }
+    return text.substr(0, size);
+}
+
+// What every file system takes, and no program takes for a hidden file or an option.
+std::string safeName(const std::string& title) {
+    std::string name;
+    for (const char letter : firstOf(oneLine(title), kMostOfTitle)) {
+        if (kForbidden.find(letter) == std::string_view::npos) {
+            name += letter;
+        }
+    }
+    return name.substr(std::min(name.find_first_not_of(" .-"), name.size()));
+}
+
+bool holds(const fs::path& path, const std::string& content) {
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored) &&
+           fs::file_size(path, ignored) == content.size() && readFile(path) == content;
+}
+
+// Leaves the reason in errno when it fails.
+bool wrote(std::FILE* file, const std::string& content) {
+    const bool isWhole =
+        std::fwrite(content.data(), 1, content.size(), file) == content.size();
+    return std::fclose(file) == 0 && isWhole;
+}
+
+// False when there is a file of this name.
+bool wroteNew(const fs::path& path, const std::string& content) {
+    const SignalsHeld held;  // none leaves a part of a picture
+    std::FILE* file = std::fopen(path.c_str(), "wbx");
+    if (file != nullptr && wrote(file, content)) {
+        return true;
+    }
+    const std::error_code error(errno, std::generic_category());
+    if (file == nullptr && error == std::errc::file_exists) {
+        return false;
+    }
+    if (file != nullptr) {
+        std::remove(path.c_str());
+    }
+    complain("Cannot write " + path.string(), error);
+}
+
+bool isPlainInLink(unsigned char byte) {
+    const bool isAlphanumeric = ('0' <= byte && byte <= '9') ||
+                                ('a' <= byte && byte <= 'z') ||
+                                ('A' <= byte && byte <= 'Z');
+    return isAlphanumeric || std::string_view("/-._~").find(static_cast<char>(byte)) !=
+                                 std::string_view::npos;
+}
+
+// The path as a reference to it: letters of any language stay readable, unless the path
+// holds what is no text, or steers a terminal.
+std::string linkTo(const std::string& path) {
+    const bool isText = oneLine(path) == path;
+    std::string result;
+    for (const char letter : path) {
+        const auto byte = static_cast<unsigned char>(letter);
+        if (isPlainInLink(byte) || (isText && byte >= 0x80)) {
+            result += letter;
+        } else {
+            result.append({'%', kDigits[byte / 16], kDigits[byte % 16]});
+        }
+    }
+    return result;
+}
+
+}  // namespace
+
+std::string PictureFolder::add(const std::string& title, const std::string& picture) const {
+    if (folder_.path.empty() || picture.empty()) {
+        return {};
+    }
+    makeFolders(folder_.path);
+    const std::string stem = safeName(title) + ' ' + hashOf(picture);
+    std::string name = stem + extensionOf(picture);
+    for (int counter = 1; !wroteNew(fs::path(folder_.path) / name, picture) &&
+                          !holds(fs::path(folder_.path) / name, picture);
+         ++counter) {
+        name = stem + " (" + std::to_string(counter) + ')' + extensionOf(picture);
+    }
+    return linkTo((fs::path(folder_.linked) / name).string());
+}
