@@ -1,6 +1,4 @@
 // books and notes.
-#include <algorithm>
-#include <iterator>
 #include <memory>
 
 #include "cli/examples.h"
@@ -18,15 +16,17 @@ std::vector<std::string> formatNames() {
     return names;
 }
 
-const ListingFormat* formatOf(const std::string& name) {
-    return *std::find_if(std::begin(kListingFormats), std::end(kListingFormats),
-                         [&](const ListingFormat* format) { return format->name == name; });
+// The name has been checked.
+void setFormat(const ListingFormat*& chosen, const std::string& name) {
+    for (const ListingFormat* format : kListingFormats) {
+        chosen = format->name == name ? format : chosen;
+    }
 }
 
 void addFormat(CLI::App& command, const ListingFormat*& format) {
     command
         .add_option_function<std::string>(
-            "--format", [&format](const std::string& name) { format = formatOf(name); },
+            "--format", [&format](const std::string& name) { setFormat(format, name); },
             "How to write the list (default: lines)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(formatNames()));

@@ -28,6 +28,7 @@ std::string author(host::LibraryStore& library, const std::string& hash) {
 std::vector<ListedBook> listed(const std::vector<host::BookEntry>& books) {
     host::LibraryStore library(host::kLibraryDatabasePath);
     std::vector<ListedBook> result;
+    result.reserve(books.size());
     for (const host::BookEntry& book : books) {
         result.push_back(
             {book.fastHash, book.title, author(library, book.fastHash), book.path});

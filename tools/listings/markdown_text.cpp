@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::string_view kMarkup = "\\`*_[]<>&#|~$";
+constexpr std::string_view kMarkup = "\\`*_[<>&#|~$";
 constexpr std::string_view kMarkupAtStart = "+-=:";    // of a line
 constexpr std::string_view kMarkupDoubled = "=%";      // of text highlighted, or left out
 constexpr std::string_view kMarkupAfterNumber = ".)";  // with which the line starts

@@ -4,12 +4,15 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 #include <system_error>
 
 #include "device/whole_file.h"
+#include "listings/link.h"
 #include "terminal/complaint.h"
 #include "terminal/interruption.h"
 #include "terminal/one_line.h"
@@ -22,8 +25,6 @@ constexpr std::size_t kMostOfTitle = 100;  // bytes: a name has at most 255
 
 constexpr std::string_view kForbidden = "<>:\"/\\|?*";
 
-constexpr char kDigits[] = "0123456789ABCDEF";
-
 const char* extensionOf(std::string_view picture) {
     return picture.substr(0, 4) == "\x89PNG" ? ".png"
            : picture.substr(0, 4) == "GIF8"  ? ".gif"
@@ -31,14 +32,11 @@ const char* extensionOf(std::string_view picture) {
 }
 
 std::string hashOf(const std::string& picture) {
-    XXH64_canonical_t bytes;
-    XXH64_canonicalFromHash(&bytes, XXH3_64bits(picture.data(), picture.size()));
-    std::string result;
-    for (const unsigned char byte : bytes.digest) {
-        result += kDigits[byte / 16];
-        result += kDigits[byte % 16];
-    }
-    return result;
+    char digits[16];
+    char* end = std::to_chars(digits, std::end(digits),
+                              XXH3_64bits(picture.data(), picture.size()), 16)
+                    .ptr;
+    return {digits, end};
 }
 
 // At most the first `size` bytes, without a part of a character at the end.
@@ -85,33 +83,9 @@ bool wroteNew(const fs::path& path, const std::string& content) {
         return false;
     }
     if (file != nullptr) {
-        std::remove(path.c_str());
+        static_cast<void>(std::remove(path.c_str()));
     }
     complain("Cannot write " + path.string(), error);
-}
-
-bool isPlainInLink(unsigned char byte) {
-    const bool isAlphanumeric = ('0' <= byte && byte <= '9') ||
-                                ('a' <= byte && byte <= 'z') ||
-                                ('A' <= byte && byte <= 'Z');
-    return isAlphanumeric || std::string_view("/-._~").find(static_cast<char>(byte)) !=
-                                 std::string_view::npos;
-}
-
-// The path as a reference to it: letters of any language stay readable, unless the path
-// holds what is no text, or steers a terminal.
-std::string linkTo(const std::string& path) {
-    const bool isText = oneLine(path) == path;
-    std::string result;
-    for (const char letter : path) {
-        const auto byte = static_cast<unsigned char>(letter);
-        if (isPlainInLink(byte) || (isText && byte >= 0x80)) {
-            result += letter;
-        } else {
-            result.append({'%', kDigits[byte / 16], kDigits[byte % 16]});
-        }
-    }
-    return result;
 }
 
 }  // namespace

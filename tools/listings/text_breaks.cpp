@@ -5,10 +5,10 @@ std::string replaced(std::string_view text, std::string_view from, std::string_v
     std::size_t start = 0;
     std::size_t found = 0;
     while ((found = text.find(from, start)) != std::string_view::npos) {
-        result.append(text, start, found - start).append(to);
+        result.append(text.substr(start, found - start)).append(to);
         start = found + from.size();
     }
-    return result.append(text, start, std::string_view::npos);
+    return result.append(text.substr(start));
 }
 
 std::string withLineFeeds(const std::string& text) {
