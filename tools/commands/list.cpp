@@ -100,8 +100,8 @@ void NoteLister::listBook(const ListedBook& book) {
 void NoteLister::end() {
     listing_->end();
     if (!missing_.empty()) {
-        throw Complaint("There is no note " + std::to_string(*missing_.begin()) +
-                        " in what was to be listed.");
+        throw Complaint("The listed books have no note " +
+                        std::to_string(*missing_.begin()) + '.');
     }
 }
 

@@ -50,7 +50,7 @@ public:
 
     void add(const Note& note) override {
         const auto page = pageOf(note);
-        writeRow(out_, {book_.title, book_.author, page ? decimal(*page) : std::string(),
+        writeRow(out_, {nameOf(book_), book_.author, page ? decimal(*page) : std::string(),
                         note.getColor(), note.getText(), note.getNote(), timeOf(note),
                         note.uuid()});
     }

@@ -14,6 +14,11 @@ struct ListedBook {
     std::string path;  // of the book's file
 };
 
+// What people call the book: its title, or when it has none its hash.
+inline const std::string& nameOf(const ListedBook& book) {
+    return book.title.empty() ? book.hash : book.title;
+}
+
 // The list is whole after end().
 class BookListing {
 public:

@@ -12,10 +12,6 @@ namespace {
 
 using veloran::utilities::Note;
 
-const std::string& titleOf(const ListedBook& book) {
-    return book.title.empty() ? book.hash : book.title;
-}
-
 // A double-quoted scalar of YAML.
 std::string quoted(const std::string& text) {
     return '"' + replaced(replaced(oneLine(text), "\\", "\\\\"), "\"", "\\\"") + '"';
@@ -47,7 +43,7 @@ public:
     explicit MarkdownBooks(std::ostream& out) : out_(out) {}
 
     void add(const ListedBook& book) override {
-        out_ << "- " << markdownLine(titleOf(book));
+        out_ << "- " << markdownLine(nameOf(book));
         if (!book.author.empty()) {
             out_ << ", " << markdownLine(book.author);
         }
@@ -81,7 +77,7 @@ void MarkdownNotes::startBook(const ListedBook& book) {
     if (!severalBooks_) {
         out_ << frontMatter(book);
     }
-    writePart("# " + markdownLine(titleOf(book)) + '\n');
+    writePart("# " + markdownLine(nameOf(book)) + '\n');
     writePart(book.author.empty() ? "" : markdownLine(book.author) + '\n');
     writePart(severalBooks_ ? markdownLine(book.hash) + '\n' : "");
 }
