@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "cli/examples.h"
-#include "cli/misuse.h"
+#include "cli/filter_options.h"
 #include "cli/program.h"
 #include "commands/commands.h"
 
@@ -27,22 +27,42 @@ void addDirectory(CLI::App& command, std::string& directory) {
         ->transform(callersPath());
 }
 
+void addTarget(CLI::App& command, ExportRequest& request) {
+    addDirectory(command, request.directory);
+    command.add_option("-o", request.file, "Write this new file; for one BOOK")
+        ->type_name("FILE")
+        ->transform(callersPath())
+        ->excludes("--dir");
+    command.add_flag("--update", request.update,
+                     "Leave pages alone that are up to date, replace older ones");
+}
+
+void checkBooks(const ExportRequest& request, const CLI::App& command) {
+    const bool all = command.count("--all") > 0;
+    if (request.books.empty() != all) {
+        throw CLI::ValidationError(all ? "--all excludes BOOK"
+                                       : "BOOK or --all is required");
+    }
+    if (!request.file.empty() && request.books.size() != 1) {
+        throw CLI::ValidationError("-o is for one BOOK");
+    }
+}
+
 void addExport(Program& program) {
     const Request request = std::make_shared<ExportRequest>();
     CLI::App& exporting = addCommand(
-        program, "export", "Export a book's notes and print the path of the file",
+        program, "export", "Export the notes of books and print the paths of the pages",
         Device::MustExist, forDevice(program, request, exportNotes));
-    addBook(exporting, request->hash);
-    exporting
-        .add_option("--note", request->noteIds, "Export only this note; may be repeated")
-        ->type_name("ID")
-        ->allow_extra_args(false)
-        ->check(isIdentifier);
+    exporting.parse_complete_callback(
+        [request, &exporting] { checkBooks(*request, exporting); });
+    addBook(exporting, request->books).expected(1, -1)->required(false);
+    exporting.add_flag("--all", "Export every book");
+    addFilter(exporting, request->filter);
     exporting
         .add_option("--order", request->order, "Order of the notes: page, id or newest")
         ->type_name("ORDER")
         ->check(CLI::IsMember({"page", "id", "newest"}));
-    addDirectory(exporting, request->directory);
+    addTarget(exporting, *request);
     exporting.footer(examples::kExport);
 }
 
@@ -51,7 +71,7 @@ void addName(Program& program) {
     CLI::App& naming =
         addCommand(program, "name", "Print the path of the file that an export would write",
                    Device::MustExist, forDevice(program, request, printName));
-    addBook(naming, request->hash);
+    addBook(naming, request->books);
     addDirectory(naming, request->directory);
 }
 

@@ -1,19 +1,21 @@
 // load and import.
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "cli/program.h"
 #include "commands/commands.h"
 
 void addFileCommands(Program& program) {
-    const auto file = std::make_shared<std::string>();
-    addCommand(program, "load", "Put the books and notes of a device file on the device",
-               Device::MayBeEmpty, [file] { load(*file); })
-        .add_option("FILE", *file, "The device file (JSON)")
+    const auto files = std::make_shared<std::vector<std::string>>();
+    addCommand(program, "load", "Put the books and notes of files on the device",
+               Device::MayBeEmpty, [files] { loadAll(*files); })
+        .add_option("FILE", *files, "Files of any kind that notes come in")
         ->transform(callersPath())
         ->required();
-    addCommand(program, "import", "Merge the notes that an exported file carries",
-               Device::MayBeEmpty, [file] { importNotes(*file); })
-        .add_option("FILE", *file, "The exported file")
+    addCommand(program, "import", "Merge the notes that exported files carry",
+               Device::MayBeEmpty, [files] { importAll(*files); })
+        .add_option("FILE", *files, "The exported files")
         ->transform(callersPath())
         ->required();
 }

@@ -66,7 +66,8 @@ void addNotes(Program& program) {
     CLI::App& notes =
         addCommand(program, "notes", "List notes: identifier, page, colour, text",
                    Device::MustExist, [request] { listNotesAsAsked(*request); });
-    notes.add_option("BOOK", request->books, "The books' hashes; all books without one");
+    notes.add_option("BOOK", request->books,
+                     "Hashes or titles of books, or starts of them; all books without one");
     addFormat(notes, request->format);
     addFilter(notes, request->filter);
     addPictures(notes, request->pictures);

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "cli/command_line.h"
+#include "commands/each.h"
 #include "terminal/complaint.h"
 
 int main(int argc, char** argv) {
@@ -18,6 +19,8 @@ int main(int argc, char** argv) {
             complain("Could not write the results", {errno, std::generic_category()});
         }
         return status;
+    } catch (const FailuresReported&) {
+        return 1;
     } catch (const std::bad_alloc&) {
         std::cerr << complaintText("There is not enough memory.");
     } catch (const std::exception& error) {

@@ -13,8 +13,13 @@ CLI::App& addCommand(Program& program, const char* name, const char* description
     return command;
 }
 
-void addBook(CLI::App& command, std::string& hash) {
-    command.add_option("HASH", hash, "The book's hash, as \"books\" prints it")->required();
+CLI::Option& addBook(CLI::App& command, std::vector<std::string>& books) {
+    return *command
+                .add_option("BOOK", books,
+                            "The book's hash or title, or a start that no other book has")
+                ->type_name("")
+                ->expected(1)
+                ->required();
 }
 
 CLI::Validator callersPath() {

@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "device/device_folder.h"
 
@@ -25,8 +26,8 @@ void addExportCommands(Program& program);
 CLI::App& addCommand(Program& program, const char* name, const char* description,
                      Device device, std::function<void()> action);
 
-// The argument that names a book.
-void addBook(CLI::App& command, std::string& hash);
+// The argument that names a book: required and only one, unless the caller changes that.
+CLI::Option& addBook(CLI::App& command, std::vector<std::string>& books);
 
 // The check of a path that stays relative to the caller's own folder.
 CLI::Validator callersPath();

@@ -1,5 +1,6 @@
 // The client's commands. Each prints its results on standard output, one a line unless it
-// says otherwise, and reports what went wrong as an exception.
+// says otherwise, and reports what went wrong as an exception. Those for several things
+// report each failure on standard error and go on, and throw FailuresReported at the end.
 #pragma once
 
 #include <string>
@@ -7,10 +8,11 @@
 
 #include "device/note_filter.h"
 #include "listings/listing.h"
+#include "page/export_request.h"
 
-// Puts the books, notes and style sheet of a device file on the device. Prints how many
-// notes were added or changed.
-void load(const std::string& file);
+// Puts the books and notes of each file on the device. Prints how many notes were added or
+// changed, and the file's name when there are several.
+void loadAll(const std::vector<std::string>& files);
 
 // Prints every book, in lines its hash, title and author, separated by tabs.
 void listBooks(const ListingFormat& format);
@@ -26,20 +28,12 @@ struct NotesRequest {
 // separated by tabs; with several books, the hash of their book comes first.
 void listNotes(const NotesRequest& request);
 
-struct ExportRequest {
-    std::string hash;
-    std::vector<unsigned long long> noteIds;  // empty: every note
-    std::string order;                        // "id" or "newest"; else by page
-    std::string directory;                    // for the file; empty: the device's own
-    std::string deviceFolder;  // what a relative path that is printed is relative to
-};
-
-// Exports the book's notes and prints the path of the file.
+// Exports each book's notes and prints the path of each page that it writes.
 void exportNotes(const ExportRequest& request);
 
-// Prints the path of the file that an export would write; of the request, only the book,
-// the folders count.
+// Prints the path of the page that an export would write; of the request, only the one book
+// and the folders count.
 void printName(const ExportRequest& request);
 
-// Imports an exported file. Prints how many notes were added or changed.
-void importNotes(const std::string& file);
+// Imports each exported file. Prints the same as loadAll.
+void importAll(const std::vector<std::string>& files);

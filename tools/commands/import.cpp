@@ -1,6 +1,5 @@
-#include <iostream>
-
 #include "commands/commands.h"
+#include "commands/each.h"
 #include "device/device_folder.h"
 #include "device/exporter.h"
 #include "dump/import_result.h"
@@ -9,7 +8,6 @@
 #include "store/database_paths.h"
 #include "store/reader_store.h"
 #include "terminal/complaint.h"
-#include "terminal/progress_line.h"
 
 namespace {
 
@@ -70,7 +68,6 @@ int importAgain(const std::string& file) {
 }
 
 int imported(const std::string& file) {
-    const ProgressLine progress("Importing");
     if (!isDevice()) {
         recordsOf(file);  // a file that is refused makes no device
         prepareDevice();
@@ -81,4 +78,8 @@ int imported(const std::string& file) {
 
 }  // namespace
 
-void importNotes(const std::string& file) { std::cout << imported(file) << '\n'; }
+void importAll(const std::vector<std::string>& files) {
+    doEach("Importing", files, [&](const std::string& file) {
+        return Outcome{resultOf(file, files.size(), imported(file))};
+    });
+}

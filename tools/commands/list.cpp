@@ -7,6 +7,7 @@
 
 #include "commands/commands.h"
 #include "device/book_notes.h"
+#include "device/book_search.h"
 #include "store/book_hash.h"
 #include "store/database_paths.h"
 #include "store/library_store.h"
@@ -36,7 +37,7 @@ std::vector<ListedBook> listed(const std::vector<host::BookEntry>& books) {
     return result;
 }
 
-std::vector<ListedBook> allBooks() {
+std::vector<ListedBook> everyBook() {
     return listed(host::ReaderStore(host::kReaderDatabasePath).books());
 }
 
@@ -45,9 +46,7 @@ std::vector<ListedBook> namedBooks(const std::vector<std::string>& names) {
     std::vector<host::BookEntry> books;
     std::set<std::string> hashes;
     for (const std::string& name : names) {
-        complainUnlessKnown(name);
-        host::BookEntry book =
-            host::ReaderStore(host::kReaderDatabasePath).findBook(name).value();
+        host::BookEntry book = findBook(name);
         if (hashes.insert(book.fastHash).second) {
             books.push_back(std::move(book));
         }
@@ -109,7 +108,7 @@ void NoteLister::end() {
 
 void listBooks(const ListingFormat& format) {
     const std::unique_ptr<BookListing> listing = format.listBooks(std::cout);
-    for (const ListedBook& book : allBooks()) {
+    for (const ListedBook& book : everyBook()) {
         listing->add(book);
     }
     listing->end();
@@ -119,7 +118,7 @@ void listNotes(const NotesRequest& request) {
     static_cast<void>(
         std::signal(SIGXFSZ, SIG_IGN));  // a file at its size limit is a failed write
     const std::vector<ListedBook> books =
-        request.books.empty() ? allBooks() : namedBooks(request.books);
+        request.books.empty() ? everyBook() : namedBooks(request.books);
     NoteLister lister(request);
     for (const ListedBook& book : books) {
         lister.listBook(book);

@@ -1,7 +1,8 @@
-#include <iostream>
-#include <iterator>
+#include <algorithm>
+#include <utility>
 
 #include "commands/commands.h"
+#include "commands/each.h"
 #include "device/device_folder.h"
 #include "device/whole_file.h"
 #include "sources/source.h"
@@ -11,7 +12,6 @@
 #include "terminal/complaint.h"
 #include "terminal/first_few.h"
 #include "terminal/one_line.h"
-#include "terminal/progress_line.h"
 #include "utilities/serialization_utils.h"
 
 namespace {
@@ -74,28 +74,16 @@ std::string keptNotes(const std::vector<host::KeptNote>& notes) {
            firstFew(lines, notes.size());
 }
 
-void explain(const std::string& text) {
-    if (!text.empty()) {
-        std::cerr << complaintText(text);
-    }
-}
-
-struct Loaded {
-    host::LoadResult notes;
-    SkippedRecords skipped;
-};
-
-Loaded loaded(const std::string& file) {
-    const ProgressLine progress("Loading");
+Outcome load(const std::string& file, std::size_t files) {
     SourceContent content = readSource(file);
-    return {put(content), content.skipped};
+    const host::LoadResult notes = put(content);
+    return {resultOf(file, files, notes.changed),
+            content.skipped.summary(file) + keptNotes(notes.kept)};
 }
 
 }  // namespace
 
-void load(const std::string& file) {
-    const auto [notes, skipped] = loaded(file);
-    explain(skipped.summary(file));
-    explain(keptNotes(notes.kept));
-    std::cout << notes.changed << '\n';
+void loadAll(const std::vector<std::string>& files) {
+    doEach("Loading", files,
+           [&](const std::string& file) { return load(file, files.size()); });
 }

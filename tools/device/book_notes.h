@@ -7,10 +7,7 @@
 
 #include "utilities/note.h"
 
-// Complains about a book that the device does not know, and about one whose hash is none.
-void complainUnlessKnown(const std::string& hash);
-
-// All notes of the book, in the database's order. Complains as above.
+// All notes of the book, in the database's order.
 std::vector<veloran::utilities::Note> notesOf(const std::string& hash);
 
 // The page that the note is on; nothing when its position names none.

@@ -8,6 +8,7 @@
 
 #include "page/cause.h"
 #include "terminal/complaint.h"
+#include "terminal/interruption.h"
 
 namespace {
 
@@ -26,6 +27,17 @@ bool moved(const char* from, const char* to) {
     return true;
 }
 
+// Where files cannot change places, the old one is replaced.
+bool exchanged(const char* from, const char* to) {
+    return renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_EXCHANGE) == 0 ||
+           (isUnknownHere(errno) && std::rename(from, to) == 0);
+}
+
+[[noreturn]] void complainThatNotWritten(const std::string& path,
+                                         const std::string& shown) {
+    throw Complaint("Could not write " + shown + ": " + causeFor(path, errno) + '.');
+}
+
 }  // namespace
 
 bool moveIntoPlace(const std::string& from, const std::string& to,
@@ -34,7 +46,25 @@ bool moveIntoPlace(const std::string& from, const std::string& to,
         return true;
     }
     if (errno != EEXIST) {
-        throw Complaint("Could not write " + shown + ": " + causeFor(to, errno) + '.');
+        complainThatNotWritten(to, shown);
     }
     return false;
+}
+
+bool exchange(const std::string& from, const std::string& to, const host::FileIdentity& old,
+              const std::string& shown) {
+    const SignalsHeld held;  // one would remove what stands at `from`
+    if (host::identityOf(to) != old) {
+        return false;
+    }
+    if (!exchanged(from.c_str(), to.c_str())) {
+        complainThatNotWritten(to, shown);
+    }
+    // Another program may have put its own file there since it was looked at.
+    const auto taken = host::identityOf(from);
+    if (taken && taken != old) {
+        static_cast<void>(exchanged(from.c_str(), to.c_str()));
+        return false;
+    }
+    return true;
 }

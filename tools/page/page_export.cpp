@@ -1,0 +1,103 @@
+#include "page/page_export.h"
+
+#include <filesystem>
+#include <system_error>
+#include <vector>
+
+#include "page/move_into_place.h"
+#include "page/page_checks.h"
+#include "store/database_paths.h"
+#include "terminal/complaint.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string directoryOf(const ExportRequest& request) {
+    return request.file.empty() ? request.directory
+                                : fs::path(request.file).parent_path().string();
+}
+
+std::string nameOf(const std::string& path) { return fs::path(path).filename().string(); }
+
+void callLibrary(const Exporter& exporter, const host::BookEntry& book,
+                 NoteSelection& notes) {
+    const std::vector<unsigned long long> ids(notes.ids.begin(), notes.ids.end());
+    if (notes_exporter_export_bookmarks_to_html(exporter.handle(), book.fastHash.c_str(),
+                                                ids.data(), ids.size(), notes.before,
+                                                &notes.timestamps) != 0) {
+        throw Complaint("The book " + book.fastHash + " is no longer on the device.");
+    }
+}
+
+}  // namespace
+
+PageExport::PageExport(const ExportRequest& request)
+    : request_(request),
+      exporter_(directoryOf(request)),
+      directory_(exporter_.directory()) {
+    complainUnlessStyleSheetIsFile();
+    if (request.update) {
+        olderPages_.emplace(directory_, request.file);
+    }
+}
+
+// The library finds a free name and then opens it, replacing what came there in between:
+// it writes where nobody else does.
+ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
+    const auto verdict =
+        olderPages_ ? olderPages_->judge(book, notes.ids) : OlderPages::Verdict();
+    if (verdict.isUpToDate) {
+        return {};
+    }
+    FreshFolder folder(directory_);
+    const std::string page = writeInto(folder, book, notes);
+    const std::string unrecorded = whyWithoutRecords(page, book.fastHash, notes.ids);
+    const auto& older = verdict.older;
+    const bool isReplaced =
+        older && exchange(page, older->path, older->identity, shown(older->path));
+    return {shown(isReplaced ? older->path : place(page, book)), unrecorded};
+}
+
+std::string PageExport::writeInto(FreshFolder& folder, const host::BookEntry& book,
+                                  NoteSelection& notes) {
+    exporter_.setDirectory(folder.path());
+    const std::string page = exporter_.fileName(book.fastHash);
+    folder.expect(page);
+    callLibrary(exporter_, book, notes);
+    exporter_.setDirectory(directory_);
+    complainUnlessWhole(page, shown(directory_ + "/" + nameOf(page)));
+    return page;
+}
+
+// The name that is free is asked for again as long as others take it.
+std::string PageExport::place(const std::string& page, const host::BookEntry& book) {
+    if (!request_.file.empty()) {
+        if (!moveIntoPlace(page, request_.file, shown(request_.file))) {
+            throw Complaint(shown(request_.file) +
+                            " is there already, and stays as it is.");
+        }
+        return request_.file;
+    }
+    std::string path;
+    do {
+        path = exporter_.fileName(book.fastHash);
+    } while (!moveIntoPlace(page, path, shown(path)));
+    return path;
+}
+
+// The path as the caller of the client can use it.
+std::string PageExport::shown(const std::string& path) const {
+    return (fs::path(request_.deviceFolder) / path).string();
+}
+
+// The library would wait for a pipe without end, and read a device without end.
+void PageExport::complainUnlessStyleSheetIsFile() const {
+    const char* path = host::kNoteStyleSheetPath;
+    std::error_code failure;
+    const fs::file_status status = fs::status(path, failure);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        throw Complaint("The style sheet " + shown(path) +
+                        " is not a file. Remove it, or put a file in its place.");
+    }
+}

@@ -1,0 +1,27 @@
+// Tells someone at a terminal how far a long job has come.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+// A line on standard error, if that is a terminal. It is drawn before each step and stands
+// while the step is done; nothing else may be printed meanwhile.
+class ProgressBar {
+public:
+    ProgressBar(std::string what, std::size_t steps);
+    ~ProgressBar();
+    ProgressBar(const ProgressBar&) = delete;
+    ProgressBar& operator=(const ProgressBar&) = delete;
+
+    // Draws the line for the next step.
+    void next();
+
+    void erase();
+
+private:
+    const std::string what_;
+    const std::size_t steps_;
+    std::size_t step_ = 0;
+    const bool isShown_;
+    bool isDrawn_ = false;
+};
