@@ -16,9 +16,8 @@ inline constexpr const char* kBooks = R"(Examples:
   notes-export -C reader books --json | jq -r '.[].title')";
 
 inline constexpr const char* kNotes = R"(Examples:
-  notes-export -C reader notes 39e85c7ba5bfce834a72bc6a1c1bfa13
-  notes-export -C reader notes 39e85c7ba5bfce834a72bc6a1c1bfa13 --json |
-      jq -r '.[] | select(.color == "yellow").text')";
+  notes-export -C reader notes 39e85c7ba5bfce834a72bc6a1c1bfa13 --color yellow
+  notes-export -C reader notes --since 2026-01-01 --format csv >notes.csv)";
 
 inline constexpr const char* kExport = R"(Examples:
   notes-export -C reader export 39e85c7ba5bfce834a72bc6a1c1bfa13 --order newest

@@ -50,7 +50,7 @@ void addPictures(CLI::App& command, FolderForPictures& pictures) {
                 pictures = {folder, folder};
                 makeAbsolute(pictures.path);
             },
-            "With Markdown, write the pictures there and show them")
+            "With Markdown, write and show the pictures")
         ->type_name("DIR");
 }
 

@@ -17,7 +17,7 @@ _notes_export_read_line() {
                 ((++i))
                 device=$(_notes_export_plain "${COMP_WORDS[i]}")
                 ;;
-            --note | --order | --dir) ((++i)) ;;
+            --note | --order | --dir | --format | --color | --since | --match | --pictures) ((++i)) ;;
             -*) ;;
             *)
                 if [[ -z $command ]]; then
@@ -45,7 +45,8 @@ _notes_export_books() {
 
 # What may stand where no option's value is wanted.
 _notes_export_words() {
-    local -A options=([books]='--json' [notes]='--json'
+    local -A options=([books]='--format --json'
+        [notes]='--format --json --note --color --since --match --pictures'
         [export]='--note --order --dir' [name]='--dir')
     if [[ -z $command && $1 == -* ]]; then
         compgen -W '-C --help --version' -- "$1"
@@ -63,11 +64,12 @@ _notes_export() {
     COMPREPLY=()
     _notes_export_read_line
     case ${COMP_WORDS[COMP_CWORD - 1]} in
-        -C | --dir)
+        -C | --dir | --pictures)
             compopt -o dirnames
             return
             ;;
-        --note) return ;;
+        --note | --color | --since | --match) return ;;
+        --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown' -- "$current") ;;
         --order) mapfile -t COMPREPLY < <(compgen -W 'page id newest' -- "$current") ;;
         *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;
     esac
