@@ -67,7 +67,7 @@ void addNotes(Program& program) {
         addCommand(program, "notes", "List notes: identifier, page, colour, text",
                    Device::MustExist, [request] { listNotesAsAsked(*request); });
     notes.add_option("BOOK", request->books,
-                     "Hashes or titles, or their starts; all without");
+                     "Hash, title or a start of one (default: all books)");
     addFormat(notes, request->format);
     addFilter(notes, request->filter);
     addPictures(notes, request->pictures);
