@@ -73,7 +73,7 @@ private:
 };
 
 void MarkdownNotes::startBook(const ListedBook& book) {
-    title_ = book.title;
+    title_ = nameOf(book);
     if (!severalBooks_) {
         out_ << frontMatter(book);
     }

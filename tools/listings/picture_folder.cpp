@@ -58,6 +58,11 @@ std::string safeName(const std::string& title) {
     return name.substr(std::min(name.find_first_not_of(" .-"), name.size()));
 }
 
+std::string stemOf(const std::string& title, const std::string& picture) {
+    const std::string name = safeName(title);
+    return name + (name.empty() ? "" : " ") + hashOf(picture);
+}
+
 bool holds(const fs::path& path, const std::string& content) {
     std::error_code ignored;
     return fs::is_regular_file(path, ignored) &&
@@ -95,7 +100,7 @@ std::string PictureFolder::add(const std::string& title, const std::string& pict
         return {};
     }
     makeFolders(folder_.path);
-    const std::string stem = safeName(title) + ' ' + hashOf(picture);
+    const std::string stem = stemOf(title, picture);
     std::string name = stem + extensionOf(picture);
     for (int counter = 1; !wroteNew(fs::path(folder_.path) / name, picture) &&
                           !holds(fs::path(folder_.path) / name, picture);
