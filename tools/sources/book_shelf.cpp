@@ -30,6 +30,10 @@ std::size_t BookShelf::bookOf(const std::string& title, const std::string& autho
     return entry->second;
 }
 
+const std::string& BookShelf::hashOf(std::size_t place) const {
+    return books_[place].record.fastHash;
+}
+
 void BookShelf::add(std::size_t place, SourceNote note) {
     auto& notes = notes_[place];
     const std::string content =

@@ -19,6 +19,8 @@ public:
     // The place of the book of that title and author, which give it its hash.
     std::size_t bookOf(const std::string& title, const std::string& author);
 
+    const std::string& hashOf(std::size_t place) const;
+
     // Adds the note to the book at `place`. If the book has its uuid already, the note is
     // dropped when it says the same, and gets a uuid derived from its text when it does
     // not.

@@ -4,6 +4,8 @@
 #include <array>
 
 #include "device/whole_file.h"
+#include "sources/annotation_set.h"
+#include "sources/clippings.h"
 #include "sources/device_file.h"
 #include "terminal/complaint.h"
 
@@ -11,6 +13,8 @@ namespace {
 
 // The first that recognises a file reads it.
 constexpr std::array kSources = {
+    Source{"clippings", isClippings, readClippings},
+    Source{"an annotation set", isAnnotationSet, readAnnotationSet},
     Source{"a device file", isDeviceFile, readDeviceFile},
 };
 

@@ -1,5 +1,6 @@
 #include "sources/source_note.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -19,10 +20,14 @@ class TagList {
 public:
     explicit TagList(std::int64_t timestamp) : timestamp_(timestamp) {}
 
-    void addText(std::int32_t tag, std::string text) {
+    void addText(std::int32_t tag, std::string text, std::int64_t timestamp) {
         if (!text.empty()) {
-            tags_.push_back({tag, std::move(text), std::nullopt, timestamp_});
+            tags_.push_back({tag, std::move(text), std::nullopt, timestamp});
         }
+    }
+
+    void addText(std::int32_t tag, std::string text) {
+        addText(tag, std::move(text), timestamp_);
     }
 
     void addJson(std::int32_t tag, std::string json) {
@@ -47,7 +52,8 @@ host::NoteRecord noteRecord(SourceNote note) {
     }
     tags.addText(host::kColorTag, std::move(note.color));
     tags.addText(host::kTextTag, std::move(note.text));
-    tags.addText(host::kCommentTag, std::move(note.comment));
+    tags.addText(host::kCommentTag, std::move(note.comment),
+                 std::max(note.timestamp, note.commentTimestamp));
     tags.addText(host::kImageTag, std::move(note.image));
     return {std::move(note.uuid), tags.take()};
 }

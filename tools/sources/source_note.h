@@ -15,6 +15,7 @@ struct SourceNote {
     std::string comment;  // the same
     std::string image;    // the picture's bytes
     std::int64_t timestamp = 0;
+    std::int64_t commentTimestamp = 0;  // counts only when it is later
 };
 
 // The record of the note in the reader database.
