@@ -2,26 +2,26 @@
 #include "commands/each.h"
 #include "device/device_folder.h"
 #include "device/exporter.h"
+#include "device/whole_file.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
 #include "files/input_file.h"
+#include "sources/exported_page.h"
 #include "store/database_paths.h"
 #include "store/reader_store.h"
 #include "terminal/complaint.h"
 
 namespace {
 
-std::string advice(int result) {
-    switch (result) {
-        case host::kNoDump:
-            return ". Was it exported by this library, and the book not too large?";
-        case host::kDumpDamaged:
-            return ". Fetch the file again, byte for byte.";
-        case host::kVersionUnknown:
-            return ". Update this program.";
-        default:
-            return ".";
+std::string advice(int result, const std::string& file) {
+    constexpr std::size_t kStart = 65536;
+    if (result == host::kFileUnreadable) {
+        return ".";
     }
+    if (isExportedPage(readStart(file, kStart))) {
+        return ". \"notes-export load\" reads what the page shows.";
+    }
+    return ". Was it exported by this library?";
 }
 
 [[noreturn]] void refuse(const std::string& file, std::string why) {
@@ -36,7 +36,7 @@ std::vector<host::BookRecord> recordsOf(const std::string& file) {
         const host::InputFile readable(file);  // otherwise in the system's words
         return host::readDump(file);
     } catch (const host::DumpError& error) {
-        refuse(file, error.what() + advice(error.result));
+        refuse(file, error.what() + advice(error.result, file));
     } catch (const std::runtime_error& error) {
         refuse(file, error.what());
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "dump/format.h"
 #include "dump/import_result.h"
@@ -51,9 +52,8 @@ bool includesNotes(const host::BookRecord& book, const host::BookRecord& older) 
 
 CurrentPage::CurrentPage(host::ReaderStore& reader, host::LibraryStore& library,
                          const host::BookEntry& book,
-                         const std::set<unsigned long long>& notes,
-                         const std::string& styleSheet)
-    : styleSheet_(styleSheet), title_(book.title) {
+                         const std::set<unsigned long long>& notes, std::string styleSheet)
+    : styleSheet_(std::move(styleSheet)), title_(book.title) {
     using veloran::utilities::SerializationUtils;
     host::writeDump(reader, {static_cast<unsigned long long>(book.id)}, notes, dump_);
     const auto id = library.findBook(SerializationUtils::FromHex(book.fastHash));

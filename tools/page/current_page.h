@@ -13,7 +13,7 @@ public:
     // `notes` are the identifiers of those that would be exported; empty means all.
     CurrentPage(host::ReaderStore& reader, host::LibraryStore& library,
                 const host::BookEntry& book, const std::set<unsigned long long>& notes,
-                const std::string& styleSheet);
+                std::string styleSheet);
 
     // Whether the page at `path` has the same records, headings and style sheet. The order
     // of its notes is not looked at.

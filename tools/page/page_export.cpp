@@ -62,7 +62,7 @@ ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes)
 std::string PageExport::writeInto(FreshFolder& folder, const host::BookEntry& book,
                                   NoteSelection& notes) {
     exporter_.setDirectory(folder.path());
-    const std::string page = exporter_.fileName(book.fastHash);
+    std::string page = exporter_.fileName(book.fastHash);
     folder.expect(page);
     callLibrary(exporter_, book, notes);
     exporter_.setDirectory(directory_);

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr std::string_view kDumpStart =
-    "<script type=\"application/x-veloran-dbdump\" book_hash=\"";
+    R"(<script type="application/x-veloran-dbdump" book_hash=")";
 constexpr std::size_t kMostBeforeDump = std::size_t{16} << 20;
 
 // The file up to `mark` and at least a block more, or `most` bytes of it.

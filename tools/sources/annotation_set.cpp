@@ -18,10 +18,10 @@ namespace {
 class Recogniser : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Recogniser> {
 public:
     bool StartObject() { return ++depth_ > 0; }
-    bool EndObject(rapidjson::SizeType) { return --depth_ > 0; }
+    bool EndObject(rapidjson::SizeType /*members*/) { return --depth_ > 0; }
     bool StartArray() { return depth_++ > 0; }
-    bool EndArray(rapidjson::SizeType) { return --depth_ > 0; }
-    bool Key(const char* name, rapidjson::SizeType length, bool) {
+    bool EndArray(rapidjson::SizeType /*elements*/) { return --depth_ > 0; }
+    bool Key(const char* name, rapidjson::SizeType length, bool /*copy*/) {
         const std::string_view key(name, length);
         found_ = depth_ == 1 && (key == "@context" || key == "items" || key == "type");
         return !found_;

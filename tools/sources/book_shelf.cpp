@@ -21,7 +21,11 @@ std::string derivedName(const std::vector<std::string_view>& parts) {
 }
 
 std::size_t BookShelf::bookOf(const std::string& title, const std::string& author) {
-    const std::string hash = derivedName({title, author});
+    return bookNamed(derivedName({title, author}), title, author);
+}
+
+std::size_t BookShelf::bookNamed(const std::string& hash, const std::string& title,
+                                 const std::string& author) {
     const auto [entry, isNew] = places_.try_emplace(hash, books_.size());
     if (isNew) {
         books_.push_back({{hash, title, "", {}}, author});

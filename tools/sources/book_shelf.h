@@ -19,6 +19,10 @@ public:
     // The place of the book of that title and author, which give it its hash.
     std::size_t bookOf(const std::string& title, const std::string& author);
 
+    // The same of a book whose hash is known.
+    std::size_t bookNamed(const std::string& hash, const std::string& title,
+                          const std::string& author);
+
     const std::string& hashOf(std::size_t place) const;
 
     // Adds the note to the book at `place`. If the book has its uuid already, the note is

@@ -40,7 +40,7 @@ private:
 std::string_view Records::takeLine() {
     const std::size_t length = rest_.find('\n');
     const std::string_view line = rest_.substr(0, length);
-    rest_.remove_prefix(length == rest_.npos ? rest_.size() : length + 1);
+    rest_.remove_prefix(length == std::string_view::npos ? rest_.size() : length + 1);
     ++linesTaken_;
     return line;
 }

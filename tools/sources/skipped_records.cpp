@@ -14,6 +14,5 @@ std::string SkippedRecords::summary(const std::string& file) const {
     if (count_ == 0) {
         return {};
     }
-    return "Some records of " + file + " could not be read, and were left out:\n" +
-           firstFew(first_, count_);
+    return "Not everything in " + file + " could be read:\n" + firstFew(first_, count_);
 }

@@ -7,12 +7,14 @@
 #include "sources/annotation_set.h"
 #include "sources/clippings.h"
 #include "sources/device_file.h"
+#include "sources/exported_page.h"
 #include "terminal/complaint.h"
 
 namespace {
 
 // The first that recognises a file reads it.
 constexpr std::array kSources = {
+    Source{"an exported page", isExportedPage, readExportedPage},
     Source{"clippings", isClippings, readClippings},
     Source{"an annotation set", isAnnotationSet, readAnnotationSet},
     Source{"a device file", isDeviceFile, readDeviceFile},

@@ -4,22 +4,26 @@
 #include <unordered_map>
 
 #include "device/calendar.h"
+#include "sources/clippings/matching.h"
 #include "sources/clippings/numbers.h"
 #include "sources/clippings/words.h"
 
 namespace {
+
+namespace words = clipping_words;
 
 using Months = std::unordered_map<std::string_view, int>;
 
 Months monthsByName() {
     Months months;
     int number = 0;
-    for (std::string_view names : clipping_words::kMonths) {
+    for (std::string_view names : words::kMonths) {
         ++number;
         while (!names.empty()) {
             const std::size_t length = names.find(' ');
             months.emplace(names.substr(0, length), number);
-            names.remove_prefix(length == names.npos ? names.size() : length + 1);
+            names.remove_prefix(length == std::string_view::npos ? names.size()
+                                                                 : length + 1);
         }
     }
     return months;
@@ -40,16 +44,6 @@ int monthNamedIn(std::string_view text) {
     return 0;
 }
 
-template <class Words>
-bool hasOneOf(std::string_view text, const Words& words) {
-    for (const std::string_view word : words) {
-        if (text.find(word) != std::string_view::npos) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // What is read from the numbers of the text, one after the other.
 struct Moment {
     std::int64_t year = -1;
@@ -57,14 +51,16 @@ struct Moment {
     std::int64_t day = 0;
     std::int64_t seconds = 0;
     int partsOfTime = 0;  // that have been read: hours, minutes, seconds
+    std::string_view afterTime = {};
 };
 
 void take(Moment& moment, const NumberInText& number) {
     constexpr std::int64_t kFactors[] = {3600, 60, 1};
     const bool isTime =
         number.rest.substr(0, 1) == ":" || (moment.partsOfTime > 0 && number.before == ':');
-    if (isTime && moment.partsOfTime < 3) {
+    if (isTime && number.digits <= 2 && moment.partsOfTime < 3) {
         moment.seconds += number.value * kFactors[moment.partsOfTime++];
+        moment.afterTime = number.rest;
     } else if (number.digits == 4 && moment.year < 0) {
         moment.year = number.value;
     } else if (number.rest.substr(0, 3) == "月") {
@@ -75,13 +71,18 @@ void take(Moment& moment, const NumberInText& number) {
 }
 
 std::int64_t secondsOfDay(const Moment& moment, std::string_view text) {
-    constexpr std::int64_t kNoon = 12 * 3600;
-    if (hasOneOf(text, clipping_words::kAfternoon) && moment.seconds < kNoon) {
+    constexpr std::int64_t kHour = 3600;
+    constexpr std::int64_t kNoon = 12 * kHour;
+    if (moment.seconds < kNoon && (startsWithOneOf(moment.afterTime, words::kPm) ||
+                                   hasOneOf(text, words::kAfternoon))) {
         return moment.seconds + kNoon;
     }
-    const bool isMidnight = moment.seconds >= kNoon && moment.seconds < kNoon + 3600 &&
-                            hasOneOf(text, clipping_words::kMorning);
-    return isMidnight ? moment.seconds - kNoon : moment.seconds;
+    if (moment.seconds >= kNoon && moment.seconds < kNoon + kHour &&
+        (startsWithOneOf(moment.afterTime, words::kAm) ||
+         hasOneOf(text, words::kMorning))) {
+        return moment.seconds - kNoon;
+    }
+    return moment.seconds;
 }
 
 }  // namespace
@@ -99,7 +100,6 @@ std::optional<std::int64_t> parseClippingDate(const std::string& text) {
         return std::nullopt;
     }
     constexpr std::int64_t kDay = 86400;
-    const std::string_view words(text);
     return daysSinceEpoch({moment.year, moment.month, moment.day}) * kDay +
-           secondsOfDay(moment, words) % kDay;
+           secondsOfDay(moment, text) % kDay;
 }

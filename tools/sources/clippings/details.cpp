@@ -6,6 +6,7 @@
 
 #include "device/folded.h"
 #include "sources/clippings/date.h"
+#include "sources/clippings/matching.h"
 #include "sources/clippings/numbers.h"
 #include "sources/clippings/words.h"
 
@@ -73,24 +74,9 @@ bool endsWithOneOf(std::string_view text, const Words& list) {
         text.substr(text.size() - std::min(text.size(), kLongestEnding));
     return std::any_of(list.begin(), list.end(), [&](std::string_view word) {
         const std::size_t at = end.rfind(word);
-        const std::size_t ending = at == end.npos ? 0 : at + word.size();
+        const std::size_t ending = at == std::string_view::npos ? 0 : at + word.size();
         const std::string_view behind = end.substr(ending);
-        return at != end.npos && behind.find(' ') == behind.find_last_of(' ');
-    });
-}
-
-template <class Words>
-bool startsWithOneOf(std::string_view text, const Words& list) {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return std::any_of(list.begin(), list.end(), [&](std::string_view word) {
-        return text.substr(0, word.size()) == word;
-    });
-}
-
-template <class Words>
-bool hasOneOf(const std::string& text, const Words& list) {
-    return std::any_of(list.begin(), list.end(), [&](std::string_view word) {
-        return text.find(word) != std::string::npos;
+        return at != std::string_view::npos && behind.find(' ') == behind.find_last_of(' ');
     });
 }
 

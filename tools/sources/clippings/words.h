@@ -25,10 +25,13 @@ inline constexpr std::array<std::string_view, 4> kAfterPage = {"ページ", "页
 inline constexpr std::array<std::string_view, 7> kBeforeLocation = {
     "loc", "posi", "ubicaci", "emplacement", "мест", "位置", "위치"};
 
-inline constexpr std::array<std::string_view, 6> kAfternoon = {"pm",   "p.m",  "p. m",
-                                                               "下午", "午後", "오후"};
-inline constexpr std::array<std::string_view, 6> kMorning = {"am",   "a.m",  "a. m",
-                                                             "上午", "午前", "오전"};
+// Behind the time.
+inline constexpr std::array<std::string_view, 3> kPm = {"pm", "p.m", "p. m"};
+inline constexpr std::array<std::string_view, 3> kAm = {"am", "a.m", "a. m"};
+
+// Anywhere.
+inline constexpr std::array<std::string_view, 3> kAfternoon = {"下午", "午後", "오후"};
+inline constexpr std::array<std::string_view, 3> kMorning = {"上午", "午前", "오전"};
 
 inline constexpr std::array<std::string_view, 12> kMonths = {
     "january jan januar janvier enero janeiro gennaio januari января январь",

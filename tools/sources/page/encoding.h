@@ -1,0 +1,8 @@
+// Text files of any encoding.
+#pragma once
+
+#include <string>
+
+// The HTML document as UTF-8, without a byte order mark: from UTF-16 by its mark, or from
+// the encoding that the document names. What cannot be converted stays as it is.
+std::string htmlAsUtf8(std::string html);

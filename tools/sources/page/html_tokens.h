@@ -1,0 +1,41 @@
+// The tags and the text of an HTML or XHTML document, one after the other: in time that
+// grows with its length, whatever is wrong with it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+struct HtmlToken {
+    enum class Kind { Text, Start, End };
+
+    Kind kind = Kind::Text;
+    std::string text;  // of a tag its name, in lower case
+
+    // Of a start tag: the value, with its references resolved; empty when there is none.
+    std::string attribute(std::string_view name) const;
+    bool hasAttribute(std::string_view name) const;
+
+    std::vector<std::pair<std::string, std::string_view>> attributes = {};
+};
+
+class HtmlTokens {
+public:
+    // `html`, in UTF-8, must outlive this object and its tokens.
+    explicit HtmlTokens(std::string_view html) : rest_(html) {}
+
+    // Reads the next token; false at the end. Comments, declarations, scripts and style
+    // sheets are passed over.
+    bool next(HtmlToken& token);
+
+private:
+    void readText(HtmlToken& token);
+    void readTag(HtmlToken& token);
+    void readAttributes(HtmlToken& token);
+    std::string_view readValue();
+    void skipPast(std::string_view end);
+    void skipContent(const std::string& element);
+
+    std::string_view rest_;
+};
