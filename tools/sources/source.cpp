@@ -8,6 +8,7 @@
 #include "sources/clippings.h"
 #include "sources/device_file.h"
 #include "sources/exported_page.h"
+#include "sources/kobo_database.h"
 #include "terminal/complaint.h"
 
 namespace {
@@ -16,6 +17,7 @@ namespace {
 constexpr std::array kSources = {
     Source{"an exported page", isExportedPage, readExportedPage},
     Source{"clippings", isClippings, readClippings},
+    Source{"a Kobo reader's database", isKoboDatabase, readKoboDatabase},
     Source{"an annotation set", isAnnotationSet, readAnnotationSet},
     Source{"a device file", isDeviceFile, readDeviceFile},
 };

@@ -1,0 +1,37 @@
+// The bookmarks of a Kobo reader's database, with the books that they are in.
+#pragma once
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+struct KoboBookmark {
+    std::string id;
+    std::string volume;   // identifier of the book
+    std::string chapter;  // identifier of the content that it is in
+    std::string text;
+    std::string annotation;
+    std::string created;
+    std::string modified;
+    double progress = 0;  // within the chapter
+    std::string hidden;
+    std::string uuid;
+    std::string type;
+    std::string color;
+};
+
+// All of them, in no order. Columns that older firmware lacks are empty.
+std::vector<KoboBookmark> readBookmarks(SQLite::Database& database);
+
+struct KoboContent {
+    std::string title;
+    std::string author;
+    std::int64_t place = 0;  // of a chapter within its book
+};
+
+// The books and chapters, by identifier.
+using KoboContents = std::unordered_map<std::string, KoboContent>;
+KoboContents readContents(SQLite::Database& database);
