@@ -20,21 +20,18 @@ std::function<void()> forDevice(Program& program, const Request& request,
 }
 
 void addDirectory(CLI::App& command, std::string& directory) {
-    command
-        .add_option("--dir", directory,
-                    "Folder for the exported file (default: the device's own)")
+    command.add_option("--dir", directory, "Folder for the pages (default: the device's)")
         ->type_name("DIR")
         ->transform(callersPath());
 }
 
 void addTarget(CLI::App& command, ExportRequest& request) {
     addDirectory(command, request.directory);
-    command.add_option("-o", request.file, "Write this new file; for one BOOK")
+    command.add_option("-o", request.file, "Write this file; for one BOOK")
         ->type_name("FILE")
         ->transform(callersPath())
         ->excludes("--dir");
-    command.add_flag("--update", request.update,
-                     "Leave pages alone that are up to date, replace older ones");
+    command.add_flag("--update", request.update, "Skip books whose page is up to date");
 }
 
 void checkBooks(const ExportRequest& request, const CLI::App& command) {

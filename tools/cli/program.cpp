@@ -14,9 +14,7 @@ CLI::App& addCommand(Program& program, const char* name, const char* description
 }
 
 CLI::Option& addBook(CLI::App& command, std::vector<std::string>& books) {
-    return *command
-                .add_option("BOOK", books,
-                            "The book's hash or title, or a start that no other book has")
+    return *command.add_option("BOOK", books, "Hash or title of the book, or its start")
                 ->type_name("")
                 ->expected(1)
                 ->required();

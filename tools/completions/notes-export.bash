@@ -17,7 +17,7 @@ _notes_export_read_line() {
                 ((++i))
                 device=$(_notes_export_plain "${COMP_WORDS[i]}")
                 ;;
-            --note | --order | --dir | --format | --color | --since | --match | --pictures) ((++i)) ;;
+            --note | --order | --dir | -o | --format | --color | --since | --match | --pictures) ((++i)) ;;
             -*) ;;
             *)
                 if [[ -z $command ]]; then
@@ -47,14 +47,14 @@ _notes_export_books() {
 _notes_export_words() {
     local -A options=([books]='--format --json'
         [notes]='--format --json --note --color --since --match --pictures'
-        [export]='--note --order --dir' [name]='--dir')
+        [export]='--all --note --color --since --match --order --dir -o --update' [name]='--dir')
     if [[ -z $command && $1 == -* ]]; then
         compgen -W '-C --help --version' -- "$1"
     elif [[ -z $command ]]; then
         compgen -W 'load import books notes export name' -- "$1"
     elif [[ $1 == -* ]]; then
         compgen -W "${options[$command]-} -C --help" -- "$1"
-    elif [[ -z $argument && $command =~ ^(notes|export|name)$ ]]; then
+    elif [[ $command =~ ^(notes|export)$ || -z $argument && $command == name ]]; then
         _notes_export_books "$1"
     fi
 }
@@ -68,13 +68,17 @@ _notes_export() {
             compopt -o dirnames
             return
             ;;
+        -o)
+            compopt -o default
+            return
+            ;;
         --note | --color | --since | --match) return ;;
         --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown' -- "$current") ;;
         --order) mapfile -t COMPREPLY < <(compgen -W 'page id newest' -- "$current") ;;
         *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;
     esac
     # Readline itself quotes the names of files.
-    if [[ $command =~ ^(load|import)$ && -z $argument && $current != -* ]]; then
+    if [[ $command =~ ^(load|import)$ && $current != -* ]]; then
         compopt -o default
     fi
 }
