@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Plays a transcript in an empty folder, and shows the difference when it goes otherwise. After
-# each command ("$ …") a transcript has the output, the errors ("! …"), and the status unless
-# that is 0 ("[…]").
-#   transcript_test.sh TRANSCRIPT DEVICE_FILE
+# Plays a transcript in a folder with copies of FILE, and shows the difference when it goes
+# otherwise. After each command ("$ …") a transcript has the output, the errors ("! …"), and the
+# status unless that is 0 ("[…]"). Of a manual page, its literal blocks are the transcript.
+#   transcript_test.sh TRANSCRIPT FILE...
 set -o pipefail
 
 play() {
@@ -10,6 +10,9 @@ play() {
         case $line in
             '# '*) printf '\n%s\n' "$line" ;;
             '$ '*)
+                while [[ $line == *[\\\|] ]] && IFS= read -r rest; do
+                    line+=$'\n'$rest
+                done
                 printf '%s\n' "$line"
                 eval "${line#??}" >.out 2>.err </dev/null
                 status=$?
@@ -18,11 +21,16 @@ play() {
                 [ "$status" -eq 0 ] || echo "[$status]"
                 ;;
         esac
-    done <"$1"
+    done <"$transcript"
 }
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-cp "$2" "$scratch/device.json"
+cp -r "${@:2}" "$scratch"
+transcript=$(realpath "$1")
+if [[ $1 == *.1 ]]; then
+    transcript=$scratch/.transcript
+    sed -n '/^\.Bd -literal/,/^\.Ed/{//d; s/\\e/\\/g; p}' "$1" >"$transcript"
+fi
 cd "$scratch" || exit
-play "$1" | sed -e "s|$scratch|SCRATCH|g" -e 's/\x1b/ESC/g' -e 's/\r/CR/g' | diff -u "$1" -
+play | sed -e "s|$scratch|SCRATCH|g" -e 's/\x1b/ESC/g' -e 's/\r/CR/g' | diff -u "$transcript" -
