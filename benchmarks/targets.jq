@@ -7,7 +7,9 @@
   {"ratio/exportToRendering/1000": 1.3, "ratio/exportToFetchingAndRendering/1000": 1.3,
    "ratio/exportToFetchingAndRendering/100000": 1.3, "ratio/dumpElementToItsEncoding/1000000": 2,
    "ratio/base64ToOpenSsl/400000": 1.25, "ratio/hostExportToFloorAsAsked/10000": 2,
-   "ratio/hostImportToFloor/10000": 2} as $limits
+   "ratio/hostImportToFloor/10000": 2, "ratio/loadClippingsToDeviceFile/100000": 1.5,
+   "ratio/loadKoboToDeviceFile/100000": 1.5, "ratio/loadAnnotationsToDeviceFile/100000": 1.5,
+   "ratio/exportAllToOneByOne/400": 1.2, "ratio/updateToExportAll/400": 0.2} as $limits
 | [
   ($limits | keys[] | time(.) | empty),  # each of them was measured
   ({render: "", write: "/writer"} | to_entries[] | .key as $task | .value as $ours

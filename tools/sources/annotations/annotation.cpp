@@ -57,9 +57,8 @@ std::string withoutPrefix(const std::string& text, std::string_view prefix) {
 }
 
 void addComment(SourceNote& note, const std::string& comment) {
-    constexpr const char* kParagraphSeparator = "\u2029";
     if (!note.comment.empty() && !comment.empty()) {
-        note.comment += kParagraphSeparator;
+        note.comment += "\u2029";  // PARAGRAPH SEPARATOR
     }
     note.comment += comment;
 }

@@ -74,11 +74,10 @@ private:
 
 // A note that holds the one before is a new version of it.
 void addComment(Passage& passage, const Passage& note) {
-    constexpr const char* kParagraphSeparator = "\u2029";
     const std::string& text = note.record.text;
     std::string& comment = passage.comment;
     if (!contains(text, comment.substr(passage.latestComment))) {
-        comment += kParagraphSeparator;
+        comment += "\u2029";  // PARAGRAPH SEPARATOR
         passage.latestComment = comment.size();
     }
     comment.replace(passage.latestComment, std::string::npos, text);

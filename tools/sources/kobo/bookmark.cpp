@@ -38,12 +38,11 @@ std::vector<KoboBookmark> readBookmarks(SQLite::Database& database) {
     std::vector<KoboBookmark> bookmarks;
     while (rows.executeStep()) {
         KoboBookmark& bookmark = bookmarks.emplace_back();
-        std::string* const texts[] = {
-            &bookmark.id,         &bookmark.volume,  &bookmark.chapter,  &bookmark.text,
-            &bookmark.annotation, &bookmark.created, &bookmark.modified, &bookmark.hidden,
-            &bookmark.uuid,       &bookmark.type,    &bookmark.color};
         int column = 0;
-        for (std::string* text : texts) {
+        for (std::string* text :
+             {&bookmark.id, &bookmark.volume, &bookmark.chapter, &bookmark.text,
+              &bookmark.annotation, &bookmark.created, &bookmark.modified, &bookmark.hidden,
+              &bookmark.uuid, &bookmark.type, &bookmark.color}) {
             *text = rows.getColumn(column++).getString();
         }
         bookmark.progress = rows.getColumn(column).getDouble();
