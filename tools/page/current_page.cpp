@@ -53,9 +53,12 @@ bool includesNotes(const host::BookRecord& book, const host::BookRecord& older) 
 CurrentPage::CurrentPage(host::ReaderStore& reader, host::LibraryStore& library,
                          const host::BookEntry& book,
                          const std::set<unsigned long long>& notes, std::string styleSheet)
-    : styleSheet_(std::move(styleSheet)), title_(book.title) {
+    : reader_(reader),
+      book_{static_cast<unsigned long long>(book.id)},
+      notes_(notes),
+      styleSheet_(std::move(styleSheet)),
+      title_(book.title) {
     using veloran::utilities::SerializationUtils;
-    host::writeDump(reader, {static_cast<unsigned long long>(book.id)}, notes, dump_);
     const auto id = library.findBook(SerializationUtils::FromHex(book.fastHash));
     if (const auto known = id ? library.book(*id) : std::nullopt) {
         title_ = known->title;
@@ -63,18 +66,29 @@ CurrentPage::CurrentPage(host::ReaderStore& reader, host::LibraryStore& library,
     }
 }
 
+// A book without a title is named after its file.
 bool CurrentPage::isAt(const std::string& path) const {
     const PageHead page = readPageHead(path);
-    // A book without a title is named after its file.
     return page.styleSheet == styleSheet_ && page.author == escaped(author_) &&
-           (title_.empty() || page.heading == escaped(title_)) &&
-           host::decodeBase64(page.dump) == dump_;
+           (title_.empty() || page.heading == escaped(title_)) && hasRecords(page);
+}
+
+bool CurrentPage::hasRecords(const PageHead& page) const {
+    auto dump = host::decodeBase64(page.dump);
+    try {
+        return dump &&
+               host::isCurrentDump(reader_, book_, notes_, host::Payload{std::move(*dump)});
+    } catch (const host::DumpError&) {
+        return false;
+    }
 }
 
 bool CurrentPage::includes(const std::string& path) const {
     try {
+        std::string dump;
+        host::writeDump(reader_, book_, notes_, dump);
+        const auto now = host::readPayload({std::move(dump)}, host::kMaxDumpSize);
         const auto older = host::readDump(path);
-        const auto now = host::readPayload({dump_}, host::kMaxDumpSize);
         return older.size() == 1 && older[0].fastHash == now.at(0).fastHash &&
                includesNotes(now[0], older[0]);
     } catch (const host::DumpError&) {

@@ -4,10 +4,12 @@
 #include <set>
 #include <string>
 
+#include "page/page_head.h"
 #include "store/library_store.h"
 #include "store/reader_store.h"
 
-// What an export of a book would write now, but for the notes as people see them.
+// What an export of a book would write now, but for the notes as people see them. The
+// stores must outlive it.
 class CurrentPage {
 public:
     // `notes` are the identifiers of those that would be exported; empty means all.
@@ -24,8 +26,12 @@ public:
     bool includes(const std::string& path) const;
 
 private:
-    std::string dump_;
-    std::string styleSheet_;
+    bool hasRecords(const PageHead& page) const;
+
+    host::ReaderStore& reader_;
+    const std::set<unsigned long long> book_;  // its identifier alone
+    const std::set<unsigned long long> notes_;
+    const std::string styleSheet_;
     std::string title_;
     std::string author_;
 };

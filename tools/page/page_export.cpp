@@ -70,7 +70,8 @@ std::string PageExport::writeInto(FreshFolder& folder, const host::BookEntry& bo
     return page;
 }
 
-// The name that is free is asked for again as long as others take it.
+// The page's name is free there in most cases; the next one is asked for as long as others
+// take it.
 std::string PageExport::place(const std::string& page, const host::BookEntry& book) {
     if (!request_.file.empty()) {
         if (!moveIntoPlace(page, request_.file, shown(request_.file))) {
@@ -79,10 +80,10 @@ std::string PageExport::place(const std::string& page, const host::BookEntry& bo
         }
         return request_.file;
     }
-    std::string path;
-    do {
+    std::string path = directory_ + "/" + nameOf(page);
+    while (!moveIntoPlace(page, path, shown(path))) {
         path = exporter_.fileName(book.fastHash);
-    } while (!moveIntoPlace(page, path, shown(path)));
+    }
     return path;
 }
 

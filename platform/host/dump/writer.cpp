@@ -4,9 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "dump/format.h"
+#include "dump/gunzip_stream.h"
 #include "dump/gzip_writer.h"
 #include "dump/json_sax.h"
 #include "dump/note_json.h"
@@ -20,11 +22,35 @@ bool isText(const std::string& bytes) {
     return bytes.find('\0') == std::string::npos && isUtf8(bytes);
 }
 
+// The text that another dump holds, in the place of a new one.
+class ComparingStream {
+public:
+    using Ch = char;
+
+    explicit ComparingStream(Payload payload)
+        : expected_(std::move(payload), kMaxDumpSize) {}
+
+    // Past the end there are zero bytes, which JSON does not have.
+    void Put(char c) { isSame_ = isSame_ && expected_.Take() == c; }
+    void Flush() {}
+    void beginNoise() {}
+    void endNoise() {}
+    void finish() { isSame_ = isSame_ && expected_.atEnd(); }
+
+    bool isSame() const { return isSame_; }
+
+private:
+    GunzipStream expected_;
+    bool isSame_ = true;
+};
+
+// Writes JSON to a GzipWriter, or to what looks like one.
+template <class Stream>
 class DumpWriter {
 public:
     DumpWriter(ReaderStore& store, const std::set<unsigned long long>& selected,
-               std::string& out)
-        : store_(store), selected_(selected), gzip_(out, kMaxDumpSize), json_(gzip_) {}
+               Stream& stream)
+        : store_(store), selected_(selected), stream_(stream), json_(stream) {}
 
     void write(const std::vector<BookEntry>& books);
 
@@ -43,13 +69,14 @@ private:
 
     ReaderStore& store_;
     const std::set<unsigned long long>& selected_;
-    GzipWriter gzip_;
-    JsonWriter<GzipWriter> json_;
+    Stream& stream_;
+    JsonWriter<Stream> json_;
     NoteJson noteJson_;
     std::size_t records_ = 0;
 };
 
-void DumpWriter::write(const std::vector<BookEntry>& books) {
+template <class Stream>
+void DumpWriter<Stream>::write(const std::vector<BookEntry>& books) {
     json_.StartObject();
     key("format");
     json_.String(kFormatName);
@@ -62,17 +89,19 @@ void DumpWriter::write(const std::vector<BookEntry>& books) {
     }
     json_.EndArray();
     json_.EndObject();
-    gzip_.finish();
+    stream_.finish();
 }
 
-void DumpWriter::startRecord() {
+template <class Stream>
+void DumpWriter<Stream>::startRecord() {
     if (++records_ > kMaxRecords) {
         throw std::runtime_error("the dump exceeds its largest number of records");
     }
     json_.StartObject();
 }
 
-void DumpWriter::book(const BookEntry& book) {
+template <class Stream>
+void DumpWriter<Stream>::book(const BookEntry& book) {
     startRecord();
     bytes("fast_hash", book.fastHash);
     bytes("title", book.title);
@@ -88,7 +117,8 @@ void DumpWriter::book(const BookEntry& book) {
     json_.EndObject();
 }
 
-void DumpWriter::note(std::int64_t id) {
+template <class Stream>
+void DumpWriter<Stream>::note(std::int64_t id) {
     const NoteRecord note = store_.note(id).value();
     startRecord();
     bytes("uuid", note.uuid);
@@ -101,7 +131,8 @@ void DumpWriter::note(std::int64_t id) {
     json_.EndObject();
 }
 
-void DumpWriter::tag(const TagRecord& tag) {
+template <class Stream>
+void DumpWriter<Stream>::tag(const TagRecord& tag) {
     startRecord();
     key("tag");
     json_.Int(tag.tag);
@@ -115,16 +146,17 @@ void DumpWriter::tag(const TagRecord& tag) {
     json_.EndObject();
 }
 
-void DumpWriter::bytes(const std::string& name, const std::string& value) {
+template <class Stream>
+void DumpWriter<Stream>::bytes(const std::string& name, const std::string& value) {
     if (isText(value)) {
         key(name);
         string(value);
         return;
     }
     key(name + kBase64Suffix);
-    gzip_.beginNoise();
+    stream_.beginNoise();
     string(encodeBase64(value));
-    gzip_.endNoise();
+    stream_.endNoise();
 }
 
 std::vector<BookEntry> findBooks(ReaderStore& store,
@@ -141,19 +173,33 @@ std::vector<BookEntry> findBooks(ReaderStore& store,
     return found;
 }
 
-}  // namespace
-
-bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
-               const std::set<unsigned long long>& notes, std::string& out) {
+// Returns whether there is any of the books.
+template <class Stream>
+bool write(ReaderStore& store, const std::set<unsigned long long>& books,
+           const std::set<unsigned long long>& notes, Stream& stream) {
     bool any = false;
     store.readTogether([&] {
         const std::vector<BookEntry> found = findBooks(store, books);
         any = !found.empty();
         if (any) {
-            DumpWriter(store, notes, out).write(found);
+            DumpWriter(store, notes, stream).write(found);
         }
     });
     return any;
+}
+
+}  // namespace
+
+bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
+               const std::set<unsigned long long>& notes, std::string& out) {
+    GzipWriter stream(out, kMaxDumpSize);
+    return write(store, books, notes, stream);
+}
+
+bool isCurrentDump(ReaderStore& store, const std::set<unsigned long long>& books,
+                   const std::set<unsigned long long>& notes, Payload payload) {
+    ComparingStream stream(std::move(payload));
+    return write(store, books, notes, stream) && stream.isSame();
 }
 
 }  // namespace host

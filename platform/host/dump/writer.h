@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 
+#include "dump/payload.h"
 #include "store/reader_store.h"
 
 namespace host {
@@ -16,5 +17,10 @@ namespace host {
 // largest size. `out` is unspecified in both cases.
 bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
                const std::set<unsigned long long>& notes, std::string& out);
+
+// Whether the payload holds just the text that writeDump would write. Throws DumpError
+// besides, when the payload is damaged.
+bool isCurrentDump(ReaderStore& store, const std::set<unsigned long long>& books,
+                   const std::set<unsigned long long>& notes, Payload payload);
 
 }  // namespace host
