@@ -17,17 +17,17 @@
  *    handle must not serve two calls at the same time; different handles may serve
  *    different threads. The library takes no lock of its own, but the device's databases
  *    make a call wait while another thread or process writes. How long is the platform's
- *    choice (the host platform, for desktops: at most 5 seconds for each question). Then
- * the call fails as 7 says, or an export lacks its records as 6 says.
- * 6. What becomes of the exported file is not reported: a full disk, a directory that
- *    cannot be written or a reader database that was busy gives the same result as success.
- *    Whoever must know looks at the file that notes_exporter_get_exported_file_name named
- *    before the export. It ends in "</html>" when it is whole. When the records that an
- *    import needs could not be had, it has no "script" element.
+ *    choice (the host platform, for desktops: at most 5 seconds for each query). Then
+ *    the call fails as 7 says, or an export lacks its records as 6 says.
+ * 6. Failures to write the exported file are not reported: a full disk, a directory that
+ *    cannot be written or a busy reader database gives the same result as success. To
+ *    detect them, read the file that notes_exporter_get_exported_file_name named before
+ *    the export. A complete file ends in "</html>". Without a "script" element it lacks the
+ *    records that an import needs.
  * 7. A failure inside the device's libraries, a failed allocation or a null text is a C++
  *    exception. notes_exporter_import_from_file turns one derived from std::exception into
- *    -1. Every other function lets it pass to its caller, everything released on the way;
- *    in a program without a C++ handler that ends the program.
+ *    -1. Every other function releases what it holds and passes the exception on to its
+ *    caller; a program without a C++ handler is terminated.
  * 8. Choosing a file name and opening the file are two steps. Two exports of one title into
  *    one directory at the same time can write into one file: let each export write into a
  *    directory of its own and then move the file to a name that is free.

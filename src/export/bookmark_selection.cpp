@@ -10,8 +10,8 @@ namespace {
 
 using utilities::Note;
 
-// What the order looks at, side by side and apart from the notes: sorting would fetch each
-// of them from memory again and again.
+// A sort key. Contiguous keys, apart from the notes, keep the sort from fetching the notes
+// from memory again and again.
 struct SortKey {
     std::uint32_t page;
     long long noteId;

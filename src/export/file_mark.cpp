@@ -18,7 +18,7 @@ std::string hashOfFile(const std::string& path) {
     std::array<char, 256> buffer{};
     constexpr int kCapacity = static_cast<int>(buffer.size());
     const int length = FastBookHash(path.c_str(), buffer.data(), kCapacity);
-    // A length beyond the buffer cannot be that of the text in it.
+    // Lengths beyond the buffer are ignored.
     if (length < 1 || length > kCapacity) {
         return {};
     }

@@ -1,4 +1,4 @@
-// A stable sort that no predicate can lead astray.
+// A stable sort that is safe with inconsistent predicates.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 namespace veloran {
 
 // Appends both sorted ranges to `out` as one. Each step takes one element that is there, so
-// that no answer of `before` can lead out of the ranges; of equivalent elements the first
+// that the ranges are not left, whatever `before` answers; of equivalent elements the first
 // range's come first.
 template <class Iterator, class T, class Before>
 void mergeInto(std::vector<T>& out, Iterator first, Iterator middle, Iterator last,

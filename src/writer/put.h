@@ -8,7 +8,7 @@
 
 namespace markup {
 
-// What is protected in every stream buffer: its room for what comes next.
+// Access to the protected put area of a stream buffer.
 struct PutArea : std::streambuf {
     static char* begin(const std::streambuf& buffer) { return (buffer.*&PutArea::pptr)(); }
     static char* end(const std::streambuf& buffer) { return (buffer.*&PutArea::epptr)(); }
@@ -17,16 +17,16 @@ struct PutArea : std::streambuf {
     }
 };
 
-// Most texts of a document are shorter than what the stream would do for each of them: they
-// go straight into its buffer, as sputc puts a single byte.
-inline bool putIntoRoom(std::streambuf& buffer, std::string_view text) {
+// Copies a short text directly, as sputc does with one byte: the stream would spend more on
+// each call than on the text. Returns false when the text does not fit, or is long.
+inline bool putIntoBuffer(std::streambuf& buffer, std::string_view text) {
     constexpr std::size_t kLongest = 4096;
-    char* const room = PutArea::begin(buffer);
-    const auto size = static_cast<std::size_t>(PutArea::end(buffer) - room);
+    char* const area = PutArea::begin(buffer);
+    const auto size = static_cast<std::size_t>(PutArea::end(buffer) - area);
     if (text.size() > size || text.size() > kLongest) {
         return false;
     }
-    text.copy(room, text.size());
+    text.copy(area, text.size());
     PutArea::advance(buffer, text.size());
     return true;
 }
@@ -34,7 +34,7 @@ inline bool putIntoRoom(std::streambuf& buffer, std::string_view text) {
 // Unformatted output: neither a locale nor a field width of the stream can change a byte,
 // and a stream that has failed passes nothing on.
 inline void put(std::ostream& stream, std::string_view text) {
-    if (!stream.good() || putIntoRoom(*stream.rdbuf(), text)) {
+    if (!stream.good() || putIntoBuffer(*stream.rdbuf(), text)) {
         return;
     }
     const auto size = static_cast<std::streamsize>(text.size());

@@ -7,8 +7,8 @@
 
 namespace markup {
 
-// What stands in the document for the first `length` bytes of a text; an empty `text` where
-// they stand for themselves.
+// The markup for the first `length` bytes of a text; an empty `text` leaves them as they
+// are.
 struct Replacement {
     std::string_view text;
     std::size_t length = 1;
@@ -32,8 +32,8 @@ inline Replacement entityAt(const char* text) {
     }
 }
 
-// How a text is rewritten: what `replacementAt` finds stands in place of what is there. No
-// replacement starts with a byte that is not in `starts`.
+// A rule for rewriting: `replacementAt` returns the replacement at the start of a text. It
+// is called only at bytes that are in `starts`.
 struct Rewriting {
     const char* starts;
     Replacement (*replacementAt)(const char* text);

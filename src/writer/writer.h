@@ -25,7 +25,7 @@ public:
     // Text content, escaped.
     Writer& writeText(const char* text);
 
-    // Content that is markup already. It counts for nothing in the layout.
+    // Markup, written verbatim; does not affect indentation.
     Writer& writeRaw(const char* text);
     Writer& writeRaw(const char* bytes, std::size_t length);
 

@@ -9,7 +9,7 @@ inline constexpr const char* kAll = R"(Examples:
   notes-export -C reader export --all --dir Notes
   notes-export -C other import Notes/Emma.html
 
-"notes-export COMMAND --help" explains a command; "man notes-export" tells all.)";
+"notes-export COMMAND --help" explains a command. The full manual: "man notes-export")";
 
 inline constexpr const char* kBooks = R"(Examples:
   notes-export -C reader books | grep Melville

@@ -65,11 +65,11 @@ void addExport(Program& program) {
 
 void addName(Program& program) {
     const Request request = std::make_shared<ExportRequest>();
-    CLI::App& naming =
+    CLI::App& command =
         addCommand(program, "name", "Print the path of the file that an export would write",
                    Device::MustExist, forDevice(program, request, printName));
-    addBook(naming, request->books);
-    addDirectory(naming, request->directory);
+    addBook(command, request->books);
+    addDirectory(command, request->directory);
 }
 
 }  // namespace

@@ -40,6 +40,5 @@ std::string misuse(const CLI::App* app, const CLI::Error& error) {
     for (const CLI::App* typed : app->get_subcommands()) {
         command += " " + typed->get_name();
     }
-    return complaintText(std::string(error.what()) + "\n\"" + command +
-                         " --help\" tells what can be typed.");
+    return complaintText(std::string(error.what()) + "\nTry \"" + command + " --help\".");
 }

@@ -53,7 +53,7 @@ void checkNames(const JsonObject& object, const Things& things, Name name, const
 std::string readHash(JsonObject& object) {
     std::string hash = object.requiredText("hash");
     if (!host::isBookHash(hash)) {
-        object.complain("\"hash\" wants pairs of hexadecimal digits, in lower case");
+        object.complain("expected pairs of hexadecimal digits, in lower case, as \"hash\"");
     }
     return hash;
 }

@@ -9,7 +9,7 @@
 JsonObject::JsonObject(const Json::Value& value, std::string place)
     : value_(value), place_(std::move(place)) {
     if (!value_.isObject()) {
-        complain("an object is wanted here");
+        complain("expected an object");
     }
 }
 
@@ -58,7 +58,7 @@ std::optional<std::string> JsonObject::file(const std::string& name,
 void JsonObject::complainAboutUnknownMembers() const {
     for (const std::string& name : value_.getMemberNames()) {
         if (known_.count(name) == 0) {
-            complain("\"" + oneLine(name) + "\" is not known here");
+            complain("\"" + oneLine(name) + "\": unknown member");
         }
     }
 }

@@ -31,8 +31,8 @@ public:
 
     // Announces that what follows has no repetitions worth looking for: Base64 of a picture
     // compresses three times as fast then, and no worse.
-    void beginNoise() { setStrategy(Z_HUFFMAN_ONLY); }
-    void endNoise() { setStrategy(Z_DEFAULT_STRATEGY); }
+    void beginIncompressible() { setStrategy(Z_HUFFMAN_ONLY); }
+    void endIncompressible() { setStrategy(Z_DEFAULT_STRATEGY); }
 
     // Ends the member. Nothing may follow.
     void finish() { compress(Z_FINISH); }

@@ -33,8 +33,8 @@ public:
     // Past the end there are zero bytes, which JSON does not have.
     void Put(char c) { isSame_ = isSame_ && expected_.Take() == c; }
     void Flush() {}
-    void beginNoise() {}
-    void endNoise() {}
+    void beginIncompressible() {}
+    void endIncompressible() {}
     void finish() { isSame_ = isSame_ && expected_.atEnd(); }
 
     bool isSame() const { return isSame_; }
@@ -154,9 +154,9 @@ void DumpWriter<Stream>::bytes(const std::string& name, const std::string& value
         return;
     }
     key(name + kBase64Suffix);
-    stream_.beginNoise();
+    stream_.beginIncompressible();
     string(encodeBase64(value));
-    stream_.endNoise();
+    stream_.endIncompressible();
 }
 
 std::vector<BookEntry> findBooks(ReaderStore& store,
@@ -178,7 +178,7 @@ template <class Stream>
 bool write(ReaderStore& store, const std::set<unsigned long long>& books,
            const std::set<unsigned long long>& notes, Stream& stream) {
     bool any = false;
-    store.readTogether([&] {
+    store.inReadTransaction([&] {
         const std::vector<BookEntry> found = findBooks(store, books);
         any = !found.empty();
         if (any) {

@@ -15,7 +15,7 @@ namespace {
 constexpr int kBusyTimeoutMs = 5000;
 
 template <class Action>
-decltype(auto) naming(const std::string& path, Action action) {
+decltype(auto) withPath(const std::string& path, Action action) {
     try {
         return action();
     } catch (const SQLite::Exception& error) {
@@ -31,7 +31,7 @@ SQLite::Database openFile(const std::string& path) {
     if (!directory.empty()) {
         std::filesystem::create_directories(directory);
     }
-    return naming(path, [&] {
+    return withPath(path, [&] {
         // One thread at a time: no call needs a lock.
         return SQLite::Database(
             path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
@@ -42,11 +42,11 @@ SQLite::Database openFile(const std::string& path) {
 }  // namespace
 
 bool Query::next() {
-    return naming(path_, [this] { return statement_.executeStep(); });
+    return withPath(path_, [this] { return statement_.executeStep(); });
 }
 
 int Query::run() {
-    return naming(path_, [this] { return statement_.exec(); });
+    return withPath(path_, [this] { return statement_.exec(); });
 }
 
 // SQLite counts in int: a longer value would be cut where the number wraps.
@@ -82,7 +82,7 @@ Connection::Connection(const std::string& path, const Schema& schema)
       file_(std::filesystem::absolute(path).string()),
       database_(openFile(path)),
       identity_(identityOf(file_)) {
-    naming(path, [&] {
+    withPath(path, [&] {
         database_.exec("PRAGMA foreign_keys = ON");
         database_.exec("PRAGMA temp_store = MEMORY");  // sorting needs no room on disk
         createTables(schema);
@@ -108,7 +108,7 @@ void Connection::read(const std::function<void()>& work) { transact("BEGIN", wor
 // throws and ends the process.
 void Connection::transact(const char* begin, const std::function<void()>& work) {
     SQLite::Statement& rollback = prepared("ROLLBACK");  // while there is memory
-    naming(path_, [&] {
+    withPath(path_, [&] {
         database_.exec(begin);
         try {
             work();
@@ -158,7 +158,7 @@ SQLite::Statement& Connection::prepared(const char* sql) {
     if (known != statements_.end()) {
         return known->second;
     }
-    return naming(path_, [&]() -> SQLite::Statement& {
+    return withPath(path_, [&]() -> SQLite::Statement& {
         return statements_.emplace(sql, SQLite::Statement(database_, sql)).first->second;
     });
 }

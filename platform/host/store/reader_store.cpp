@@ -136,7 +136,7 @@ std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
 
 std::vector<BookRecord> ReaderStore::records() {
     std::vector<BookRecord> all;
-    readTogether([&] {
+    inReadTransaction([&] {
         for (BookEntry& book : books()) {
             all.push_back({book.fastHash, book.title, book.path, {}});
             for (const std::int64_t id : noteIdsByCreation(book.id)) {
@@ -147,7 +147,7 @@ std::vector<BookRecord> ReaderStore::records() {
     return all;
 }
 
-void ReaderStore::readTogether(const std::function<void()>& work) {
+void ReaderStore::inReadTransaction(const std::function<void()>& work) {
     connection_->read(work);
 }
 

@@ -70,7 +70,7 @@ public:
 
     // Makes everything that `work` reads through this object belong to one state of the
     // database.
-    void readTogether(const std::function<void()>& work);
+    void inReadTransaction(const std::function<void()>& work);
 
     // Adds the records in one transaction. A book is matched by its fast hash and keeps the
     // title and path it has, a note by its uuid within the book; of each tag the newer

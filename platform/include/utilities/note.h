@@ -33,8 +33,8 @@ public:
         ~Value();                                  ///< library
 
         std::string str;  ///< the value as text
-        /// The value as JSON, where it has one that the platform gives a meaning. Other
-        /// JSON stays text in the database: parsed, it may take a hundred times the memory.
+        /// The value as JSON, only for tags whose JSON the platform uses. Other JSON stays
+        /// text in the database: parsed, it may take a hundred times the memory.
         std::optional<Json::Value> json;
         std::time_t timestamp;  ///< seconds since the Unix epoch
     };
