@@ -51,11 +51,11 @@ bool includesNotes(const host::BookRecord& book, const host::BookRecord& older) 
 }  // namespace
 
 CurrentPage::CurrentPage(host::ReaderStore& reader, host::LibraryStore& library,
-                         const host::BookEntry& book,
-                         const std::set<unsigned long long>& notes, std::string styleSheet)
+                         const host::BookEntry& book, std::set<unsigned long long> notes,
+                         std::string styleSheet)
     : reader_(reader),
       book_{static_cast<unsigned long long>(book.id)},
-      notes_(notes),
+      notes_(std::move(notes)),
       styleSheet_(std::move(styleSheet)),
       title_(book.title) {
     using veloran::utilities::SerializationUtils;

@@ -14,7 +14,7 @@ class CurrentPage {
 public:
     // `notes` are the identifiers of those that would be exported; empty means all.
     CurrentPage(host::ReaderStore& reader, host::LibraryStore& library,
-                const host::BookEntry& book, const std::set<unsigned long long>& notes,
+                const host::BookEntry& book, std::set<unsigned long long> notes,
                 std::string styleSheet);
 
     // Whether the page at `path` has the same records, headings and style sheet. The order
