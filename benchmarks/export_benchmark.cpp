@@ -5,14 +5,14 @@
 
 #include "fresh_file.h"
 #include "job.h"
-#include "memory_device.h"
 #include "rendering.h"
+#include "timing_device.h"
 #include "utilities/serialization_utils.h"
 
 namespace {
 
-using memory_platform::device;
-using memory_platform::setNoteCount;
+using timing_platform::device;
+using timing_platform::setNoteCount;
 using veloran::NoteOrder;
 using veloran::NotesExporterImpl;
 using veloran::utilities::SerializationUtils;
@@ -60,7 +60,7 @@ double exportWithTakenNames(std::size_t count) {
 
 double renderNotes(std::size_t count) {
     setNoteCount(count);
-    const RecordedNotes notes = memory_platform::fetchedNotes();
+    const RecordedNotes notes = timing_platform::fetchedNotes();
     return FreshFile().secondsOfWriting([&](const char* path) { render(path, notes); });
 }
 

@@ -5,14 +5,14 @@
 #include <string>
 
 #include "counted.h"
-#include "memory_device.h"
 #include "peers.h"
 #include "rendering.h"
+#include "timing_device.h"
 
 namespace {
 
 void renders() {
-    const RecordedNotes notes = memory_platform::fetchedNotes();
+    const RecordedNotes notes = timing_platform::fetchedNotes();
     counted([&] { render("/dev/null", notes); });
 }
 
@@ -32,13 +32,13 @@ void exportsInReverse() {
 
 template <const peers::Peer& kPeer>
 void writes() {
-    ReadyNotes notes(memory_platform::device().positions.size());
+    ReadyNotes notes(timing_platform::device().positions.size());
     counted([&] { kPeer.toMemory(notes); });
 }
 
 template <const peers::Peer& kPeer>
 void rendersWith() {
-    const RecordedNotes records = memory_platform::fetchedNotes();
+    const RecordedNotes records = timing_platform::fetchedNotes();
     NotesOfRecords notes(records);
     counted([&] { kPeer.toMemory(notes); });
 }
@@ -63,7 +63,7 @@ int main(int count, char** arguments) {
     if (job == kJobs.end()) {
         return EXIT_FAILURE;
     }
-    memory_platform::setNoteCount(std::stoul(arguments[2]));
+    timing_platform::setNoteCount(std::stoul(arguments[2]));
     job->second();
     return EXIT_SUCCESS;
 }

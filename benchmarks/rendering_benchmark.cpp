@@ -9,8 +9,8 @@
 #include <sstream>
 
 #include "fresh_file.h"
-#include "memory_device.h"
 #include "peers.h"
+#include "timing_device.h"
 
 namespace {
 
@@ -21,8 +21,8 @@ std::size_t noteCount(const benchmark::State& state) {
 }
 
 RecordedNotes recordsOnDevice(std::size_t count) {
-    memory_platform::setNoteCount(count);
-    return memory_platform::fetchedNotes();
+    timing_platform::setNoteCount(count);
+    return timing_platform::fetchedNotes();
 }
 
 std::string rendered(const RecordedNotes& notes) {

@@ -15,7 +15,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 export HOME=$scratch
 cd "$scratch"
-ln -s "$project"/{CMakeLists.txt,cmake,build,examples,include,platform,src,tests,tools} .
+ln -s "$project"/{CMakeLists.txt,LICENSE,build,cmake,docs,examples,include,platform,src,tests,tools} .
 
 # One file a block: "block.NUMBER.LANGUAGE.NAME".
 awk '/^ *```[a-z]/ {

@@ -1,10 +1,10 @@
 #include "db/db_manager.h"
-#include "memory_device.h"
 #include "readerlib/database.h"
 #include "readerlib/import_export_db.h"
+#include "timing_device.h"
 #include "utilities/reader_db_manager.h"
 
-using memory_platform::device;
+using timing_platform::device;
 
 namespace {
 

@@ -2,11 +2,11 @@
 #include <charconv>
 #include <string_view>
 
-#include "memory_device.h"
 #include "readerlib/position_uri.h"
+#include "timing_device.h"
 #include "utilities/reader_db_manager.h"
 
-using memory_platform::device;
+using timing_platform::device;
 using veloran::utilities::Note;
 
 namespace {
@@ -25,14 +25,14 @@ Note fetched(unsigned long long place) {
 
 }  // namespace
 
-void memory_platform::setNoteCount(std::size_t count) {
+void timing_platform::setNoteCount(std::size_t count) {
     device() = {};
     for (std::size_t place = 0; place < count; ++place) {
         device().positions.push_back(samplePosition(place));
     }
 }
 
-std::vector<Note> memory_platform::fetchedNotes() {
+std::vector<Note> timing_platform::fetchedNotes() {
     std::vector<Note> notes;
     for (std::size_t place = 0; place < device().positions.size(); ++place) {
         notes.push_back(fetched(place));

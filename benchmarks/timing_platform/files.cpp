@@ -1,9 +1,9 @@
 #include <openssl/evp.h>
 
 #include "fast_book_hash.h"
-#include "memory_device.h"
 #include "oa_buildpath.h"
 #include "system/filesystem.h"
+#include "timing_device.h"
 #include "utilities/serialization_utils.h"
 
 int FastBookHash(const char* /*path*/, char* buffer, int /*size*/) {
@@ -20,7 +20,7 @@ bool IsFileExist(const std::string& path) {
     const std::size_t counter = path.find('(');
     const std::size_t place =
         counter == std::string::npos ? 0 : std::stoul(path.substr(counter + 1));
-    return place < memory_platform::device().takenNames;
+    return place < timing_platform::device().takenNames;
 }
 
 std::string GetFileNameFromPath(const std::string& path) { return path; }

@@ -1,4 +1,4 @@
-// The device that the memory platform answers from: it costs as little as a platform can,
+// The device that the timing platform answers from: it costs as little as a platform can,
 // so that what is timed is the library's own work.
 #pragma once
 
@@ -9,7 +9,7 @@
 #include "sample_notes.h"
 #include "utilities/note.h"
 
-namespace memory_platform {
+namespace timing_platform {
 
 struct Device {
     std::vector<SampleNote> notes = sampleNotes();  // repeated as often as need be
@@ -29,4 +29,4 @@ void setNoteCount(std::size_t count);
 // The book's notes as getNote fetches them.
 std::vector<veloran::utilities::Note> fetchedNotes();
 
-}  // namespace memory_platform
+}  // namespace timing_platform
