@@ -19,24 +19,25 @@ TEST_F(Document, IsOnDiskAsAWholeWhenItsHashIsComputed) {
     EXPECT_EQ(readFile(kFile), hashed);
 }
 
-std::string localDate() {
-    const std::time_t now = std::time(nullptr);
+std::string dateAhead(int minutes) {
+    const std::time_t time = std::time(nullptr) + minutes * 60;
     char text[20];
-    tzset();
-    std::strftime(text, sizeof text, "%F %T", std::localtime(&now));
+    std::strftime(text, sizeof text, "%F %T", std::gmtime(&time));
     return text;
 }
 
 TEST_F(Document, IsDatedInLocalTime) {
     loadSampleBook();
-    for (const char* zone : {"UTC0", "EAST-13:45", "WEST9:30"}) {
+    const std::pair<const char*, int> zones[] = {
+        {"UTC0", 0}, {"EAST-13:45", 13 * 60 + 45}, {"WEST9:30", -9 * 60 - 30}};
+    for (const auto& [zone, minutesAhead] : zones) {
         setenv("TZ", zone, 1);
         std::filesystem::remove(kFile);
-        const std::string before = localDate();
+        const std::string before = dateAhead(minutesAhead);
         Exporter().exportAll();
         const std::string document = readFile(kFile);
         const std::string date = document.substr(document.find("<title>") + 7, 19);
-        EXPECT_TRUE(before <= date && date <= localDate()) << zone << date;
+        EXPECT_TRUE(before <= date && date <= dateAhead(minutesAhead)) << zone << date;
     }
 }
 
@@ -45,13 +46,34 @@ struct GroupedDigits : std::numpunct<char> {
     std::string do_grouping() const override { return "\1"; }
 };
 
+// What a global locale may do to the bytes of every file.
+struct ConvertedBytes : std::codecvt<char, char, std::mbstate_t> {
+    bool do_always_noconv() const noexcept override { return false; }
+    result do_out(std::mbstate_t& /*state*/, const char* from, const char* fromEnd,
+                  const char*& fromNext, char* to, char* toEnd,
+                  char*& toNext) const override {
+        for (; from != fromEnd && to != toEnd; ++from) {
+            *to++ = static_cast<char>(*from ^ 1);
+        }
+        fromNext = from;
+        toNext = to;
+        return from == fromEnd ? ok : partial;
+    }
+    result do_in(std::mbstate_t& state, const char* from, const char* fromEnd,
+                 const char*& fromNext, char* to, char* toEnd,
+                 char*& toNext) const override {
+        return do_out(state, from, fromEnd, fromNext, to, toEnd, toNext);
+    }
+};
+
 TEST_F(Document, AndItsNameAndLabelsAreTheSameInEveryLocale) {
     loadSampleBook();
     for (int number = 0; number <= 10; number++) {
         const std::string counter = number == 0 ? "" : " (" + std::to_string(number) + ")";
         writeFile("Notes/Dune  Sons" + counter + ".html", "");
     }
-    std::locale::global(std::locale(std::locale::classic(), new GroupedDigits));
+    std::locale::global(std::locale(std::locale(std::locale::classic(), new GroupedDigits),
+                                    new ConvertedBytes));
     Exporter().exportAll();
     std::locale::global(std::locale::classic());
     EXPECT_EQ(withoutDates(readFile("Notes/Dune  Sons (11).html")),
@@ -102,6 +124,8 @@ TEST_F(Document, CopiesTheStyleSheetWholeAndUnescapedIfItCanBeRead) {
         writeFile(kPath, sheet);
         EXPECT_EQ(exportedStyle(), opening + sheet + closing);
     }
+    writeFile(kPath, std::string("cut\0 here", 9));
+    EXPECT_EQ(exportedStyle(), opening + "cut" + closing);
     std::filesystem::remove(kPath);
     EXPECT_EQ(exportedStyle(), opening + closing);
     std::filesystem::create_directories(kPath);
