@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "device/style_sheet.h"
 #include "device/whole_file.h"
 #include "store/database_paths.h"
 #include "terminal/complaint.h"
@@ -44,9 +45,16 @@ bool isDevice() {
 }
 
 void prepareDevice() {
+    if (isDevice()) {
+        return;
+    }
     const fs::path folder = fs::absolute(host::kReaderDatabasePath).parent_path();
     makeFolders(folder);
-    if (!isDevice() && access(folder.c_str(), W_OK) != 0) {
+    if (access(folder.c_str(), W_OK) != 0) {
         complain("Cannot write in " + folder.string(), {errno, std::generic_category()});
+    }
+    std::error_code failure;
+    if (!fs::exists(fs::symlink_status(host::kNoteStyleSheetPath, failure))) {
+        writeFile(host::kNoteStyleSheetPath, kStyleSheet);
     }
 }

@@ -15,5 +15,6 @@ void enterDevice(const std::string& folder, Device device);
 // Whether there is a device in the working directory.
 bool isDevice();
 
-// Makes the folders of the databases, which come into being there when they are looked for.
+// Makes a device where there is none: the folders of the databases, which come into being
+// there when they are looked for, and a style sheet.
 void prepareDevice();
