@@ -42,21 +42,39 @@ PageExport::PageExport(const ExportRequest& request)
     }
 }
 
+// Another update may replace the older page meanwhile: then its page is the older one, or
+// is up to date.
+ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
+    constexpr int kAttempts = 10;
+    for (int i = 0; i < kAttempts; ++i) {
+        const auto verdict =
+            olderPages_ ? olderPages_->judge(book, notes.ids) : OlderPages::Verdict();
+        if (verdict.isUpToDate) {
+            return {};
+        }
+        if (auto page = writeInPlaceOf(verdict.older, book, notes)) {
+            return *page;
+        }
+    }
+    throw Complaint("Other programs replace the page of the book " + book.fastHash +
+                    " all the time. Export it again.");
+}
+
 // The library finds a free name and then opens it, replacing what came there in between:
 // it writes where nobody else does.
-ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
-    const auto verdict =
-        olderPages_ ? olderPages_->judge(book, notes.ids) : OlderPages::Verdict();
-    if (verdict.isUpToDate) {
-        return {};
-    }
+std::optional<ExportedPage> PageExport::writeInPlaceOf(
+    const std::optional<OlderPages::Page>& older, const host::BookEntry& book,
+    NoteSelection& notes) {
     FreshFolder folder(directory_);
     const std::string page = writeInto(folder, book, notes);
     const std::string unrecorded = whyWithoutRecords(page, book.fastHash, notes.ids);
-    const auto& older = verdict.older;
-    const bool isReplaced =
-        older && exchange(page, older->path, older->identity, shown(older->path));
-    return {shown(isReplaced ? older->path : place(page, book)), unrecorded};
+    if (!older) {
+        return ExportedPage{shown(place(page, book)), unrecorded};
+    }
+    if (!exchange(page, older->path, older->identity, shown(older->path))) {
+        return std::nullopt;
+    }
+    return ExportedPage{shown(older->path), unrecorded};
 }
 
 std::string PageExport::writeInto(FreshFolder& folder, const host::BookEntry& book,

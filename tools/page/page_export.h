@@ -27,6 +27,10 @@ public:
     ExportedPage write(const host::BookEntry& book, NoteSelection notes);
 
 private:
+    // Nothing when the older page is no longer there, and nothing was replaced.
+    std::optional<ExportedPage> writeInPlaceOf(const std::optional<OlderPages::Page>& older,
+                                               const host::BookEntry& book,
+                                               NoteSelection& notes);
     std::string writeInto(FreshFolder& folder, const host::BookEntry& book,
                           NoteSelection& notes);
     std::string place(const std::string& page, const host::BookEntry& book);
