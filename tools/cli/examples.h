@@ -4,7 +4,7 @@
 namespace examples {
 
 inline constexpr const char* kAll = R"(Examples:
-  notes-export -C reader load "My Clippings.txt"
+  notes-export -C reader load "My Clippings.txt" --pages Notes
   notes-export -C reader books
   notes-export -C reader export --all --dir Notes
   notes-export -C other import Notes/Emma.html

@@ -17,7 +17,7 @@ _notes_export_read_line() {
                 ((++i))
                 device=$(_notes_export_plain "${COMP_WORDS[i]}")
                 ;;
-            --note | --order | --dir | -o | --format | --color | --since | --match | --pictures) ((++i)) ;;
+            --note | --order | --dir | -o | --format | --color | --since | --match | --pictures | --pages) ((++i)) ;;
             -*) ;;
             *)
                 if [[ -z $command ]]; then
@@ -45,7 +45,7 @@ _notes_export_books() {
 
 # What may stand where no option's value is wanted.
 _notes_export_words() {
-    local -A options=([books]='--format --json'
+    local -A options=([books]='--format --json' [load]='--pages'
         [notes]='--format --json --note --color --since --match --pictures'
         [export]='--all --note --color --since --match --order --dir -o --update' [name]='--dir')
     if [[ -z $command && $1 == -* ]]; then
@@ -64,7 +64,7 @@ _notes_export() {
     COMPREPLY=()
     _notes_export_read_line
     case ${COMP_WORDS[COMP_CWORD - 1]} in
-        -C | --dir | --pictures)
+        -C | --dir | --pictures | --pages)
             compopt -o dirnames
             return
             ;;
