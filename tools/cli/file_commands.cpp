@@ -44,8 +44,7 @@ void addLoad(Program& program) {
         ->transform(callersPath())
         ->required();
     loading
-        .add_option("--pages", request->pages,
-                    "Then export all books into this folder, as export --update")
+        .add_option("--pages", request->pages, "Then export the pages of all books there")
         ->type_name("DIR")
         ->transform(callersPath());
 }
