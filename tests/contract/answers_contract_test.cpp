@@ -74,7 +74,7 @@ TEST_F(SeamContract, LibraryDatabaseAnswersForKnownAndUnknownBooks) {
     EXPECT_EQ(none + nobody + library->GetBookLocalFilePath(kUnknown).string(), "");
 }
 
-TEST_F(SeamContract, AnythingAtAPathExistsAndWhatCannotBeLookedUpDoesNot) {
+TEST_F(SeamContract, FileOfAnyKindExistsAndAnUnusablePathDoesNot) {
     using veloran::system::filesystem::IsFileExist;
     writeFile("file", "");
     std::filesystem::create_symlink("nowhere", "dangling");
@@ -85,14 +85,14 @@ TEST_F(SeamContract, AnythingAtAPathExistsAndWhatCannotBeLookedUpDoesNot) {
     EXPECT_FALSE(IsFileExist(std::string(10000, 'x')) || IsFileExist({"file\0x", 6}));
 }
 
-TEST_F(SeamContract, FileNameIsWhatFollowsTheLastSlash) {
+TEST_F(SeamContract, FileNameFollowsTheLastSlash) {
     using veloran::system::filesystem::GetFileNameFromPath;
     EXPECT_EQ(GetFileNameFromPath("/a/b.epub"), "b.epub");
     EXPECT_EQ(GetFileNameFromPath("a\\b"), "a\\b");
     EXPECT_EQ(GetFileNameFromPath("/a/") + GetFileNameFromPath(""), "");
 }
 
-TEST_F(SeamContract, DirectoriesToAFileAreMadeAndTheFileIsNot) {
+TEST_F(SeamContract, BuildPathCreatesDirectoriesButNotTheFile) {
     for (const char* path : {"a/b/file", "a/b/file", "file"}) {
         EXPECT_EQ(oa_buildpath(path), 0) << path;
     }
@@ -101,7 +101,7 @@ TEST_F(SeamContract, DirectoriesToAFileAreMadeAndTheFileIsNot) {
     EXPECT_EQ(oa_buildpath("a/b/file/c/d"), -1);
 }
 
-TEST_F(SeamContract, BytesAreSpelledInHexadecimalOfEitherCaseAndInPaddedBase64) {
+TEST_F(SeamContract, HexadecimalOfEitherCaseIsReadAndBase64IsPadded) {
     EXPECT_EQ(SerializationUtils::FromHex("00ffAaBb7f"),
               std::string("\0\xff\xaa\xbb\x7f", 5));
     EXPECT_NO_THROW(SerializationUtils::FromHex("zz-1 \xff"));

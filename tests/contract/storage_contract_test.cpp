@@ -37,14 +37,14 @@ std::set<std::string> textsAfterImporting(const std::string& payload) {
 
 }  // namespace
 
-TEST_F(SeamContract, ManagerOfABrokenDatabaseThrowsFromQueriesAndIsDestroyedInPeace) {
+TEST_F(SeamContract, QueriesOfABrokenDatabaseThrow) {
     writeFile(readerDatabasePath(), std::string(4096, 'x'));
     ReaderDbManager manager;
     EXPECT_THROW(manager.getItemId(kHash), std::exception);
     EXPECT_THROW(manager.getNote("1"), std::exception);
 }
 
-TEST_F(SeamContract, DatabaseThatTookThePlaceOfAnotherIsTheOneThatCounts) {
+TEST_F(SeamContract, ReplacedDatabaseFileIsUsedFromThenOn) {
     Engine engine;
     ReaderDbManager manager;
     EXPECT_EQ(manager.getItemId("bb"), -1);
@@ -64,7 +64,7 @@ TEST_F(SeamContract, DatabaseThatTookThePlaceOfAnotherIsTheOneThatCounts) {
     EXPECT_EQ(textsAfterImporting(payload), std::set<std::string>{"new"});
 }
 
-TEST_F(SeamContract, FilePropertyReplacesTheEarlierOneFromAnyThread) {
+TEST_F(SeamContract, FilePropertyKeepsTheLastValueFromAnyThread) {
     constexpr DbManager::FileProp kProp{7};
     std::vector<std::thread> threads;
     for (const std::string hash : {"a", "b", "c", "d"}) {
@@ -85,7 +85,7 @@ TEST_F(SeamContract, FilePropertyReplacesTheEarlierOneFromAnyThread) {
     EXPECT_FALSE(DbManager::Instance()->SetFileProp("", kProp, "without a hash"));
 }
 
-TEST_F(SeamContract, FastHashNamesTheContentAndNotThePath) {
+TEST_F(SeamContract, FastHashDependsOnContentAndFitsItsBuffer) {
     const std::string large(200000, 'x');
     writeFile("a", large);
     writeFile("b", large);
@@ -102,7 +102,7 @@ TEST_F(SeamContract, FastHashNamesTheContentAndNotThePath) {
     EXPECT_EQ(hashOf("missing") + hashOf("."), "");
 }
 
-TEST_F(SeamContract, ExportRestrictedToNotesHoldsThoseAndNoOthers) {
+TEST_F(SeamContract, RestrictedExportHoldsOnlyThoseNotes) {
     const std::vector<Note> notes = notesOnDevice();
     Engine engine;
     const std::pair<std::set<unsigned long long>, std::set<std::string>> cases[] = {
@@ -128,7 +128,7 @@ TEST_F(SeamContract, ExportAppendsAndFailsWithoutABook) {
     EXPECT_FALSE(engine->books_export(payload, {kUnknown, ~0ULL}));
 }
 
-TEST_F(SeamContract, EngineServesTheHandleAsItWasOpenedLastOrFails) {
+TEST_F(SeamContract, EngineUsesTheDatabaseOpenedLastOrFails) {
     Veloran::ReaderLib::DataBase database;
     Veloran::ReaderLib::ImportExportDBV2 engine(&database, 10, 3);
     std::string payload;

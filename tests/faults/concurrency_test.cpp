@@ -10,8 +10,8 @@
 
 namespace {
 
-struct Together : IncomingNotes {
-    Together() { prepare(40, 2000); }
+struct ConcurrentUse : IncomingNotes {
+    ConcurrentUse() { prepare(40, 2000); }
 };
 
 pid_t importingProcess(const char* document) {
@@ -37,7 +37,7 @@ constexpr std::size_t kSmallStack = 128 << 10;
 
 }  // namespace
 
-TEST_F(Together, ThreadWithASmallStackExportsAndImports) {
+TEST_F(ConcurrentUse, ThreadWithASmallStackExportsAndImports) {
     const auto exportAndImport = [](void*) -> void* {
         const CExporter exporter(kBook, "Notes");
         EXPECT_GT(exporter.importFile(kDocument), 0);
@@ -54,7 +54,7 @@ TEST_F(Together, ThreadWithASmallStackExportsAndImports) {
     EXPECT_EQ(recordsOnDevice(), after_);
 }
 
-TEST_F(Together, ProcessesThatCreateTheDatabasesImportDocumentsOfOneBook) {
+TEST_F(ConcurrentUse, ProcessesThatImportAtOnceLeaveTheRecordsOfAll) {
     writeFile("other.html", otherDocument());
     std::filesystem::remove_all("mnt");
     for (const char* document : {kDocument, "other.html"}) {
@@ -76,7 +76,7 @@ TEST_F(Together, ProcessesThatCreateTheDatabasesImportDocumentsOfOneBook) {
     }
 }
 
-TEST_F(Together, TwoThreadsExportAndImportEachWithItsOwnExporter) {
+TEST_F(ConcurrentUse, ThreadsWithTheirOwnExportersDoNotDisturbEachOther) {
     std::vector<std::thread> threads;
     for (const char* directory : {"one", "two"}) {
         threads.emplace_back([directory] {

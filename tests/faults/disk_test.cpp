@@ -78,7 +78,7 @@ protected:
 
 }  // namespace
 
-TEST_F(InterruptedImport, ByAKillIsWholeOrNotThere) {
+TEST_F(InterruptedImport, KillLeavesEveryRecordOrNone) {
     int nth = 1;
     int whole = 0;
     for (; killsAmid(nth); ++nth) {
@@ -91,7 +91,7 @@ TEST_F(InterruptedImport, ByAKillIsWholeOrNotThere) {
     EXPECT_TRUE(0 < whole && whole < nth - 1) << whole;
 }
 
-TEST_F(InterruptedImport, ByAFullDiskIsRefusedWholeAndGoesOnceThereIsRoom) {
+TEST_F(InterruptedImport, FullDiskChangesNothingAndTheNextImportSucceeds) {
     const CExporter exporter(kBook, "Notes");
     int refused = 0;
     for (int nth = 1, result = -1; result < 0; ++nth) {

@@ -1,15 +1,16 @@
 // Every allocation of an export and of an import fails in turn.
 #include <new>
 
+#include "dump/import_result.h"
 #include "failing_allocations.h"
 #include "incoming_notes.h"
 #include "notes_export/notes_exporter.h"
 
 namespace {
 
-class Memory : public IncomingNotes, public testing::WithParamInterface<Shortage> {
+class OutOfMemory : public IncomingNotes, public testing::WithParamInterface<Shortage> {
 protected:
-    Memory() { prepare(4, 10); }
+    OutOfMemory() { prepare(4, 10); }
 
     // Runs `call` with the first, the second, … allocation failing, until none does. Then
     // `check` is told whether it went through.
@@ -38,7 +39,7 @@ protected:
 
 }  // namespace
 
-TEST_P(Memory, RunsOutDuringAnExport) {
+TEST_P(OutOfMemory, ExportLeavesAPrefixThatIsNotMarked) {
     const std::string readerDatabase = databaseBytes();
     const std::string libraryDatabase = readFile(host::kLibraryDatabasePath);
     const std::string name = veloran::NotesExporter().getExportedFileName(kBook);
@@ -56,7 +57,7 @@ TEST_P(Memory, RunsOutDuringAnExport) {
     });
 }
 
-TEST_P(Memory, RunsOutDuringAnImport) {
+TEST_P(OutOfMemory, ImportTakesEveryRecordOrNone) {
     int result = 0;
     const auto importNotes = [&result] {
         result = veloran::NotesExporter().import_from_file(kDocument);
@@ -66,9 +67,13 @@ TEST_P(Memory, RunsOutDuringAnImport) {
         const bool imported = records == after_;
         EXPECT_TRUE(imported || records == before_);
         // Once the notes are in, failures only keep the file from being marked.
-        EXPECT_TRUE(!wentThrough || (imported ? result == 4 : result < 0)) << result;
+        EXPECT_TRUE(!wentThrough || result == (imported ? 4 : host::kDatabaseError))
+            << result;
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(FailsOnceOrFromThenOn, Memory,
-                         testing::Values(Shortage::kOnce, Shortage::kFromThenOn));
+INSTANTIATE_TEST_SUITE_P(Shortage, OutOfMemory,
+                         testing::Values(Shortage::kOnce, Shortage::kFromThenOn),
+                         [](const auto& test) {
+                             return test.param == Shortage::kOnce ? "Once" : "FromThenOn";
+                         });

@@ -12,7 +12,7 @@
 
 using Dump = OnEmptyDevice;
 
-TEST_F(Dump, BringsEveryRecordToAnotherDeviceOnceWhateverTheirOrder) {
+TEST_F(Dump, ImportRestoresEveryRecordOnceInAnyOrder) {
     EXPECT_EQ(merge(sampleBooks()), 4);
     EXPECT_EQ(recordsOnDevice(), show(sampleBooks()));
     std::vector<host::BookRecord> books = sampleBooks();
@@ -35,7 +35,7 @@ TEST_F(Dump, BringsEveryRecordToAnotherDeviceOnceWhateverTheirOrder) {
     }
 }
 
-TEST_F(Dump, IsJsonInOneGzipMemberWithoutTimeAndSystem) {
+TEST_F(Dump, IsOneGzipMemberOfJsonWithoutTimeOrSystem) {
     merge({{"ab",
             "D\xc3\xbcne",
             "\xff",
@@ -59,7 +59,7 @@ TEST_F(Dump, IsJsonInOneGzipMemberWithoutTimeAndSystem) {
               "{\"tag\":102,\"text_base64\":\"AA==\",\"timestamp\":7}]}]}]}");
 }
 
-TEST_F(Dump, HoldsPicturesBeyondTenMegabytesOfTextInADocumentThatShowsThem) {
+TEST_F(Dump, CarriesMoreThanTenMegabytesOfPictures) {
     std::mt19937 random;
     std::string picture(1 << 20, '\0');  // of bytes that do not compress
     std::generate(picture.begin(), picture.end(),
@@ -77,7 +77,7 @@ TEST_F(Dump, HoldsPicturesBeyondTenMegabytesOfTextInADocumentThatShowsThem) {
     EXPECT_TRUE(recordsOnDevice() == show({book}));
 }
 
-TEST(DumpReader, RefusesWhatExceedsALimitOrGoesOnInAnotherPiece) {
+TEST(DumpReader, RefusesDumpsBeyondALimitAndASecondPiece) {
     const std::string text = R"({"format":"notes-export-dump","version":1,"books":[)" +
                              std::string(1000000, ' ') + "]}";
     const std::string bomb = gzipped(text);
@@ -95,7 +95,7 @@ TEST(DumpReader, RefusesWhatExceedsALimitOrGoesOnInAnotherPiece) {
                  host::DumpError);
 }
 
-TEST(DumpReader, RefusesStringsThatAreNotUtf8) {
+TEST(DumpReader, RefusesInvalidUtf8) {
     const auto read = [](const std::string& title) {
         return host::readPayload({dumpOf(R"({"fast_hash":"ab","title":")" + title + "\"}")},
                                  host::kMaxDumpSize);

@@ -10,7 +10,7 @@
 #include "text/utf8.h"
 #include "utilities/note.h"
 
-TEST(PositionUri, NamesThePageInItsQuery) {
+TEST(PositionUri, PageIsReadFromTheQueryAlone) {
     const auto page = [](const std::string& uri) {
         double number = 0;
         const bool found = Veloran::ReaderLib::extractPageFromnURI(uri, number);
@@ -30,7 +30,7 @@ TEST(PositionUri, NamesThePageInItsQuery) {
     }
 }
 
-TEST(Base64, SkipsWhiteSpaceAndRefusesEverythingElseForeign) {
+TEST(Base64, IgnoresWhiteSpaceAndRefusesInvalidText) {
     EXPECT_EQ(host::decodeBase64(""), "");
     EXPECT_EQ(host::decodeBase64(" Z m\r\n8\t= "), "fo");
     EXPECT_EQ(host::decodeBase64("Zm9vZg=="), "foof");
@@ -41,7 +41,7 @@ TEST(Base64, SkipsWhiteSpaceAndRefusesEverythingElseForeign) {
     }
 }
 
-TEST(Utf8, IsFoundBrokenWhereverItIs) {
+TEST(Utf8, InvalidSequenceIsFoundAtAnyPosition) {
     for (std::size_t before = 0; before < 17; ++before) {
         for (const char* after : {"", "12345678"}) {
             const auto isUtf8 = [&](const char* bytes) {
@@ -59,7 +59,7 @@ TEST(Utf8, IsFoundBrokenWhereverItIs) {
     }
 }
 
-TEST(JsonElement, IsTheTextOfAStringInAnObject) {
+TEST(JsonElement, IsEmptyUnlessAnObjectHoldsAString) {
     using veloran::utilities::Note;
     const auto anchor = [](const std::string& json) {
         Note note;

@@ -19,7 +19,7 @@
 #include "utilities/reader_db_manager.h"
 #include "utilities/serialization_utils.h"
 
-using Document = OnEmptyDevice;
+using ImportedDocument = OnEmptyDevice;
 using Store = OnEmptyDevice;
 using veloran::utilities::Note;
 using veloran::utilities::ReaderDbManager;
@@ -56,7 +56,7 @@ std::string refusal() {
 
 }  // namespace
 
-TEST_F(Document, EntitiesAreNotFetched) {
+TEST_F(ImportedDocument, ExternalEntitiesAreNotFetched) {
     using veloran::utilities::SerializationUtils;
     const std::string dump = SerializationUtils::ToBase64(dumpOf(R"({"fast_hash":"ab"})"));
     writeFile("dump.dtd", "<!ENTITY dump \"" + dump + "\">");
@@ -67,7 +67,7 @@ TEST_F(Document, EntitiesAreNotFetched) {
     EXPECT_EQ(imported(start + "&dump;</script></html>"), host::kDumpDamaged);
 }
 
-TEST_F(Document, TakesTimeInProportionToItsLengthWhateverFillsIt) {
+TEST_F(ImportedDocument, IsReadInTimeProportionalToItsLength) {
     // '#' stands for a number that grows. The first document is the measure.
     const struct {
         const char *start, *unit, *refusal;
@@ -94,7 +94,7 @@ TEST_F(Document, TakesTimeInProportionToItsLengthWhateverFillsIt) {
     }
 }
 
-TEST_F(Document, OfUnknownBytesPrintsNothingAndLeavesTheHandlerOfErrors) {
+TEST_F(ImportedDocument, InvalidBytesPrintNothingAndKeepTheErrorHandler) {
     const auto handler = [](void* /*self*/, auto* /*error*/) {};
     const xmlStructuredErrorFunc own = handler;
     for (const xmlStructuredErrorFunc before : {xmlStructuredErrorFunc{}, own}) {
@@ -122,7 +122,7 @@ struct ShiftedBytes : std::codecvt<char, char, std::mbstate_t> {
     }
 };
 
-TEST_F(Document, IsReadTheSameInEveryLocale) {
+TEST_F(ImportedDocument, IsReadTheSameInEveryLocale) {
     const std::string anchor = R"({"anchor":"book:/position?page=7","zoom":1.5})";
     merge({{"ab", "", "", {{"n", {{host::kAnchorTag, "", anchor, 7}}}}}});
     writeFile("export.html", documentOf(exported()));
@@ -141,7 +141,7 @@ TEST_F(Document, IsReadTheSameInEveryLocale) {
     EXPECT_EQ(result, expected);
 }
 
-TEST_F(Document, DamagedAnywhereIsReadWholeAndRightOrLeavesTheDatabaseAlone) {
+TEST_F(ImportedDocument, DamageLosesNothingOrLeavesTheDatabaseUnchanged) {
     const std::vector<host::BookRecord> books = {
         {"ab", "T", "", {{"n", {{1, "n", {}, 7}, {101, "", R"({"anchor":"x"})", 8}}}}}};
     merge(books);
@@ -176,7 +176,7 @@ TEST_F(Document, DamagedAnywhereIsReadWholeAndRightOrLeavesTheDatabaseAlone) {
     EXPECT_TRUE(0 < refused && refused < damaged.size()) << refused;
 }
 
-TEST_F(Store, TimesBeyondThoseOfTheClockAreItsLimits) {
+TEST_F(Store, TimesAreClampedToTheRangeOfTheClock) {
     using Clock = std::numeric_limits<std::time_t>;
     using Stored = std::numeric_limits<std::int64_t>;
     const host::TagRecord last{1, "", {}, Stored::max()}, first{2, "", {}, Stored::min()};
@@ -186,7 +186,7 @@ TEST_F(Store, TimesBeyondThoseOfTheClockAreItsLimits) {
     EXPECT_EQ(note[Note::Tag{2}].timestamp, Clock::min());
 }
 
-TEST_F(Store, JsonThatMeansNothingHereIsKeptAsText) {
+TEST_F(Store, UnreadableJsonIsKeptAsText) {
     const host::TagRecord position{host::kAnchorTag, "", R"({"anchor":"x"})", 1};
     const host::TagRecord other{999, "", R"({"anchor":"y"})", 1};
     merge({{"ab", "", "", {{"n", {position, other}}}}});
@@ -196,7 +196,7 @@ TEST_F(Store, JsonThatMeansNothingHereIsKeptAsText) {
     EXPECT_NE(recordsOnDevice().find(*other.json), std::string::npos);
 }
 
-TEST_F(Store, FailuresAreReportedWithTheFileAndWhatIsWrong) {
+TEST_F(Store, FailuresNameTheFileAndTheCause) {
     const std::string path = host::kReaderDatabasePath;
     host::ReaderStore store(path);
     EXPECT_THROW(store.merge({{"aa", "", "", {}}, {"ab", "", "", {{"", {}}}}}),

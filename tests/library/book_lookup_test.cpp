@@ -39,7 +39,7 @@ void load(const Lookup& lookup) {
     }
 }
 
-TEST_F(BookLookup, FollowsTheChainForTheTitleAndAsksTheLibraryForTheAuthor) {
+TEST_F(BookLookup, TitleComesFromTheFirstSourceThatHasOne) {
     for (const Lookup& lookup : kLookups) {
         load(lookup);
         EXPECT_EQ(NotesExporterImpl::getBookTitle(kBook), lookup.title);

@@ -6,9 +6,9 @@
 
 namespace {
 
-using Document = DeviceTest;
+using ExportedDocument = DeviceTest;
 
-TEST_F(Document, IsOnDiskAsAWholeWhenItsHashIsComputed) {
+TEST_F(ExportedDocument, IsCompleteOnDiskWhenItIsHashed) {
     loadSampleBook();
     std::string hashed;
     script().onCall = [&](const std::string& call) {
@@ -26,7 +26,7 @@ std::string dateAhead(int minutes) {
     return text;
 }
 
-TEST_F(Document, IsDatedInLocalTime) {
+TEST_F(ExportedDocument, IsDatedInLocalTime) {
     loadSampleBook();
     const std::pair<const char*, int> zones[] = {
         {"UTC0", 0}, {"EAST-13:45", 13 * 60 + 45}, {"WEST9:30", -9 * 60 - 30}};
@@ -66,7 +66,7 @@ struct ConvertedBytes : std::codecvt<char, char, std::mbstate_t> {
     }
 };
 
-TEST_F(Document, AndItsNameAndLabelsAreTheSameInEveryLocale) {
+TEST_F(ExportedDocument, IsTheSameInEveryLocale) {
     loadSampleBook();
     for (int number = 0; number <= 10; number++) {
         const std::string counter = number == 0 ? "" : " (" + std::to_string(number) + ")";
@@ -80,14 +80,14 @@ TEST_F(Document, AndItsNameAndLabelsAreTheSameInEveryLocale) {
               golden("full_export.html"));
 }
 
-TEST_F(Document, LeavesOutTheDumpWhenTheEngineFails) {
+TEST_F(ExportedDocument, HasNoDumpWhenTheEngineFails) {
     loadSampleBook();
     script().exportSucceeds = false;
     EXPECT_EQ(Exporter().exportAll(), 0);
     EXPECT_EQ(readFile(kFile).find("<script"), std::string::npos);
 }
 
-TEST_F(Document, FetchesTheHashOfAnyItemOnceTheTypeOfItsDumpIsWritten) {
+TEST_F(ExportedDocument, HashIsFetchedAfterTheTypeOfTheDumpIsWritten) {
     loadSampleBook();
     script().itemIds[kBook] = -2;
     script().onCall = [](const std::string& call) {
@@ -112,7 +112,7 @@ std::string exportedStyle() {
     return document.substr(at, document.find("</style>\n") - at);
 }
 
-TEST_F(Document, CopiesTheStyleSheetWholeAndUnescapedIfItCanBeRead) {
+TEST_F(ExportedDocument, StyleSheetIsCopiedUnescapedOrLeftEmpty) {
     loadSampleBook();
     const std::string opening = "<!--/*--><![CDATA[/*><!--*/\n", closing = "\n/*]]>*/-->";
     for (const std::size_t size : {0U, 1U, 1023U, 1024U, 1025U, 2048U, 2500U}) {

@@ -8,7 +8,7 @@
 namespace {
 
 // With exceptions of the standard kind, or of none.
-class Exceptions : public DeviceTest, public testing::WithParamInterface<bool> {
+class PlatformExceptions : public DeviceTest, public testing::WithParamInterface<bool> {
 protected:
     // Runs `call`, in which the `n`th platform call fails, and tells whether that arrives.
     template <class Call>
@@ -43,7 +43,7 @@ bool recordedOrder(void* /*userData*/, long long a, long long b) {
 }
 
 // Calls of the C interface that export, ask for a name, and create and free an exporter.
-TEST_P(Exceptions, OfEveryCallReachTheCallerAndTheExporterServesOn) {
+TEST_P(PlatformExceptions, ReachTheCallerOfAnExportAndLeaveTheExporterUsable) {
     loadSampleBook();
     veloran::utilities::Book book;
     std::swap(book.title, script().booksOfLibrary[kLibraryId].title);
@@ -79,7 +79,7 @@ TEST_P(Exceptions, OfEveryCallReachTheCallerAndTheExporterServesOn) {
     EXPECT_EQ(text, whole);
 }
 
-TEST_P(Exceptions, OfEveryCallOfAnImportReachCppAndOfStandardKindBecomeMinusOneInC) {
+TEST_P(PlatformExceptions, OfAnImportReachCppAndStandardOnesBecomeMinusOneInC) {
     writeFile("in.html", "");
     script().hashText = "abc123";
     script().importResult = 5;
@@ -95,6 +95,8 @@ TEST_P(Exceptions, OfEveryCallOfAnImportReachCppAndOfStandardKindBecomeMinusOneI
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(OfEachKind, Exceptions, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(Kind, PlatformExceptions, testing::Bool(), [](const auto& test) {
+    return test.param ? "RuntimeError" : "Int";
+});
 
 }  // namespace

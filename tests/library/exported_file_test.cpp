@@ -14,7 +14,7 @@ Calls callsOfExport() {
     return script().calls;
 }
 
-TEST_F(ExportedFile, IsMarkedByAHashThatFitsItsBuffer) {
+TEST_F(ExportedFile, IsMarkedWithItsHashUnlessThatExceedsTheBuffer) {
     const std::pair<int, std::size_t> cases[] = {
         // reported and trusted length
         {-1, 0}, {0, 0}, {1, 1}, {16, 16}, {256, 256}, {257, 0}, {1000, 0}};
@@ -32,7 +32,7 @@ TEST_F(ExportedFile, IsMarkedByAHashThatFitsItsBuffer) {
     }
 }
 
-TEST_F(ExportedFile, ThatCannotBeCreatedChangesNoCallButTheMark) {
+TEST_F(ExportedFile, FailureToCreateItChangesOnlyItsMark) {
     loadSampleBook();
     Calls expected = callsOfExport();
     expected.back() = "DbManager::SetFileProp(, 7, 2)";
@@ -55,7 +55,7 @@ void limitFileSize(rlim_t bytes) {
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-TEST_F(ExportedFile, EndsWhereTheDiskWasFullEvenIfThereIsRoomAgain) {
+TEST_F(ExportedFile, EndsWhereTheDiskGotFullEvenIfThereIsRoomLater) {
     loadSampleBook();
     for (unsigned long long id = 100; id < 400; id++) {
         scripted::addNote(kBook, {id, "", "", std::string(2000, 'x'), "", "", "at 12.9"});

@@ -9,7 +9,7 @@ namespace {
 
 using CallOrder = DeviceTest;
 
-TEST_F(CallOrder, OfAnExportAndAnImport) {
+TEST_F(CallOrder, OfExportAndImportHasNotChanged) {
     loadSampleBook();
     {
         veloran::NotesExporter exporter;
@@ -26,14 +26,14 @@ TEST_F(CallOrder, OfAnExportAndAnImport) {
     EXPECT_EQ(joined(calls), golden("calls.txt"));
 }
 
-TEST_F(CallOrder, OfAnUnknownBookEndsWithTheFirstLookup) {
+TEST_F(CallOrder, UnknownBookEndsTheExportAfterOneLookup) {
     Exporter exporter;
     EXPECT_EQ(exporter.exportAll(), -1);
     EXPECT_EQ(script().calls, Calls{"ReaderDbManager::getItemId(626f6f6b)"});
     EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
-TEST_F(CallOrder, OfAFailedImportEndsWithTheEngine) {
+TEST_F(CallOrder, FailedImportEndsAfterTheEngine) {
     for (const int result : {0, 5, -5}) {
         Exporter exporter;
         script().importResult = result;
@@ -46,7 +46,7 @@ struct CInterface : DeviceTest {
     CInterface() { loadSampleBook(); }
 };
 
-TEST_F(CInterface, ExportsEveryNoteForANullArrayIntoTheFileItNamed) {
+TEST_F(CInterface, NullArrayExportsEveryNoteToTheNamedFile) {
     const CExporter exporter(kBook, "./x//y/");
     const CExporter other(kBook, "other");
     EXPECT_EQ(exporter.fileName(), "./x//y//Dune  Sons.html");
@@ -57,7 +57,7 @@ TEST_F(CInterface, ExportsEveryNoteForANullArrayIntoTheFileItNamed) {
     EXPECT_EQ(other.fileName(), "other/Dune  Sons.html");
 }
 
-TEST_F(CInterface, ExportsRepeatedIdentifiersOnceInTheOrderOfTheFunction) {
+TEST_F(CInterface, RepeatedIdentifiersAreExportedOnceInTheCallersOrder) {
     std::vector<std::pair<long long, long long>> seen;
     const auto before = [](void* userData, long long first, long long second) {
         static_cast<decltype(seen)*>(userData)->emplace_back(first, second);
@@ -70,7 +70,7 @@ TEST_F(CInterface, ExportsRepeatedIdentifiersOnceInTheOrderOfTheFunction) {
     EXPECT_EQ(renderedIds(), (Ids{13, 12, 11}));
 }
 
-TEST_F(CInterface, CopiesAsMuchOfTheNameAsTheBufferHolds) {
+TEST_F(CInterface, FileNameIsCutAtTheSizeOfTheBuffer) {
     const CExporter exporter(kBook, "Notes");
     const std::size_t length = kFile.size();
     for (const std::size_t size :

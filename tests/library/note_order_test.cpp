@@ -43,7 +43,7 @@ Ids exportedIds(const std::set<unsigned long long>& selected, const Before& befo
     return renderedIds();
 }
 
-TEST_F(NoteOrder, IsByPageThenAsTheDatabaseHasThem) {
+TEST_F(NoteOrder, IsByPageAndStableWithinAPage) {
     const std::pair<std::vector<int>, Ids> cases[] = {
         {{}, {}},
         {{12, 0, kNoPage, 0}, {2, 3, 4, 1}},
@@ -58,7 +58,7 @@ TEST_F(NoteOrder, IsByPageThenAsTheDatabaseHasThem) {
     }
 }
 
-TEST_F(NoteOrder, SelectsByIdentifierAndAsksNoOtherNote) {
+TEST_F(NoteOrder, OnlySelectedNotesAreAskedForAndRendered) {
     const std::pair<std::set<unsigned long long>, Ids> cases[] = {
         {{}, {5, 4, 3, 2, 1}}, {{2, 4}, {4, 2}}, {{4, 99}, {4}}, {{99}, {}}};
     loadPages({5, 4, 3, 2, 1});
@@ -72,7 +72,7 @@ TEST_F(NoteOrder, SelectsByIdentifierAndAsksNoOtherNote) {
     }
 }
 
-TEST_F(Predicate, GetsLargeIdentifiersAsNegativeNumbersAndNoPages) {
+TEST_F(Predicate, ReceivesLargeIdentifiersAsNegativeNumbers) {
     int page = 4;
     for (const unsigned long long id : {ULLONG_MAX, 5ULL, k2To63 - 1, k2To63}) {
         addNote(id, page--);
@@ -81,7 +81,7 @@ TEST_F(Predicate, GetsLargeIdentifiersAsNegativeNumbersAndNoPages) {
     EXPECT_EQ(exportedIds({5, k2To63}, std::greater<>()), (Ids{5, k2To63}));
 }
 
-TEST_F(Predicate, IsCopiedBeforeItIsAsked) {
+TEST_F(Predicate, IsCopiedBeforeItIsCalled) {
     loadPages(std::vector<int>(5, kNoPage));
     const Before before = [asked = false](auto a, auto b) mutable {
         asked = asked || a != b;
@@ -91,7 +91,7 @@ TEST_F(Predicate, IsCopiedBeforeItIsAsked) {
     EXPECT_FALSE(before(1, 1)) << "the caller's own was asked";
 }
 
-TEST_F(Predicate, OfAnyConsistencyWritesEveryNoteOnce) {
+TEST_F(Predicate, InconsistentAnswersStillWriteEveryNoteOnce) {
     const Before predicates[] = {
         [](auto, auto) { return true; },
         [](auto a, auto b) { return (b - a + 3) % 3 == 1; },  // a circle of three

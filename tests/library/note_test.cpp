@@ -8,7 +8,7 @@ namespace {
 
 using veloran::utilities::Note;
 
-TEST(NoteRecord, ValueIsStampedWithNowAndCopiedWhole) {
+TEST(NoteRecord, NewValueHasTheCurrentTimeAndCopiesAllMembers) {
     const std::time_t before = std::time(nullptr);
     Note::Value value;
     EXPECT_GE(value.timestamp, before);
@@ -22,7 +22,7 @@ TEST(NoteRecord, ValueIsStampedWithNowAndCopiedWhole) {
     EXPECT_EQ(copy.timestamp, -5);
 }
 
-TEST(NoteRecord, LookupGivesTheStoredValueElseOneSharedDefault) {
+TEST(NoteRecord, LookupReturnsTheStoredValueOrASharedDefault) {
     Note note;
     note.tags[Note::Tag::Uuid].str = "u";
     EXPECT_EQ(&note[Note::Tag::Uuid], &note.tags.at(Note::Tag::Uuid));

@@ -26,7 +26,7 @@ constexpr char kMarkup[] =
     "<b>\n    <c></c>after\n  </b><raw/>&&quot;&gt;"
     "\n  <d></d>\n  <e></e>\n  <f&gt;></f>\n</a>";
 
-TEST(Writer, IgnoresTheFormattingOfItsStreamAndWritesNothingOnceItFailed) {
+TEST(Writer, IgnoresStreamFormattingAndStopsAfterAFailure) {
     for (std::size_t failure = 0; failure <= std::size(kCalls); ++failure) {
         std::ostringstream stream;
         Writer writer(stream);

@@ -102,7 +102,7 @@ std::string expected(const std::string& text) {
 
 }  // namespace
 
-TEST(Markdown, ShowsJustTheText) {
+TEST(Markdown, RendererShowsTheTextUnchanged) {
     const ScratchDirectory scratch;
     std::mt19937 random(1);
     std::vector<std::string> texts(5000);
