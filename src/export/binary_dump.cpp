@@ -17,7 +17,7 @@ void writeLines(Writer& writer, const std::string& text) {
         if (offset != 0) {
             writer.writeRaw("\n");
         }
-        const char* line = text.c_str() + offset;
+        const char* line = text.c_str() + offset;  // a zero byte cuts it, as any text
         writer.writeRaw(line, strnlen(line, kLineLength));
     }
 }

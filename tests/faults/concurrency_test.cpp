@@ -3,9 +3,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <set>
 #include <thread>
 #include <vector>
 
+#include "dump/reader.h"
 #include "incoming_notes.h"
 
 namespace {
@@ -74,6 +77,24 @@ TEST_F(ConcurrentUse, ProcessesThatImportAtOnceLeaveTheRecordsOfAll) {
         }
         EXPECT_EQ(recordsOnDevice(), both);
     }
+}
+
+TEST_F(ConcurrentUse, ExportHoldsOneStateOfADatabaseThatChanges) {
+    std::atomic<bool> ends = false;
+    std::thread writer([&] {
+        for (int time = 3; !ends; ++time) {
+            merge({bookOf(0, 40, time, 1000)});
+        }
+    });
+    for (int round = 0; round < 20; ++round) {
+        std::set<std::int64_t> times;
+        for (const host::NoteRecord& note : host::readPayload({exported()})[0].notes) {
+            times.insert(note.tags.at(0).timestamp);
+        }
+        EXPECT_EQ(times.size(), 1U) << "round " << round;
+    }
+    ends = true;
+    writer.join();
 }
 
 TEST_F(ConcurrentUse, ThreadsWithTheirOwnExportersDoNotDisturbEachOther) {

@@ -13,26 +13,22 @@
 namespace {
 
 int changesLeft = 0;  // up to the one that is interrupted
+bool kills = false;   // else the disk is full
 
-ssize_t writeHalfAndDie(int file, const void* bytes, size_t size, off64_t offset) {
-    if (--changesLeft == 0) {
-        pwrite64(file, bytes, size / 2, offset);
-        kill(getpid(), SIGKILL);
-    }
-    return pwrite64(file, bytes, size, offset);
-}
-
-int dieBeforeUnlink(const char* path) {
-    return --changesLeft == 0 ? kill(getpid(), SIGKILL) : unlink(path);
-}
-
-ssize_t writeWhileThereIsRoom(int file, const void* bytes, size_t size, off64_t offset) {
+ssize_t writeHalf(int file, const void* bytes, size_t size, off64_t offset) {
     if (--changesLeft > 0) {
         return pwrite64(file, bytes, size, offset);
     }
     const ssize_t written = changesLeft == 0 ? pwrite64(file, bytes, size / 2, offset) : 0;
+    if (kills) {
+        kill(getpid(), SIGKILL);
+    }
     errno = ENOSPC;
     return written > 0 ? written : -1;
+}
+
+int unlinkUnlessKilled(const char* path) {
+    return kills && --changesLeft == 0 ? kill(getpid(), SIGKILL) : unlink(path);
 }
 
 template <class Function>
@@ -42,27 +38,21 @@ void replaceCall(const char* name, Function* function) {
     EXPECT_EQ(system->xSetSystemCall(system, name, replacement), SQLITE_OK);
 }
 
-class InterruptedImport : public IncomingNotes {
+void interruptChange(int nth) {
+    changesLeft = nth;
+    replaceCall("pwrite64", writeHalf);
+    replaceCall("unlink", unlinkUnlessKilled);
+}
+
+class InterruptedImport : public IncomingNotes, public testing::WithParamInterface<bool> {
 protected:
-    InterruptedImport() { prepare(16, 6000); }
-
-    static int importDocument() { return CExporter(kBook, "Notes").importFile(kDocument); }
-
-    // Imports in a process that dies in its `nth` change. Whether it did.
-    static bool killsAmid(int nth) {
-        const pid_t child = fork();
-        if (child == 0) {
-            changesLeft = nth;
-            replaceCall("pwrite64", writeHalfAndDie);
-            replaceCall("unlink", dieBeforeUnlink);
-            importDocument();
-            _exit(0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(status == 0 || status == SIGKILL) << status;
-        return status != 0;
+    InterruptedImport() {
+        prepare(16, 6000);
+        kills = GetParam();
     }
+
+    // Whether the `nth` change to a file, which fails, ended the import.
+    bool endsAtChange(int nth) { return kills ? diesAt(nth) : isRefusedAt(nth); }
 
     // Whether the database, which must be sound, holds all of the import rather than none.
     bool isImported() const {
@@ -74,34 +64,47 @@ protected:
         EXPECT_TRUE(records == before_ || records == after_);
         return records == after_;
     }
+
+    const CExporter exporter_{kBook, "Notes"};
+
+private:
+    static bool diesAt(int nth) {
+        const pid_t child = fork();
+        if (child == 0) {
+            interruptChange(nth);
+            CExporter(kBook, "Notes").importFile(kDocument);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(status == 0 || status == SIGKILL) << status;
+        return status != 0;
+    }
+
+    bool isRefusedAt(int nth) {
+        interruptChange(nth);
+        const int result = exporter_.importFile(kDocument);
+        replaceCall<void()>("pwrite64", nullptr);
+        replaceCall<void()>("unlink", nullptr);
+        EXPECT_TRUE(result == host::kDatabaseError || result == 16) << result;
+        return result < 0;
+    }
 };
 
 }  // namespace
 
-TEST_F(InterruptedImport, KillLeavesEveryRecordOrNone) {
-    int nth = 1;
-    int whole = 0;
-    for (; killsAmid(nth); ++nth) {
+TEST_P(InterruptedImport, ChangesAllOrNothingAndTheNextOneSucceeds) {
+    int nth = 1, whole = 0;
+    for (; endsAtChange(nth); ++nth) {
         whole += isImported() ? 1 : 0;
-        EXPECT_GE(importDocument(), 0) << "the next import goes as ever";
-        EXPECT_TRUE(isImported());
+        EXPECT_GE(exporter_.importFile(kDocument), 0) << "after change " << nth;
+        EXPECT_TRUE(isImported()) << "after change " << nth;
         restore();
     }
     EXPECT_GT(nth, 50);
-    EXPECT_TRUE(0 < whole && whole < nth - 1) << whole;
+    EXPECT_EQ(whole > 0, kills) << "a refused import changed the database";
+    EXPECT_LT(whole, nth - 1);
 }
 
-TEST_F(InterruptedImport, FullDiskChangesNothingAndTheNextImportSucceeds) {
-    const CExporter exporter(kBook, "Notes");
-    int refused = 0;
-    for (int nth = 1, result = -1; result < 0; ++nth) {
-        changesLeft = nth;
-        replaceCall("pwrite64", writeWhileThereIsRoom);
-        result = exporter.importFile(kDocument);
-        replaceCall<void()>("pwrite64", nullptr);
-        EXPECT_TRUE(result == host::kDatabaseError || result == 16) << result;
-        EXPECT_EQ(isImported(), result >= 0) << nth;
-        refused += result < 0 ? 1 : 0;
-    }
-    EXPECT_GT(refused, 50);
-}
+INSTANTIATE_TEST_SUITE_P(By, InterruptedImport, testing::Bool(),
+                         [](const auto& test) { return test.param ? "Kill" : "FullDisk"; });

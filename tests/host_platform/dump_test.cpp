@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <random>
 
-#include "dump/format.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
+#include "dump/writer.h"
 #include "host_records.h"
 #include "on_empty_device.h"
 
@@ -77,28 +77,37 @@ TEST_F(Dump, CarriesMoreThanTenMegabytesOfPictures) {
     EXPECT_TRUE(recordsOnDevice() == show({book}));
 }
 
-TEST(DumpReader, RefusesDumpsBeyondALimitAndASecondPiece) {
-    const std::string text = R"({"format":"notes-export-dump","version":1,"books":[)" +
-                             std::string(1000000, ' ') + "]}";
-    const std::string bomb = gzipped(text);
-    EXPECT_TRUE(host::readPayload({bomb}, text.size()).empty());
-    EXPECT_THROW(host::readPayload({bomb}, text.size() - 1), host::DumpError);
-    EXPECT_THROW(host::readPayload({bomb, "more"}, text.size()), host::DumpError);
-
-    std::string notes = R"({"fast_hash":"ab","notes":[{"uuid":"n"})";
-    for (std::size_t records = 2; records < host::kMaxRecords; ++records) {
-        notes += R"(,{"uuid":"n"})";
+TEST_F(Dump, BeyondALimitIsNeitherWrittenNorRead) {
+    merge(sampleBooks());
+    const std::string payload = exported();
+    const std::string lengthOfText = payload.substr(payload.size() - 4);
+    const auto digit = [&](int at) { return static_cast<unsigned char>(lengthOfText[at]); };
+    const std::size_t size = digit(0) + 256U * digit(1), records = 2 + 4 + 7;
+    const host::DumpLimits exact = {size, records};
+    host::ReaderStore store(host::kReaderDatabasePath);
+    std::string written;
+    EXPECT_TRUE(host::writeDump(store, {1, 2}, {}, written, exact));
+    EXPECT_TRUE(written == payload);
+    EXPECT_EQ(show(host::readPayload({payload}, exact)), show(sampleBooks()));
+    for (const host::DumpLimits& limits :
+         {host::DumpLimits{size - 1, records}, {size, records - 1}}) {
+        SCOPED_TRACE(limits.records);
+        EXPECT_THROW(host::writeDump(store, {1, 2}, {}, written, limits),
+                     std::runtime_error);
+        EXPECT_THROW(host::readPayload({payload}, limits), host::DumpError);
     }
-    EXPECT_NO_THROW(host::readPayload({dumpOf(notes + "]}")}, host::kMaxDumpSize));
-    notes += R"(,{"uuid":"n"})";
-    EXPECT_THROW(host::readPayload({dumpOf(notes + "]}")}, host::kMaxDumpSize),
-                 host::DumpError);
+}
+
+TEST_F(Dump, InTwoPiecesIsRefused) {
+    merge(sampleBooks());
+    const std::string payload = exported();
+    EXPECT_THROW(host::readPayload({payload, "more"}), host::DumpError);
 }
 
 TEST(DumpReader, RefusesInvalidUtf8) {
     const auto read = [](const std::string& title) {
-        return host::readPayload({dumpOf(R"({"fast_hash":"ab","title":")" + title + "\"}")},
-                                 host::kMaxDumpSize);
+        return host::readPayload(
+            {dumpOf(R"({"fast_hash":"ab","title":")" + title + "\"}")});
     };
     EXPECT_EQ(read("D\xc3\xbcne \\u00e9").at(0).title, "D\xc3\xbcne \xc3\xa9");
     for (const char* title : {"\xff", "D\xc3", "\\udc00", "\\ud800"}) {

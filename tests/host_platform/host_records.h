@@ -50,7 +50,7 @@ inline std::vector<host::BookRecord> sampleBooks() {
 // The payloads that hold `text`, and a dump of the books that the JSON text lists.
 inline std::string gzipped(const std::string& text) {
     std::string payload;
-    host::GzipWriter writer(payload, host::kMaxDumpSize);
+    host::GzipWriter writer(payload, host::DumpLimits().size);
     for (const char c : text) {
         writer.Put(c);
     }

@@ -87,6 +87,14 @@ TEST_F(ExportedDocument, HasNoDumpWhenTheEngineFails) {
     EXPECT_EQ(readFile(kFile).find("<script"), std::string::npos);
 }
 
+TEST_F(ExportedDocument, ZeroByteCutsALineOfTheDump) {
+    loadSampleBook();
+    script().base64 = std::string(70, 'a') + std::string("b\0c", 3) + "d\0e";
+    EXPECT_EQ(Exporter().exportAll(), 0);
+    EXPECT_NE(readFile(kFile).find(">" + std::string(70, 'a') + "b\ncd</script>"),
+              std::string::npos);
+}
+
 TEST_F(ExportedDocument, HashIsFetchedAfterTheTypeOfTheDumpIsWritten) {
     loadSampleBook();
     script().itemIds[kBook] = -2;

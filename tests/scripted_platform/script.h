@@ -39,6 +39,7 @@ struct Script {
     // Import/export engine
     bool exportSucceeds = true;
     std::string payload;
+    std::optional<std::string> base64;  // in place of that of any bytes
     int importResult = 0;
 
     // Files

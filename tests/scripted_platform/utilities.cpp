@@ -66,7 +66,7 @@ std::string SerializationUtils::ToBase64(const std::string& bytes) {
     EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
                     reinterpret_cast<const unsigned char*>(bytes.data()),
                     static_cast<int>(bytes.size()));
-    return text;
+    return script().base64.value_or(text);
 }
 
 }  // namespace veloran::utilities

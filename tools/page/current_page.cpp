@@ -87,7 +87,7 @@ bool CurrentPage::includes(const std::string& path) const {
     try {
         std::string dump;
         host::writeDump(reader_, book_, notes_, dump);
-        const auto now = host::readPayload({std::move(dump)}, host::kMaxDumpSize);
+        const auto now = host::readPayload({std::move(dump)});
         const auto older = host::readDump(path);
         return older.size() == 1 && older[0].fastHash == now.at(0).fastHash &&
                includesNotes(now[0], older[0]);

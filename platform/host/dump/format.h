@@ -22,12 +22,15 @@ inline constexpr const char* kFormatName = "notes-export-dump";
 inline constexpr int kFormatVersion = 1;
 inline constexpr const char* kBase64Suffix = "_base64";
 
-// Of the JSON text; nothing larger is written or read. Room for about 900 pictures of 400
-// KB, and a bound on what a few hundred KB of hostile gzip can become.
-inline constexpr std::size_t kMaxDumpSize = std::size_t{512} << 20;
+// What exceeds these is neither written nor read.
+struct DumpLimits {
+    // Bytes of the JSON text: room for about 900 pictures of 400 KB, and a bound on what a
+    // few hundred KB of hostile gzip can become.
+    std::size_t size = std::size_t{512} << 20;
 
-// Books, notes and tags of a dump together; more are neither written nor read. An empty
-// record takes ten times as much memory as it has bytes in the dump.
-inline constexpr std::size_t kMaxRecords = 4000000;
+    // Books, notes and tags together. An empty record takes ten times as much memory as it
+    // has bytes in the dump.
+    std::size_t records = 4000000;
+};
 
 }  // namespace host

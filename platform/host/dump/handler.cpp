@@ -91,8 +91,8 @@ bool DumpHandler::StartObject() {
         note().tags.emplace_back();
         tagKnown_ = timestampKnown_ = false;
     }
-    records_ += depth_ >= kBookDepth ? 1 : 0;
-    return depth_ <= kTagDepth && records_ <= kMaxRecords;
+    const bool isRecord = depth_ >= kBookDepth;
+    return depth_ <= kTagDepth && (!isRecord || recordsLeft_-- > 0);
 }
 
 bool DumpHandler::EndObject(rapidjson::SizeType /*members*/) {

@@ -20,6 +20,8 @@ namespace host {
 // parsing. So neither depth nor size of foreign JSON costs anything.
 class DumpHandler {
 public:
+    explicit DumpHandler(std::size_t maxRecords) : recordsLeft_(maxRecords) {}
+
     bool StartObject();
     bool Key(const char* name, rapidjson::SizeType length, bool copy);
     bool EndObject(rapidjson::SizeType members);
@@ -60,7 +62,7 @@ private:
     int depth_ = 0;  // of open brackets: objects at odd depths, arrays at even ones
     Field field_{};  // the key whose value comes next
     NoteJson noteJson_;
-    std::size_t records_ = 0;
+    std::size_t recordsLeft_;
     bool base64_ = false;
     bool formatKnown_ = false;
     bool versionKnown_ = false;

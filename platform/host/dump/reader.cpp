@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "dump/element.h"
-#include "dump/format.h"
 #include "dump/gunzip_stream.h"
 #include "dump/handler.h"
 #include "dump/import_result.h"
@@ -12,13 +11,13 @@
 namespace host {
 
 std::vector<BookRecord> readDump(const std::string& path) {
-    return readPayload(readDumpElement(path), kMaxDumpSize);
+    return readPayload(readDumpElement(path));
 }
 
-std::vector<BookRecord> readPayload(Payload payload, std::size_t limit) {
-    GunzipStream text(std::move(payload), limit);
+std::vector<BookRecord> readPayload(Payload payload, const DumpLimits& limits) {
+    GunzipStream text(std::move(payload), limits.size);
     JsonReader reader;
-    DumpHandler handler;
+    DumpHandler handler(limits.records);
     if (reader.Parse<rapidjson::kParseIterativeFlag>(text, handler).IsError()) {
         const ImportResult failure = handler.failure();
         throw DumpError(failure, failure == kVersionUnknown

@@ -1,10 +1,10 @@
 // Reads the dump of an exported document into records.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
+#include "dump/format.h"
 #include "dump/payload.h"
 #include "store/records.h"
 
@@ -14,7 +14,7 @@ namespace host {
 // Throws DumpError, with what the import is to answer.
 std::vector<BookRecord> readDump(const std::string& path);
 
-// The same of a payload whose JSON text is no larger than `limit`.
-std::vector<BookRecord> readPayload(Payload payload, std::size_t limit);
+// The same of a payload.
+std::vector<BookRecord> readPayload(Payload payload, const DumpLimits& limits = {});
 
 }  // namespace host

@@ -28,7 +28,7 @@ public:
     using Ch = char;
 
     explicit ComparingStream(Payload payload)
-        : expected_(std::move(payload), kMaxDumpSize) {}
+        : expected_(std::move(payload), DumpLimits().size) {}
 
     // Past the end there are zero bytes, which JSON does not have.
     void Put(char c) { isSame_ = isSame_ && expected_.Take() == c; }
@@ -49,8 +49,12 @@ template <class Stream>
 class DumpWriter {
 public:
     DumpWriter(ReaderStore& store, const std::set<unsigned long long>& selected,
-               Stream& stream)
-        : store_(store), selected_(selected), stream_(stream), json_(stream) {}
+               Stream& stream, std::size_t maxRecords)
+        : store_(store),
+          selected_(selected),
+          stream_(stream),
+          json_(stream),
+          recordsLeft_(maxRecords) {}
 
     void write(const std::vector<BookEntry>& books);
 
@@ -72,7 +76,7 @@ private:
     Stream& stream_;
     JsonWriter<Stream> json_;
     NoteJson noteJson_;
-    std::size_t records_ = 0;
+    std::size_t recordsLeft_;
 };
 
 template <class Stream>
@@ -94,7 +98,7 @@ void DumpWriter<Stream>::write(const std::vector<BookEntry>& books) {
 
 template <class Stream>
 void DumpWriter<Stream>::startRecord() {
-    if (++records_ > kMaxRecords) {
+    if (recordsLeft_-- == 0) {
         throw std::runtime_error("the dump exceeds its largest number of records");
     }
     json_.StartObject();
@@ -176,13 +180,14 @@ std::vector<BookEntry> findBooks(ReaderStore& store,
 // Returns whether there is any of the books.
 template <class Stream>
 bool write(ReaderStore& store, const std::set<unsigned long long>& books,
-           const std::set<unsigned long long>& notes, Stream& stream) {
+           const std::set<unsigned long long>& notes, Stream& stream,
+           std::size_t maxRecords) {
     bool any = false;
     store.inReadTransaction([&] {
         const std::vector<BookEntry> found = findBooks(store, books);
         any = !found.empty();
         if (any) {
-            DumpWriter(store, notes, stream).write(found);
+            DumpWriter(store, notes, stream, maxRecords).write(found);
         }
     });
     return any;
@@ -191,15 +196,16 @@ bool write(ReaderStore& store, const std::set<unsigned long long>& books,
 }  // namespace
 
 bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
-               const std::set<unsigned long long>& notes, std::string& out) {
-    GzipWriter stream(out, kMaxDumpSize);
-    return write(store, books, notes, stream);
+               const std::set<unsigned long long>& notes, std::string& out,
+               const DumpLimits& limits) {
+    GzipWriter stream(out, limits.size);
+    return write(store, books, notes, stream, limits.records);
 }
 
 bool isCurrentDump(ReaderStore& store, const std::set<unsigned long long>& books,
                    const std::set<unsigned long long>& notes, Payload payload) {
     ComparingStream stream(std::move(payload));
-    return write(store, books, notes, stream) && stream.isSame();
+    return write(store, books, notes, stream, DumpLimits().records) && stream.isSame();
 }
 
 }  // namespace host

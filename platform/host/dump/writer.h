@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 
+#include "dump/format.h"
 #include "dump/payload.h"
 #include "store/reader_store.h"
 
@@ -13,10 +14,11 @@ namespace host {
 // those of their notes that `notes` names, or all when it is empty. Identifiers of nothing
 // are ignored. Only one note at a time is held in memory. The same records give the same
 // bytes, whatever the row identifiers are. Returns false when there is none of the books.
-// Throws std::runtime_error when the database cannot be read or the dump exceeds its
-// largest size. `out` is unspecified in both cases.
+// Throws std::runtime_error when the database cannot be read or the dump exceeds
+// `limits`. `out` is unspecified in both cases.
 bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
-               const std::set<unsigned long long>& notes, std::string& out);
+               const std::set<unsigned long long>& notes, std::string& out,
+               const DumpLimits& limits = {});
 
 // Whether the payload holds just the text that writeDump would write. Throws DumpError
 // besides, when the payload is damaged.
