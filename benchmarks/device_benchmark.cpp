@@ -110,7 +110,7 @@ BENCHMARK_CAPTURE(ratio, base64ToOpenSsl, base64, base64Floor)->Arg(400000);
 BENCHMARK_CAPTURE(growth, hostExportNotes, exportNotes)->Apply(growsTenfold);
 BENCHMARK_CAPTURE(growth, hostImportNotes, importNotes)->Apply(growsTenfold);
 BENCHMARK_CAPTURE(growth, hostExportComment, exportComment)->Args({1000000, 10000000});
-BENCHMARK_CAPTURE(growth, hostExportPictures, exportPictures)->Args({50, 500});
+BENCHMARK_CAPTURE(growth, hostExportPictures, exportPictures)->Args({5, 50});
 BENCHMARK(createAndFree);
 BENCHMARK(nameFile);
 

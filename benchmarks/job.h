@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cstddef>
 #include <functional>
 #include <vector>
@@ -13,15 +14,13 @@
 // The seconds that one round takes; what comes before and after it is not counted.
 using Job = double (*)(std::size_t size);
 
-// Whether each round finds the heap as a new process does, rather than as the last one left
-// it.
-inline bool heapIsFresh = false;
+// Memory that is freed stays with the process. Otherwise the time depends on how long the
+// system takes to clear pages, more than on the job.
+inline const bool memoryStays =
+    mallopt(M_MMAP_MAX, 0) == 1 && mallopt(M_TRIM_THRESHOLD, INT_MAX) == 1;
 
 template <class Work>
 double secondsOf(Work work) {
-    if (heapIsFresh) {
-        malloc_trim(0);
-    }
     const auto begin = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
@@ -56,15 +55,13 @@ inline void ratio(benchmark::State& state, Job job, Job base) {
         state, [&] { return base(size); }, [&] { return job(size); });
 }
 
-// One job at two sizes, with a fresh heap: what others left behind would serve the small
-// size and not suffice for the large one.
+// One job at two sizes. Both find the memory that the large one needs.
 inline void growth(benchmark::State& state, Job job) {
     const auto small = static_cast<std::size_t>(state.range(0));
     const auto large = static_cast<std::size_t>(state.range(1));
-    heapIsFresh = true;
+    job(large);
     compareByTurns(
         state, [&] { return job(small); }, [&] { return job(large); });
-    heapIsFresh = false;
 }
 
 inline void growsTenfold(benchmark::internal::Benchmark* benchmark) {

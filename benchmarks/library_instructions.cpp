@@ -7,20 +7,19 @@
 #include "counted.h"
 #include "peers.h"
 #include "rendering.h"
-#include "timing_device.h"
 
 namespace {
 
 void renders() {
-    const RecordedNotes notes = timing_platform::fetchedNotes();
+    const RecordedNotes notes = fetchedNotes();
     counted([&] { render("/dev/null", notes); });
 }
 
 void exports(const veloran::NoteOrder& before) {
     veloran::NotesExporterImpl exporter;
     exporter.setExportDir(".");
-    const std::string path = exporter.getExportFilename("626f6f6b");
-    counted([&] { exporter.export_bookmarks_to_html("626f6f6b", {}, before); });
+    const std::string path = exporter.getExportFilename(kBook);
+    counted([&] { exporter.export_bookmarks_to_html(kBook, {}, before); });
     std::remove(path.c_str());
 }
 
@@ -31,15 +30,8 @@ void exportsInReverse() {
 }
 
 template <const peers::Peer& kPeer>
-void writes() {
-    ReadyNotes notes(timing_platform::device().positions.size());
-    counted([&] { kPeer.toMemory(notes); });
-}
-
-template <const peers::Peer& kPeer>
 void rendersWith() {
-    const RecordedNotes records = timing_platform::fetchedNotes();
-    NotesOfRecords notes(records);
+    const RecordedNotes notes = fetchedNotes();
     counted([&] { kPeer.toMemory(notes); });
 }
 
@@ -47,11 +39,6 @@ const std::map<std::string, void (*)()> kJobs = {
     {"render", renders},
     {"render/libxml2", rendersWith<peers::libxml2>},
     {"render/tinyxml2", rendersWith<peers::tinyxml2>},
-    {"render/pugixml", rendersWith<peers::pugixml>},
-    {"write", writes<peers::writer>},
-    {"write/libxml2", writes<peers::libxml2>},
-    {"write/tinyxml2", writes<peers::tinyxml2>},
-    {"write/pugixml", writes<peers::pugixml>},
     {"export", exportsByPage},
     {"export/predicate", exportsInReverse},
 };
@@ -63,7 +50,7 @@ int main(int count, char** arguments) {
     if (job == kJobs.end()) {
         return EXIT_FAILURE;
     }
-    timing_platform::setNoteCount(std::stoul(arguments[2]));
+    setNoteCount(std::stoul(arguments[2]));
     job->second();
     return EXIT_SUCCESS;
 }

@@ -1,6 +1,5 @@
-// Writing notes, beside well-known libraries that write the same markup, and beside writing
-// the finished bytes at once. "write" starts from texts that are ready, "render" from the
-// platform's records.
+// Rendering notes, beside well-known libraries that write the same markup, and beside
+// writing the finished bytes at once.
 #include "rendering.h"
 
 #include <benchmark/benchmark.h>
@@ -10,7 +9,6 @@
 
 #include "fresh_file.h"
 #include "peers.h"
-#include "timing_device.h"
 
 namespace {
 
@@ -21,8 +19,8 @@ std::size_t noteCount(const benchmark::State& state) {
 }
 
 RecordedNotes recordsOnDevice(std::size_t count) {
-    timing_platform::setNoteCount(count);
-    return timing_platform::fetchedNotes();
+    setNoteCount(count);
+    return fetchedNotes();
 }
 
 std::string rendered(const RecordedNotes& notes) {
@@ -70,59 +68,44 @@ void renderToFile(benchmark::State& state) {
     writeAnew(state, [&](const char* path) { render(path, notes); });
 }
 
-void toMemory(benchmark::State& state, const Peer& peer, NoteSource& notes) {
-    for ([[maybe_unused]] auto round : state) {
-        benchmark::DoNotOptimize(peer.toMemory(notes));
-    }
-}
-
-void toFile(benchmark::State& state, const Peer& peer, NoteSource& notes) {
-    writeAnew(state, [&](const char* path) { peer.toFile(notes, path); });
-}
-
-using Measure = void (*)(benchmark::State&, const Peer&, NoteSource&);
-
 // What wrote something else would prove nothing; the peers differ in line ends only.
-void ofReadyNotes(benchmark::State& state, const Peer& peer, Measure measure) {
-    ReadyNotes notes(noteCount(state));
-    const std::size_t ours = peers::writer.toMemory(notes);
-    const std::size_t theirs = peer.toMemory(notes);
+void check(benchmark::State& state, const Peer& peer, const RecordedNotes& notes) {
+    const std::size_t ours = rendered(notes).size(), theirs = peer.toMemory(notes);
     if (theirs < ours * 95 / 100 || theirs > ours * 115 / 100) {
         state.SkipWithError("writes another document");
     }
-    measure(state, peer, notes);
 }
 
-void ofRecords(benchmark::State& state, const Peer& peer, Measure measure) {
-    const RecordedNotes records = recordsOnDevice(noteCount(state));
-    NotesOfRecords notes(records);
-    measure(state, peer, notes);
+template <const Peer& kPeer>
+void peerToMemory(benchmark::State& state) {
+    const RecordedNotes notes = recordsOnDevice(noteCount(state));
+    check(state, kPeer, notes);
+    for ([[maybe_unused]] auto round : state) {
+        benchmark::DoNotOptimize(kPeer.toMemory(notes));
+    }
 }
 
-void add(const std::string& name, void (*measure)(benchmark::State&)) {
-    benchmark::RegisterBenchmark(name.c_str(), measure)->Arg(1000)->Arg(100000);
+template <const Peer& kPeer>
+void peerToFile(benchmark::State& state) {
+    const RecordedNotes notes = recordsOnDevice(noteCount(state));
+    check(state, kPeer, notes);
+    writeAnew(state, [&](const char* path) { kPeer.toFile(notes, path); });
 }
 
-template <class... Arguments>
-void add(const std::string& name, const Peer& peer, const Arguments&... arguments) {
-    benchmark::RegisterBenchmark((name + peer.name).c_str(), arguments...)
-        ->Arg(1000)
-        ->Arg(100000);
-}
+const std::pair<const char*, void (*)(benchmark::State&)> kBenchmarks[] = {
+    {"finished/memory", finishedToMemory},
+    {"finished/file", finishedToFile},
+    {"render/memory", renderToMemory},
+    {"render/memory/libxml2", peerToMemory<peers::libxml2>},
+    {"render/memory/tinyxml2", peerToMemory<peers::tinyxml2>},
+    {"render/file", renderToFile},
+    {"render/file/libxml2", peerToFile<peers::libxml2>},
+    {"render/file/tinyxml2", peerToFile<peers::tinyxml2>},
+};
 
 [[maybe_unused]] const bool added = [] {
-    add("finished/memory", finishedToMemory);
-    add("finished/file", finishedToFile);
-    add("render/memory", renderToMemory);
-    add("render/file", renderToFile);
-    for (const Peer* peer :
-         {&peers::writer, &peers::libxml2, &peers::tinyxml2, &peers::pugixml}) {
-        add("write/memory/", *peer, ofReadyNotes, *peer, toMemory);
-        add("write/file/", *peer, ofReadyNotes, *peer, toFile);
-        if (peer != &peers::writer) {
-            add("render/memory/", *peer, ofRecords, *peer, toMemory);
-            add("render/file/", *peer, ofRecords, *peer, toFile);
-        }
+    for (const auto& [name, measure] : kBenchmarks) {
+        benchmark::RegisterBenchmark(name, measure)->Arg(1000)->Arg(100000);
     }
     return true;
 }();

@@ -2,10 +2,13 @@
 
 #include <memory>
 
+#include "export/notes_exporter_impl.h"
 #include "peers.h"
 
 namespace {
 
+using veloran::NotesExporterImpl;
+using veloran::utilities::Note;
 using Writer = std::unique_ptr<xmlTextWriter, decltype(&xmlFreeTextWriter)>;
 
 const xmlChar* text(const char* bytes) { return reinterpret_cast<const xmlChar*>(bytes); }
@@ -25,32 +28,32 @@ void writeBlock(xmlTextWriter* writer, const char* blockClass, const std::string
     }
 }
 
-void writeNote(xmlTextWriter* writer, const SampleNote& note) {
+void writeNote(xmlTextWriter* writer, const Note& note) {
     xmlTextWriterStartElement(writer, text("div"));
-    xmlTextWriterWriteAttribute(writer, text("id"), text(note.uuid.c_str()));
-    const std::string noteClass = "bookmark bm-color-" + note.color;
+    xmlTextWriterWriteAttribute(writer, text("id"), text(note.uuid().c_str()));
+    const std::string noteClass = "bookmark bm-color-" + note.getColor();
     xmlTextWriterWriteAttribute(writer, text("class"), text(noteClass.c_str()));
     open(writer, "p", "bm-page");
-    xmlTextWriterWriteString(writer, text(note.page.c_str()));
+    xmlTextWriterWriteString(writer, text(NotesExporterImpl::getNotePage(note).c_str()));
     close(writer);
-    writeBlock(writer, "bm-text", note.text);
-    writeBlock(writer, "bm-note", note.comment);
+    writeBlock(writer, "bm-text", note.getText());
+    writeBlock(writer, "bm-note", note.getNote());
     close(writer);
 }
 
-void writeDocument(xmlTextWriter* writer, NoteSource& notes) {
+void writeDocument(xmlTextWriter* writer, const RecordedNotes& notes) {
     xmlTextWriterSetIndent(writer, 1);
     xmlTextWriterSetIndentString(writer, text("  "));
     xmlTextWriterStartElement(writer, text("html"));
     xmlTextWriterStartElement(writer, text("body"));
-    for (std::size_t place = 0; place < notes.count(); ++place) {
-        writeNote(writer, notes.at(place));
+    for (const Note& note : notes) {
+        writeNote(writer, note);
     }
     xmlTextWriterEndElement(writer);
     xmlTextWriterEndElement(writer);
 }
 
-std::size_t toMemory(NoteSource& notes) {
+std::size_t toMemory(const RecordedNotes& notes) {
     const std::unique_ptr<xmlBuffer, decltype(&xmlBufferFree)> buffer(xmlBufferCreate(),
                                                                       xmlBufferFree);
     writeDocument(Writer(xmlNewTextWriterMemory(buffer.get(), 0), xmlFreeTextWriter).get(),
@@ -58,7 +61,7 @@ std::size_t toMemory(NoteSource& notes) {
     return static_cast<std::size_t>(xmlBufferLength(buffer.get()));
 }
 
-void toFile(NoteSource& notes, const char* path) {
+void toFile(const RecordedNotes& notes, const char* path) {
     writeDocument(Writer(xmlNewTextWriterFilename(path, 0), xmlFreeTextWriter).get(),
                   notes);
 }

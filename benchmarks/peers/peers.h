@@ -1,7 +1,9 @@
-// Well-known libraries that write the same notes as the same markup, and our writer.
+// Well-known libraries that write the same notes as the same markup.
 #pragma once
 
-#include "note_source.h"
+#include <cstddef>
+
+#include "memory_book.h"
 
 namespace peers {
 
@@ -9,13 +11,11 @@ namespace peers {
 // returned.
 struct Peer {
     const char* name;
-    std::size_t (*toMemory)(NoteSource& notes);
-    void (*toFile)(NoteSource& notes, const char* path);
+    std::size_t (*toMemory)(const RecordedNotes& notes);
+    void (*toFile)(const RecordedNotes& notes, const char* path);
 };
 
-extern const Peer writer;
 extern const Peer libxml2;   // its xmlTextWriter
 extern const Peer tinyxml2;  // its XMLPrinter
-extern const Peer pugixml;   // a tree that is built, then saved
 
 }  // namespace peers

@@ -10,14 +10,12 @@
 
 namespace memory {
 
-Device& device() {
-    static Device instance{
-        {{"626f6f6b",
-          "Book",
-          "Author",
-          "/books/Book.epub",
-          {{"note", "yellow", "A passage.", "A comment.", "", "book?page=1"}}}}};
-    return instance;
+Device deviceOfOneNote() {
+    return {{{"626f6f6b",
+              "Book",
+              "Author",
+              "/books/Book.epub",
+              {{"note", "yellow", "A passage.", "A comment.", "", "book?page=1"}}}}};
 }
 
 const StoredBook* findBook(const std::string& hash) {

@@ -32,8 +32,13 @@ struct Device {
     std::map<std::string, std::map<int, std::string>> fileProps = {};  // by hash
 };
 
-// It starts with a book of one note.
-Device& device();
+// What it starts with.
+Device deviceOfOneNote();
+
+inline Device& device() {
+    static Device instance = deviceOfOneNote();
+    return instance;
+}
 
 // The book with this hash; null when there is none.
 const StoredBook* findBook(const std::string& hash);

@@ -24,7 +24,10 @@ std::string Note::uuid() const { return (*this)[Tag::Uuid].str; }
 
 std::string Note::getAnchorUri() const {
     std::string anchor = getJsonTagElement(Tag::Anchor, "anchor");
-    return anchor.empty() ? getJsonTagElement(Tag::Range, "begin") : anchor;
+    if (anchor.empty()) {
+        return getJsonTagElement(Tag::Range, "begin");
+    }
+    return anchor;
 }
 
 }  // namespace veloran::utilities

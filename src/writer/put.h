@@ -17,29 +17,35 @@ struct PutArea : std::streambuf {
     }
 };
 
-// Copies a short text directly, as sputc does with one byte: the stream would spend more on
-// each call than on the text. Returns false when the text does not fit, or is long.
-inline bool putIntoBuffer(std::streambuf& buffer, std::string_view text) {
+// Copies short texts directly, as sputc does with one byte: the stream would spend more on
+// each call than on the text. Returns false when they do not fit, or are long.
+template <class... Texts>
+inline bool putIntoBuffer(std::streambuf& buffer, Texts... texts) {
     constexpr std::size_t kLongest = 4096;
-    char* const area = PutArea::begin(buffer);
-    const auto size = static_cast<std::size_t>(PutArea::end(buffer) - area);
-    if (text.size() > size || text.size() > kLongest) {
+    char* area = PutArea::begin(buffer);
+    const auto room = static_cast<std::size_t>(PutArea::end(buffer) - area);
+    const std::size_t size = (texts.size() + ...);
+    if (size > room || size > kLongest) {
         return false;
     }
-    text.copy(area, text.size());
-    PutArea::advance(buffer, text.size());
+    ((area += texts.copy(area, texts.size())), ...);
+    PutArea::advance(buffer, size);
     return true;
+}
+
+inline void putThroughStream(std::ostream& stream, std::string_view text) {
+    const auto size = static_cast<std::streamsize>(text.size());
+    if (stream.good() && stream.rdbuf()->sputn(text.data(), size) != size) {
+        stream.setstate(std::ios::badbit);
+    }
 }
 
 // Unformatted output: neither a locale nor a field width of the stream can change a byte,
 // and a stream that has failed passes nothing on.
-inline void put(std::ostream& stream, std::string_view text) {
-    if (!stream.good() || putIntoBuffer(*stream.rdbuf(), text)) {
-        return;
-    }
-    const auto size = static_cast<std::streamsize>(text.size());
-    if (stream.rdbuf()->sputn(text.data(), size) != size) {
-        stream.setstate(std::ios::badbit);
+template <class... Texts>
+inline void put(std::ostream& stream, const Texts&... texts) {
+    if (stream.good() && !putIntoBuffer(*stream.rdbuf(), std::string_view(texts)...)) {
+        (putThroughStream(stream, texts), ...);
     }
 }
 

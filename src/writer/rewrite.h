@@ -41,21 +41,21 @@ struct Rewriting {
 
 inline constexpr Rewriting kEscaping = {"&<>'\"", entityAt};
 
-// Hands `text`, up to its zero byte, to `put(std::string_view)` with every replacement
-// made, in as few pieces as the replacements allow.
+// Hands `text`, up to its zero byte, to `put(unchanged, markup)`, two string views, in as
+// few pieces as the replacements allow.
 template <class Put>
 void rewrite(const char* text, const Rewriting& rewriting, Put put) {
     const char* run = text;
     while (*(text += std::strcspn(text, rewriting.starts)) != '\0') {
         const Replacement replacement = rewriting.replacementAt(text);
         if (!replacement.text.empty()) {
-            put(std::string_view(run, static_cast<std::size_t>(text - run)));
-            put(replacement.text);
+            put(std::string_view(run, static_cast<std::size_t>(text - run)),
+                replacement.text);
             run = text + replacement.length;
         }
         text += replacement.length;
     }
-    put(std::string_view(run, static_cast<std::size_t>(text - run)));
+    put(std::string_view(run, static_cast<std::size_t>(text - run)), std::string_view());
 }
 
 }  // namespace markup

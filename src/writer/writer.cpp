@@ -11,7 +11,9 @@ using markup::put;
 void putRewritten(std::ostream& stream, const char* text,
                   const markup::Rewriting& rewriting) {
     markup::rewrite(text, rewriting,
-                    [&stream](std::string_view part) { put(stream, part); });
+                    [&stream](std::string_view unchanged, std::string_view markup) {
+                        put(stream, unchanged, markup);
+                    });
 }
 
 void startLine(std::ostream& stream, std::size_t depth) {
@@ -33,17 +35,14 @@ Writer& Writer::openElt(const char* name) {
         startLine(*out, openElements.size());
     }
     openElements.emplace_back(name);
-    put(*out, "<");
-    put(*out, openElements.back());
+    put(*out, "<", openElements.back());
     tagOpen = true;
     endTagLast = false;
     return *this;
 }
 
 Writer& Writer::writeAttr(const char* name, const char* value, const char* rest) {
-    put(*out, " ");
-    put(*out, name);
-    put(*out, "=\"");
+    put(*out, " ", name, "=\"");
     write_escape(value);
     if (rest != nullptr) {
         write_escape(rest);
@@ -66,7 +65,7 @@ Writer& Writer::writeRaw(const char* text) { return writeRaw(text, std::strlen(t
 
 Writer& Writer::writeRaw(const char* bytes, std::size_t length) {
     finishStartTag();
-    put(*out, {bytes, length});
+    put(*out, std::string_view(bytes, length));
     return *this;
 }
 
@@ -78,9 +77,7 @@ Writer& Writer::closeElt() {
     if (endTagLast) {
         startLine(*out, openElements.size() - 1);
     }
-    put(*out, "</");
-    put(*out, openElements.back());
-    put(*out, ">");
+    put(*out, "</", openElements.back(), ">");
     openElements.pop_back();
     endTagLast = true;
     return *this;
@@ -91,7 +88,9 @@ void Writer::write_escape(const char* text) { putRewritten(*out, text, markup::k
 std::string Writer::encodeString(const char* text) {
     std::string escaped;
     markup::rewrite(text, markup::kEscaping,
-                    [&escaped](std::string_view part) { escaped += part; });
+                    [&escaped](std::string_view unchanged, std::string_view markup) {
+                        escaped.append(unchanged).append(markup);
+                    });
     return escaped;
 }
 
