@@ -8,6 +8,7 @@
 #include "dump/note_json.h"
 #include "store/database_paths.h"
 #include "store/note_tags.h"
+#include "store/notes_ahead.h"
 #include "store/reader_store.h"
 
 namespace veloran::utilities {
@@ -15,6 +16,7 @@ namespace veloran::utilities {
 struct Sqlite::Connection {
     host::ReaderStore store{host::kReaderDatabasePath};
     host::NoteJson json;
+    host::NotesAhead notes;
 };
 
 void Sqlite::close() {
@@ -102,11 +104,14 @@ std::vector<std::pair<std::string, unsigned long long>>
 ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*/) {
     std::vector<std::pair<std::string, unsigned long long>> keys;
     host::ReaderStore& store = currentStore(connection_);
+    std::vector<std::int64_t> ids;
     if (const auto book = store.findBook(bookHash)) {
-        for (const std::int64_t id : store.noteIds(book->id)) {
+        ids = store.noteIds(book->id);
+        for (const std::int64_t id : ids) {
             keys.emplace_back(std::to_string(id), static_cast<unsigned long long>(id));
         }
     }
+    connected(connection_).notes.expect(std::move(ids));
     return keys;
 }
 
@@ -114,7 +119,7 @@ Note ReaderDbManager::getNote(const std::string& noteKey) {
     const std::int64_t id = noteIdOf(noteKey);
     Note note;
     Sqlite::Connection& connection = connected(connection_);
-    if (auto record = connection.store.note(id)) {
+    if (auto record = connection.notes.take(connection.store, id)) {
         for (host::TagRecord& tag : record->tags) {
             setTag(note, tag, connection.json);
         }

@@ -237,3 +237,31 @@ TEST_F(Store, FailuresNameTheFileAndTheCause) {
     std::filesystem::create_directories(path);
     EXPECT_EQ(failureOfReading(), path + ": unable to open database file");
 }
+
+TEST_F(Store, NotesThatAreReadAheadAreServedOnceAndForgottenWithTheirKeys) {
+    host::BookRecord book{"ab", "", "", {}};
+    const auto mergeTexts = [&](char text, std::int64_t timestamp) {
+        book.notes.clear();
+        for (int number = 10; number < 40; ++number) {
+            book.notes.push_back(
+                {std::to_string(number),
+                 {{host::kTextTag, std::string(20000, text), {}, timestamp}}});
+        }
+        merge({book});
+    };
+    mergeTexts('a', 1);
+    ReaderDbManager manager;
+    const auto keys = manager.getBookNotesHashUUIDs("ab", true);
+    const auto note = [&](std::size_t place) {
+        const Note found = manager.getNote(keys.at(place).first);
+        return found.uuid() + found.getText().substr(0, 1);
+    };
+    EXPECT_EQ(note(0) + note(1), "10a11a");
+    mergeTexts('b', 2);
+    EXPECT_EQ(note(0) + note(29), "10b39b") << "asked again, and before their turn";
+    EXPECT_EQ(note(2).substr(0, 2) + note(28), "1238b");
+    manager.getBookNotesHashUUIDs("ab", true);
+    for (std::size_t place = 0; place < keys.size(); ++place) {
+        EXPECT_EQ(note(place), std::to_string(10 + place) + "b");
+    }
+}

@@ -53,19 +53,20 @@ bool DumpHandler::Key(const char* name, rapidjson::SizeType length, bool /*copy*
         bool bytes = false;  // may be Base64
     };
     static constexpr Known kKeys[] = {
-        {1, "format", Field::kFormat},
-        {1, "version", Field::kVersion},
-        {1, "books", Field::kBooks},
-        {kBookDepth, "fast_hash", Field::kFastHash},
-        {kBookDepth, "title", Field::kTitle, true},
-        {kBookDepth, "path", Field::kPath, true},
-        {kBookDepth, "notes", Field::kNotes},
-        {kNoteDepth, "uuid", Field::kUuid, true},
-        {kNoteDepth, "tags", Field::kTags},
+        // The most frequent ones first.
         {kTagDepth, "tag", Field::kTag},
         {kTagDepth, "text", Field::kText, true},
         {kTagDepth, "json", Field::kJson},
         {kTagDepth, "timestamp", Field::kTimestamp},
+        {kNoteDepth, "uuid", Field::kUuid, true},
+        {kNoteDepth, "tags", Field::kTags},
+        {kBookDepth, "fast_hash", Field::kFastHash},
+        {kBookDepth, "title", Field::kTitle, true},
+        {kBookDepth, "path", Field::kPath, true},
+        {kBookDepth, "notes", Field::kNotes},
+        {1, "format", Field::kFormat},
+        {1, "version", Field::kVersion},
+        {1, "books", Field::kBooks},
     };
     std::string_view key(name, length);
     base64_ = dropSuffix(key, kBase64Suffix);

@@ -1,7 +1,7 @@
 #include "dump/note_json.h"
 
-#include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
+#include <rapidjson/stream.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -101,10 +101,9 @@ NoteJson::~NoteJson() = default;
 
 template <class Handler>
 bool NoteJson::read(const std::string& text, Handler& handler) {
-    rapidjson::MemoryStream bytes(text.data(), text.size());
+    rapidjson::StringStream bytes(text.c_str());
     // The parser takes a zero byte for the end of the text.
-    return isUtf8(text) &&
-           !reader_->json.Parse<rapidjson::kParseIterativeFlag>(bytes, handler).IsError() &&
+    return isUtf8(text) && !reader_->json.Parse(bytes, handler).IsError() &&
            bytes.Tell() == text.size();
 }
 

@@ -18,7 +18,7 @@ std::vector<BookRecord> readPayload(Payload payload, const DumpLimits& limits) {
     GunzipStream text(std::move(payload), limits.size);
     JsonReader reader;
     DumpHandler handler(limits.records);
-    if (reader.Parse<rapidjson::kParseIterativeFlag>(text, handler).IsError()) {
+    if (reader.Parse(text, handler).IsError()) {
         const ImportResult failure = handler.failure();
         throw DumpError(failure, failure == kVersionUnknown
                                      ? "its dump was written by a later version"

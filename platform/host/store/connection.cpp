@@ -58,20 +58,20 @@ void Query::requireRoomFor(const std::string& value) const {
     }
 }
 
-void Query::bind(int index, const std::string& text) {
+void Query::bindTo(int index, const std::string& text) {
     requireRoomFor(text);
     statement_.bindNoCopy(index, text);
 }
 
-void Query::bind(int index, const std::optional<std::string>& text) {
+void Query::bindTo(int index, const std::optional<std::string>& text) {
     if (text) {
-        bind(index, *text);
+        bindTo(index, *text);
     } else {
         statement_.bind(index);
     }
 }
 
-void Query::bind(int index, const Blob& blob) {
+void Query::bindTo(int index, const Blob& blob) {
     requireRoomFor(blob.bytes);
     statement_.bindNoCopy(index, static_cast<const void*>(blob.bytes.data()),
                           static_cast<int>(blob.bytes.size()));
@@ -83,7 +83,6 @@ Connection::Connection(const std::string& path, const Schema& schema)
       database_(openFile(path)),
       identity_(identityOf(file_)) {
     withPath(path, [&] {
-        database_.exec("PRAGMA foreign_keys = ON");
         database_.exec("PRAGMA temp_store = MEMORY");  // sorting needs no room on disk
         createTables(schema);
         checkVersion(schema);

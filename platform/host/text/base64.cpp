@@ -3,7 +3,6 @@
 #include <openssl/evp.h>
 
 #include <algorithm>
-#include <iterator>
 
 namespace host {
 namespace {
@@ -60,9 +59,12 @@ std::optional<std::string> decodeBase64(std::string_view text) {
 }
 
 bool Base64Decoder::feed(const char* text, std::size_t size, std::string& bytes) {
-    std::remove_copy_if(text, text + size, std::back_inserter(pending_), [](char c) {
-        return c == ' ' || c == '\n' || c == '\r' || c == '\t';
-    });
+    const std::size_t before = pending_.size();
+    pending_.resize(before + size);
+    const char* const end = std::remove_copy_if(
+        text, text + size, pending_.data() + before,
+        [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; });
+    pending_.resize(static_cast<std::size_t>(end - pending_.data()));
     const std::size_t groups = pending_.empty() ? 0 : (pending_.size() - 1) / 4 * 4;
     if (std::string_view(pending_).substr(0, groups).find('=') != std::string_view::npos) {
         return false;

@@ -68,7 +68,8 @@ public:
         const std::string& bookHash, bool flag);
 
     /// The note with this key; a note without tags and with identifier 0 when there is
-    /// none.
+    /// none. It is as the database has it now, or had it at any moment since the key was
+    /// handed out: a platform may read several notes at once.
     Note getNote(const std::string& noteKey);
 
 private:

@@ -1,0 +1,50 @@
+#include "store/notes_ahead.h"
+
+#include <utility>
+
+namespace host {
+namespace {
+
+constexpr std::size_t kMaxSize = std::size_t{256} << 10;
+
+std::size_t sizeOf(const std::optional<NoteRecord>& note) {
+    std::size_t size = sizeof(note);
+    if (note) {
+        for (const TagRecord& tag : note->tags) {
+            size += sizeof(tag) + tag.text.size() + tag.json.value_or("").size();
+        }
+    }
+    return size;
+}
+
+}  // namespace
+
+void NotesAhead::expect(std::vector<std::int64_t> ids) {
+    notes_.clear();
+    ids_ = std::move(ids);
+    next_ = 0;
+}
+
+std::optional<NoteRecord> NotesAhead::take(ReaderStore& store, std::int64_t id) {
+    if (next_ == ids_.size() || ids_[next_] != id) {
+        return store.note(id);
+    }
+    if (notes_.empty()) {
+        read(store);
+    }
+    std::optional<NoteRecord> note = std::move(notes_.front());
+    notes_.pop_front();
+    ++next_;
+    return note;
+}
+
+void NotesAhead::read(ReaderStore& store) {
+    store.inReadTransaction([&] {
+        std::size_t size = 0;
+        for (std::size_t place = next_; place < ids_.size() && size < kMaxSize; ++place) {
+            size += sizeOf(notes_.emplace_back(store.note(ids_[place])));
+        }
+    });
+}
+
+}  // namespace host
