@@ -1,5 +1,8 @@
 #include "db/db_manager.h"
 
+#include <unistd.h>
+
+#include <memory>
 #include <stdexcept>
 
 #include "store/database_paths.h"
@@ -10,10 +13,23 @@ namespace {
 
 constexpr int kFastHashUid = 1;
 
-// A connection a call: each finds the device of the moment, even after the working
-// directory or the device's files were changed, and calls from several threads share
-// nothing.
-host::LibraryStore library() { return host::LibraryStore(host::kLibraryDatabasePath); }
+// One connection for each thread: calls from several threads share nothing. It is opened
+// anew when the path leads to another file by now, or the working directory has changed.
+host::LibraryStore& library() {
+    struct Open {
+        host::LibraryStore store{host::kLibraryDatabasePath};
+        pid_t process = getpid();
+    };
+    thread_local std::unique_ptr<Open> open;
+    if (open != nullptr && open->process != getpid()) {
+        static_cast<void>(open.release());  // SQLite forbids to carry it across a fork
+    }
+    if (open == nullptr || !open->store.isAt(host::kLibraryDatabasePath)) {
+        open.reset();
+        open = std::make_unique<Open>();
+    }
+    return open->store;
+}
 
 }  // namespace
 

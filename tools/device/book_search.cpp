@@ -58,14 +58,19 @@ std::string described(const BookEntry& book) {
                     kListsThemAll);
 }
 
-}  // namespace
-
-std::vector<BookEntry> allBooks() {
-    std::vector<BookEntry> books = host::ReaderStore(host::kReaderDatabasePath).books();
+std::vector<BookEntry> booksIn(host::ReaderStore& store) {
+    std::vector<BookEntry> books = store.books();
     if (books.empty()) {
         throw Complaint("The device holds no books. \"notes-export load\" puts some on.");
     }
     return books;
+}
+
+}  // namespace
+
+std::vector<BookEntry> allBooks() {
+    host::ReaderStore store(host::kReaderDatabasePath);
+    return booksIn(store);
 }
 
 void complainUnlessHash(const BookEntry& book) {
@@ -77,11 +82,12 @@ void complainUnlessHash(const BookEntry& book) {
 }
 
 BookEntry findBook(const std::string& typed) {
-    if (auto book = host::ReaderStore(host::kReaderDatabasePath).findBook(typed)) {
+    host::ReaderStore store(host::kReaderDatabasePath);
+    if (auto book = store.findBook(typed)) {
         complainUnlessHash(*book);
         return *book;
     }
-    const std::vector<BookEntry> found = meant(allBooks(), typed);
+    const std::vector<BookEntry> found = meant(booksIn(store), typed);
     if (found.empty()) {
         throw Complaint("No book has a hash or a title that starts with \"" +
                         oneLine(typed) + "\". " + kListsThemAll);

@@ -44,6 +44,9 @@ NoteSelection selectNotes(const std::string& bookHash, const ExportRequest& requ
 }
 
 void complainUnlessNotesExist(const std::string& bookHash, const ExportRequest& request) {
+    if (request.filter.ids.empty()) {
+        return;
+    }
     const std::vector<Note> notes = notesOf(bookHash);
     for (const unsigned long long id : request.filter.ids) {
         const auto hasId = [id](const Note& note) { return note.noteId == id; };

@@ -1,5 +1,7 @@
 #include "store/library_store.h"
 
+#include <filesystem>
+
 #include "store/connection.h"
 
 namespace host {
@@ -41,6 +43,11 @@ LibraryStore::LibraryStore(const std::string& path)
 LibraryStore::~LibraryStore() = default;
 LibraryStore::LibraryStore(LibraryStore&&) noexcept = default;
 LibraryStore& LibraryStore::operator=(LibraryStore&&) noexcept = default;
+
+bool LibraryStore::isAt(const std::string& path) const {
+    return std::filesystem::absolute(path) == connection_->file() &&
+           !connection_->isReplaced();
+}
 
 void LibraryStore::putBook(const LibraryBook& book) {
     putBooks({book}, KnownBooks::Correct);

@@ -30,6 +30,9 @@ public:
     LibraryStore(LibraryStore&& other) noexcept;
     LibraryStore& operator=(LibraryStore&& other) noexcept;
 
+    // Whether this is the database that opening `path` would give now.
+    bool isAt(const std::string& path) const;
+
     // Adds the book, or replaces what is known of the one with its hash.
     void putBook(const LibraryBook& book);
 
