@@ -24,6 +24,9 @@ public:
         std::optional<Page> older;  // the page whose place the new one may take
     };
 
+    // Finds the pages that others have made since, too.
+    void lookAgain() { folder_.lookAgain(); }
+
     // Of the notes of the book with these identifiers, or all when there are none.
     Verdict judge(const host::BookEntry& book, const std::set<unsigned long long>& notes);
 

@@ -42,13 +42,12 @@ PageExport::PageExport(const ExportRequest& request)
     }
 }
 
-// Another update may replace the older page meanwhile: then its page is the older one, or
+// Another update may make or replace the page meanwhile: then its page is the older one, or
 // is up to date.
 ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
     constexpr int kAttempts = 10;
     for (int i = 0; i < kAttempts; ++i) {
-        const auto verdict =
-            olderPages_ ? olderPages_->judge(book, notes.ids) : OlderPages::Verdict();
+        const auto verdict = olderPages_ ? judge(book, notes) : OlderPages::Verdict();
         if (verdict.isUpToDate) {
             return {};
         }
@@ -60,6 +59,19 @@ ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes)
                     " all the time. Export it again.");
 }
 
+// A page that another update makes after the last look takes the name that is free before
+// it.
+OlderPages::Verdict PageExport::judge(const host::BookEntry& book,
+                                      const NoteSelection& notes) {
+    auto verdict = olderPages_->judge(book, notes.ids);
+    if (!verdict.isUpToDate && !verdict.older) {
+        freeName_ = exporter_.fileName(book.fastHash);
+        olderPages_->lookAgain();
+        verdict = olderPages_->judge(book, notes.ids);
+    }
+    return verdict;
+}
+
 // The library finds a free name and then opens it, replacing what came there in between:
 // it writes where nobody else does.
 std::optional<ExportedPage> PageExport::writeInPlaceOf(
@@ -69,7 +81,8 @@ std::optional<ExportedPage> PageExport::writeInPlaceOf(
     const std::string page = writeInto(folder, book, notes);
     const std::string unrecorded = whyWithoutRecords(page, book.fastHash, notes.ids);
     if (!older) {
-        return ExportedPage{shown(place(page, book)), unrecorded};
+        const auto path = place(page, book);
+        return path ? std::optional(ExportedPage{shown(*path), unrecorded}) : std::nullopt;
     }
     if (!exchange(page, older->path, older->identity, shown(older->path))) {
         return std::nullopt;
@@ -90,13 +103,18 @@ std::string PageExport::writeInto(FreshFolder& folder, const host::BookEntry& bo
 
 // The page's name is free there in most cases; the next one is asked for as long as others
 // take it.
-std::string PageExport::place(const std::string& page, const host::BookEntry& book) {
+std::optional<std::string> PageExport::place(const std::string& page,
+                                             const host::BookEntry& book) {
     if (!request_.file.empty()) {
         if (!moveIntoPlace(page, request_.file, shown(request_.file))) {
             throw Complaint(shown(request_.file) +
                             " is there already, and stays as it is.");
         }
         return request_.file;
+    }
+    if (olderPages_) {
+        return moveIntoPlace(page, freeName_, shown(freeName_)) ? std::optional(freeName_)
+                                                                : std::nullopt;
     }
     std::string path = directory_ + "/" + nameOf(page);
     while (!moveIntoPlace(page, path, shown(path))) {

@@ -27,13 +27,14 @@ public:
     ExportedPage write(const host::BookEntry& book, NoteSelection notes);
 
 private:
-    // Nothing when the older page is no longer there, and nothing was replaced.
+    OlderPages::Verdict judge(const host::BookEntry& book, const NoteSelection& notes);
+    // Nothing when the place of the page was taken meanwhile, and nothing was written.
     std::optional<ExportedPage> writeInPlaceOf(const std::optional<OlderPages::Page>& older,
                                                const host::BookEntry& book,
                                                NoteSelection& notes);
     std::string writeInto(FreshFolder& folder, const host::BookEntry& book,
                           NoteSelection& notes);
-    std::string place(const std::string& page, const host::BookEntry& book);
+    std::optional<std::string> place(const std::string& page, const host::BookEntry& book);
     std::string shown(const std::string& path) const;
     void complainUnlessStyleSheetIsFile() const;
 
@@ -41,4 +42,5 @@ private:
     Exporter exporter_;
     const std::string directory_;
     std::optional<OlderPages> olderPages_;
+    std::string freeName_;  // where an update puts a page that replaces none
 };

@@ -27,8 +27,13 @@ std::vector<fs::path> htmlFilesIn(const std::string& folder) {
 
 }  // namespace
 
-PageFolder::PageFolder(const std::string& folder) {
-    for (const fs::path& file : htmlFilesIn(folder)) {
+PageFolder::PageFolder(std::string folder) : folder_(std::move(folder)) { lookAgain(); }
+
+void PageFolder::lookAgain() {
+    for (const fs::path& file : htmlFilesIn(folder_)) {
+        if (!seen_.insert(file.string()).second) {
+            continue;
+        }
         const std::string hash = bookHashIn(file.string());
         if (!hash.empty()) {
             pages_[hash].push_back(file.string());
