@@ -1,5 +1,6 @@
 // What must hold of every view of an exported page; each problem goes to `report`.
 import { isDeepStrictEqual } from 'node:util';
+import axe from 'axe-core';
 import * as facts from './page_facts.mjs';
 
 const allowedElements = new Set(['html xmlns', 'head', 'meta name content', 'meta charset', 'title',
@@ -38,10 +39,17 @@ export async function checkColors(page, report) {
         const name = noteClass.replace('bookmark bm-color-', '');
         if (!isColored(name, color)) report(`${name} looks like rgb(${color})`);
     }
+}
+
+// What only the markup could mend, which says neither what language nor what picture it is.
+const ofMarkup = new Set(['html-has-lang', 'image-alt', 'landmark-one-main', 'region']);
+
+export async function checkAccessibility(page, report) {
+    await page.evaluate(axe.source);
     for (const media of [{ colorScheme: 'dark' }, { media: 'print' }, {}]) {
         await page.emulateMedia({ media: 'screen', colorScheme: 'light', ...media });
-        for (const [place, ratio] of await page.evaluate(facts.contrasts)) {
-            if (ratio < 4.5) report(`${place}: contrast ${ratio.toFixed(2)} in ${JSON.stringify(media)}`);
+        for (const [rule, places] of await page.evaluate(facts.violations)) {
+            if (!ofMarkup.has(rule)) report(`${rule} in ${JSON.stringify(media)}: ${places.slice(0, 3)}`);
         }
     }
 }

@@ -32,40 +32,16 @@ export function showsDump() {
 
 // Every note's class and the bar at its side, in red, green and blue.
 export function noteColors() {
-    const bar = (note) => note.childElementCount === 1
-        ? getComputedStyle(note.firstElementChild, '::before')
-        : getComputedStyle(note.lastElementChild);
+    const barred = '.bm-page:only-child, .bm-text p, .bm-page + .bm-image, .bm-page + .bm-note p';
+    const bar = (note) => getComputedStyle(note.querySelector(barred), '::before');
     return [...document.querySelectorAll('.bookmark[id]')].map((note) =>
         [note.className, bar(note).borderLeftColor.match(/[\d.]+/g).map(Number)]);
 }
 
-// The contrast of all that is written with what is behind it.
-export function contrasts() {
-    const canvas = new OffscreenCanvas(1, 1).getContext('2d', { willReadFrequently: true });
-    const paint = (color) => {
-        canvas.fillStyle = color;
-        canvas.fillRect(0, 0, 1, 1);
-    };
-    const paintBackground = (element) => {
-        if (element.parentElement) paintBackground(element.parentElement);
-        paint(getComputedStyle(element).backgroundColor);
-    };
-    const luminance = () => {
-        const linear = (byte) => byte <= 10 ? byte / 255 / 12.92 : ((byte / 255 + 0.055) / 1.055) ** 2.4;
-        const [r, g, b] = [...canvas.getImageData(0, 0, 1, 1).data].map(linear);
-        return 0.2126 * r + 0.7152 * g + 0.0722 * b + 0.05;
-    };
-    const contrast = (element, pseudo) => {
-        paint('white');
-        paintBackground(element);
-        const background = luminance();
-        paint(getComputedStyle(element, pseudo).color);
-        const ratio = luminance() / background;
-        const place = [element.closest('.bookmark'), element.parentElement, element];
-        return [place.map((e) => e.className || e.localName), Math.max(ratio, 1 / ratio)];
-    };
-    const written = [...document.querySelectorAll('h1, span, p')].filter((e) => e.textContent);
-    return [contrast(document.querySelector('h1'), '::first-line'), ...written.map((e) => contrast(e))];
+// What axe finds wrong, with the places.
+export async function violations() {
+    const { violations } = await axe.run({ resultTypes: ['violations'] });
+    return violations.map(({ id, nodes }) => [id, nodes.map(({ html }) => html)]);
 }
 
 // What leaves the page sideways, is cut off, lies on something else, or is shown too small for a

@@ -3,7 +3,7 @@
 import { copyFileSync } from 'node:fs';
 import { pathToFileURL } from 'node:url';
 import { chromium } from 'playwright-core';
-import { checkColors, checkContent, checkLayout } from './checks.mjs';
+import { checkAccessibility, checkColors, checkContent, checkLayout } from './checks.mjs';
 import { exportBooks } from './device.mjs';
 import { takeScreenshots } from './screenshots.mjs';
 
@@ -32,6 +32,7 @@ async function problemsOf(book, url) {
     if (type.endsWith('xml') !== url.endsWith('xhtml')) report(`it is read as ${type}`);
     await checkContent(page, book, report);
     await checkColors(page, report);
+    await checkAccessibility(page, report);
     await checkLayout(page, report);
     await page.close();
     return problems;
