@@ -33,7 +33,7 @@ inline void timed(benchmark::State& state, Job job) {
 }
 
 // Reports as "ratio" how many times as long as `base` the other takes. They run by turns,
-// so that both meet the machine in the same mood.
+// so that another load of the machine slows both down alike.
 inline void compareByTurns(benchmark::State& state, const std::function<double()>& base,
                            const std::function<double()>& other) {
     std::vector<double> ratios;

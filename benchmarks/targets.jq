@@ -6,8 +6,8 @@
   def row($what; $ratio; $limit): {$what, $ratio, $limit};
   {"ratio/exportToFetchingAndRendering/1000": 1.3,
    "ratio/exportToFetchingAndRendering/100000": 1.3, "ratio/dumpElementToItsEncoding/1000000": 2,
-   "ratio/base64ToOpenSsl/400000": 1.25, "ratio/hostExportToFloorAsAsked/10000": 2,
-   "ratio/hostImportToFloor/10000": 2, "ratio/loadClippingsToDeviceFile/100000": 1.5,
+   "ratio/base64ToOpenSsl/400000": 1.25, "ratio/hostExportToFloorAsAsked/10000": 1.7, "ratio/hostExportToFloorInOneGo/10000": 3.7,
+   "ratio/hostImportToFloor/10000": 1.6, "ratio/loadClippingsToDeviceFile/100000": 1.5,
    "ratio/loadKoboToDeviceFile/100000": 1.5, "ratio/loadAnnotationsToDeviceFile/100000": 1.5,
    "ratio/exportAllToOneByOne/400": 1.2, "ratio/updateToExportAll/400": 0.2} as $limits
 | [

@@ -14,7 +14,7 @@ namespace {
 constexpr int kFastHashUid = 1;
 
 // One connection for each thread: calls from several threads share nothing. It is opened
-// anew when the path leads to another file by now, or the working directory has changed.
+// again when the file was replaced or the working directory has changed.
 host::LibraryStore& library() {
     struct Open {
         host::LibraryStore store{host::kLibraryDatabasePath};

@@ -65,7 +65,7 @@ void ImportExportDBV2::set_export_bookmark_ids(const std::set<unsigned long long
     exportBookmarkIds_ = ids;
 }
 
-// Notes of this device do not travel, unless somebody else makes the payload.
+// This platform has no dump format of its own: it hands out the payload that it was given.
 bool ImportExportDBV2::books_export(std::string& out,
                                     const std::set<unsigned long long>& /*books*/) {
     out += memory::device().payload;

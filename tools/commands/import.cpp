@@ -57,7 +57,7 @@ int mergeDirectly(const std::string& file) {
     }
 }
 
-// A failure that has passed meanwhile leaves the notes merged and the file to be marked.
+// If the failure does not occur again, the notes are merged now, and the file is marked.
 int importAgain(const std::string& file) {
     const int merged = mergeDirectly(file);
     if (callLibrary(file) < 0) {

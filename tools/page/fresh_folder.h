@@ -1,4 +1,4 @@
-// A place where one file can be written that nobody else writes or sees.
+// A new folder, in which one file can be written without interference.
 #pragma once
 
 #include <string>

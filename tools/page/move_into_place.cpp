@@ -53,14 +53,14 @@ bool moveIntoPlace(const std::string& from, const std::string& to,
 
 bool exchange(const std::string& from, const std::string& to, const host::FileIdentity& old,
               const std::string& shown) {
-    const SignalsHeld held;  // one would remove what stands at `from`
+    const SignalsHeld held;  // a signal would remove the file at `from`
     if (host::identityOf(to) != old) {
         return false;
     }
     if (!exchanged(from.c_str(), to.c_str())) {
         complainThatNotWritten(to, shown);
     }
-    // Another program may have put its own file there since it was looked at.
+    // Another program may have put its file there after the check.
     const auto taken = host::identityOf(from);
     if (taken && taken != old) {
         static_cast<void>(exchanged(from.c_str(), to.c_str()));

@@ -42,8 +42,8 @@ PageExport::PageExport(const ExportRequest& request)
     }
 }
 
-// Another update may make or replace the page meanwhile: then its page is the older one, or
-// is up to date.
+// Another update may write the page at the same time. Its page is then up to date, or is
+// the older page that this one replaces.
 ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
     constexpr int kAttempts = 10;
     for (int i = 0; i < kAttempts; ++i) {
@@ -59,8 +59,8 @@ ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes)
                     " all the time. Export it again.");
 }
 
-// A page that another update makes after the last look takes the name that is free before
-// it.
+// The free name is found before the last look at the folder. If another update writes a
+// page after that look, the name is taken, and the page is judged again.
 OlderPages::Verdict PageExport::judge(const host::BookEntry& book,
                                       const NoteSelection& notes) {
     auto verdict = olderPages_->judge(book, notes.ids);

@@ -28,7 +28,7 @@ public:
 
 private:
     OlderPages::Verdict judge(const host::BookEntry& book, const NoteSelection& notes);
-    // Nothing when the place of the page was taken meanwhile, and nothing was written.
+    // Nothing when another program took the place of the page. Nothing is written then.
     std::optional<ExportedPage> writeInPlaceOf(const std::optional<OlderPages::Page>& older,
                                                const host::BookEntry& book,
                                                NoteSelection& notes);

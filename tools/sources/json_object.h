@@ -8,12 +8,11 @@
 #include <set>
 #include <string>
 
-// Each getter notes that its member is known. A member of the wrong type, a missing one
-// that is required and, at the end, one that nobody asked for is a Complaint that names
-// the place.
+// Throws a Complaint that names the place for a member of the wrong type, for a required
+// one that is missing and, at the end, for a member that no getter has read.
 class JsonObject {
 public:
-    // `place` tells where the object stands, for complaints ("book 2, note 5").
+    // `place` says where the object is in the file, for complaints ("book 2, note 5").
     // `value` must outlive this object.
     JsonObject(const Json::Value& value, std::string place);
 

@@ -7,7 +7,7 @@
 
 class SkippedRecords {
 public:
-    // `record` tells where the record stands and what is wrong with it, for people:
+    // `record` says where the record is and what is wrong with it, for people:
     // "line 12: no title".
     void add(const std::string& record);
 

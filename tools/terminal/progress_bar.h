@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string>
 
-// A line on standard error, if that is a terminal. It is drawn before each step and stands
-// while the step is done; nothing else may be printed meanwhile.
+// A line on standard error, if that is a terminal. It is drawn before each step and
+// remains during the step; nothing else may be printed then.
 class ProgressBar {
 public:
     ProgressBar(std::string what, std::size_t steps);

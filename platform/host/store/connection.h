@@ -83,7 +83,7 @@ public:
     // The path of the file, which does not depend on the working directory any more.
     const std::string& file() const { return file_; }
 
-    // Whether there is another file, or none, under that path now.
+    // Whether the file at that path was replaced or removed.
     bool isReplaced();
 
     // The statement `sql`, which is compiled once and lives in static storage, with

@@ -45,8 +45,8 @@ public:
     ReaderStore(ReaderStore&& other) noexcept;
     ReaderStore& operator=(ReaderStore&& other) noexcept;
 
-    // Opens the database anew when there is another file under its path by now. Row
-    // identifiers of the file before mean nothing in this one.
+    // Opens the database again when its file was replaced. Row identifiers of the old file
+    // are not valid in the new one.
     void followFile();
 
     // All books, by fast hash.

@@ -44,7 +44,7 @@ public:
             if (connection_.handle() != nullptr) {
                 connection_.close();
             }
-        } catch (...) {  ///< nobody is left to tell, and the connection is given up anyway
+        } catch (...) {  ///< a destructor must not throw; the connection is abandoned
         }
     }
 

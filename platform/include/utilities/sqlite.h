@@ -4,7 +4,7 @@
 
 namespace veloran::utilities {
 
-/// A native connection, which whoever holds this object closes. Copied by nobody.
+/// A native connection. The owner of this object closes it. Not copied.
 class Sqlite {
 public:
     /// The native connection; the platform defines it.

@@ -23,7 +23,7 @@ struct Clipping {
     std::optional<ClippingRange> location;
     std::int64_t timestamp = 0;  // 0: unknown
     std::string text;
-    bool hasLimitMessage = false;  // which stands there in place of the passage
+    bool hasLimitMessage = false;  // in place of the passage
 };
 
 // Reads the lines of one record, without the line that ends it. Nothing when they are no
