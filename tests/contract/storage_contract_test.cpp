@@ -111,6 +111,7 @@ TEST_F(SeamContract, RestrictedExportHoldsOnlyThoseNotes) {
         {{}, {"more", "text"}},  // the earlier restriction is lifted
     };
     for (const auto& [ids, texts] : cases) {
+        SCOPED_TRACE(testing::PrintToString(texts));
         engine->set_export_bookmark_ids(ids);
         std::string payload;
         EXPECT_TRUE(engine->books_export(payload, {book_}));

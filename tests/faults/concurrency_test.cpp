@@ -65,6 +65,7 @@ TEST_F(ConcurrentUse, ProcessesThatImportAtOnceLeaveTheRecordsOfAll) {
     }
     const std::string both = recordsOnDevice();
     for (int round = 0; round < 20; ++round) {
+        SCOPED_TRACE("round " + std::to_string(round));
         std::filesystem::remove_all("mnt");
         std::vector<pid_t> processes;
         for (const char* document : {kDocument, "other.html", kDocument, "other.html"}) {

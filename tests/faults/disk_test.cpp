@@ -96,9 +96,10 @@ private:
 TEST_P(InterruptedImport, ChangesAllOrNothingAndTheNextOneSucceeds) {
     int nth = 1, whole = 0;
     for (; endsAtChange(nth); ++nth) {
+        SCOPED_TRACE("change " + std::to_string(nth));
         whole += isImported() ? 1 : 0;
-        EXPECT_GE(exporter_.importFile(kDocument), 0) << "after change " << nth;
-        EXPECT_TRUE(isImported()) << "after change " << nth;
+        EXPECT_GE(exporter_.importFile(kDocument), 0) << "the next import";
+        EXPECT_TRUE(isImported()) << "by the next import";
         restore();
     }
     EXPECT_GT(nth, 50);

@@ -25,6 +25,7 @@ TEST_F(Dump, ImportRestoresEveryRecordOnceInAnyOrder) {
     }
     const std::string payload = exported();
     for (const bool isReversed : {false, true}) {
+        SCOPED_TRACE(isReversed ? "merged in reverse" : "imported");
         const ScratchDirectory elsewhere;
         EXPECT_EQ(isReversed ? merge(books) : imported(documentOf(payload)), 4);
         EXPECT_EQ(recordsOnDevice(), show(sampleBooks()));

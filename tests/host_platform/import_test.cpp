@@ -98,6 +98,7 @@ TEST_F(ImportedDocument, InvalidBytesPrintNothingAndKeepTheErrorHandler) {
     const auto handler = [](void* /*self*/, auto* /*error*/) {};
     const xmlStructuredErrorFunc own = handler;
     for (const xmlStructuredErrorFunc before : {xmlStructuredErrorFunc{}, own}) {
+        SCOPED_TRACE(before == nullptr ? "no handler" : "own handler");
         xmlSetStructuredErrorFunc(nullptr, before);
         testing::internal::CaptureStderr();
         imported("<?xml version='1.0' encoding='utf-7'?><html>\xff\xfe+ADw</html>");
@@ -227,6 +228,7 @@ TEST_F(Store, FailuresNameTheFileAndTheCause) {
         {"0", "another program (schema 0, known is 1)"},
     };
     for (const auto& [version, writer] : versions) {
+        SCOPED_TRACE(version);
         const ScratchDirectory elsewhere;
         merge({});
         change((std::string("PRAGMA user_version = ") + version).c_str());

@@ -41,6 +41,7 @@ void load(const Lookup& lookup) {
 
 TEST_F(BookLookup, TitleComesFromTheFirstSourceThatHasOne) {
     for (const Lookup& lookup : kLookups) {
+        SCOPED_TRACE("lookup " + std::to_string(&lookup - kLookups));
         load(lookup);
         EXPECT_EQ(NotesExporterImpl::getBookTitle(kBook), lookup.title);
         EXPECT_EQ(script().calls.size(), lookup.calls) << joined(script().calls);

@@ -124,6 +124,7 @@ TEST_F(ExportedDocument, StyleSheetIsCopiedUnescapedOrLeftEmpty) {
     loadSampleBook();
     const std::string opening = "<!--/*--><![CDATA[/*><!--*/\n", closing = "\n/*]]>*/-->";
     for (const std::size_t size : {0U, 1U, 1023U, 1024U, 1025U, 2048U, 2500U}) {
+        SCOPED_TRACE(size);
         std::string sheet;
         while (sheet.size() < size) {
             sheet += "a > b { content: \"<&'\" }\r\n\xCE\xB1\xFF";

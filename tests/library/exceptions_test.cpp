@@ -58,6 +58,7 @@ TEST_P(PlatformExceptions, ReachTheCallerOfAnExportAndLeaveTheExporterUsable) {
     };
     std::string text;
     for (const auto& call : calls) {
+        SCOPED_TRACE("function " + std::to_string(&call - calls));
         bool failed = true;
         for (int n = 1; failed; n++) {
             std::filesystem::remove_all("Notes");
@@ -87,6 +88,7 @@ TEST_P(PlatformExceptions, OfAnImportReachCppAndStandardOnesBecomeMinusOneInC) {
     const CExporter cExporter(kBook, "Notes");
     EXPECT_EQ(cExporter.importFile(nullptr), -1);
     for (int n = 1; n <= 5; n++) {
+        SCOPED_TRACE("call " + std::to_string(n));
         EXPECT_TRUE(fails(n, [&] { exporter.import_from_file("in.html"); }));
         int result = 0;
         EXPECT_NE(fails(n, [&] { result = cExporter.importFile("in.html"); }), GetParam());

@@ -21,6 +21,7 @@ TEST_F(ExportedFile, IsMarkedWithItsHashUnlessThatExceedsTheBuffer) {
     loadSampleBook();
     script().hashText = std::string(300, 'h');
     for (const auto& [reported, trusted] : cases) {
+        SCOPED_TRACE(reported);
         script().hashResult = reported;
         const std::string mark =
             "DbManager::SetFileProp(" + std::string(trusted, 'h') + ", 7, 2)";
@@ -66,6 +67,7 @@ TEST_F(ExportedFile, EndsWhereTheDiskGotFullEvenIfThereIsRoomLater) {
     for (const rlim_t room : {0U, 1U, 4096U, 262143U, 262144U, 262145U, 400000U}) {
         for (const std::string& roomAgainAt :
              {std::string("Note(399)::getText()"), "FastBookHash(" + kFile + ", 256)"}) {
+            SCOPED_TRACE(std::to_string(room) + " bytes, more at " + roomAgainAt);
             std::filesystem::remove(kFile);
             script().onCall = [&](const std::string& call) {
                 if (startsWith(call, "oa_buildpath")) {
@@ -76,7 +78,7 @@ TEST_F(ExportedFile, EndsWhereTheDiskGotFullEvenIfThereIsRoomLater) {
             };
             EXPECT_EQ(joined(callsOfExport()), joined(expected));
             EXPECT_EQ(std::filesystem::file_size(kFile), room);
-            EXPECT_TRUE(startsWith(whole, withoutDates(readFile(kFile)))) << room;
+            EXPECT_TRUE(startsWith(whole, withoutDates(readFile(kFile))));
         }
     }
 }

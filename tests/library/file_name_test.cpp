@@ -27,6 +27,7 @@ TEST_F(FileName, KeepsHarmlessCharactersOfTheTitleAndCountsPastTakenNames) {
     script().bookIdsByUid[kUid] = kLibraryId;
     for (const std::string directory : {"", "Notes", "Notes/"}) {
         for (const Name& each : names) {
+            SCOPED_TRACE(directory + ", " + each.title);
             script().booksOfLibrary[kLibraryId].title = each.title;
             script().existing.clear();
             Exporter exporter;

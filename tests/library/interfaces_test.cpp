@@ -35,6 +35,7 @@ TEST_F(CallOrder, UnknownBookEndsTheExportAfterOneLookup) {
 
 TEST_F(CallOrder, FailedImportEndsAfterTheEngine) {
     for (const int result : {0, 5, -5}) {
+        SCOPED_TRACE(result);
         Exporter exporter;
         script().importResult = result;
         EXPECT_EQ(exporter.import_from_file("in.html"), result);
@@ -75,6 +76,7 @@ TEST_F(CInterface, FileNameIsCutAtTheSizeOfTheBuffer) {
     const std::size_t length = kFile.size();
     for (const std::size_t size :
          {std::size_t{0}, std::size_t{1}, length, length + 1, length + 9}) {
+        SCOPED_TRACE(size);
         std::string buffer(length + 20, '~');
         notes_exporter_get_exported_file_name(exporter.handle(), buffer.data(), size,
                                               kBook.c_str());

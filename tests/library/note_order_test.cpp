@@ -52,6 +52,7 @@ TEST_F(NoteOrder, IsByPageAndStableWithinAPage) {
         {std::vector<int>(100, 4), ascendingIds(100)},
     };
     for (const auto& [pages, expected] : cases) {
+        SCOPED_TRACE(testing::PrintToString(pages));
         loadPages(pages);
         EXPECT_EQ(exportedIds({}, nullptr), expected);
         EXPECT_EQ(script().copiedNotes, 0);
@@ -63,6 +64,7 @@ TEST_F(NoteOrder, OnlySelectedNotesAreAskedForAndRendered) {
         {{}, {5, 4, 3, 2, 1}}, {{2, 4}, {4, 2}}, {{4, 99}, {4}}, {{99}, {}}};
     loadPages({5, 4, 3, 2, 1});
     for (const auto& [selected, expected] : cases) {
+        SCOPED_TRACE(testing::PrintToString(selected));
         EXPECT_EQ(exportedIds(selected, nullptr), expected);
         for (const unsigned long long id : ascendingIds(5)) {
             const std::string asked = "Note(" + std::to_string(id);
@@ -99,6 +101,7 @@ TEST_F(Predicate, InconsistentAnswersStillWriteEveryNoteOnce) {
         [random = std::mt19937(1)](auto, auto) mutable { return random() % 2 == 0; },
     };
     for (const std::size_t size : {0U, 1U, 2U, 3U, 17U, 1000U}) {
+        SCOPED_TRACE(size);
         loadPages(std::vector<int>(size, kNoPage));
         const auto neverBefore = [](auto a, auto b) {
             EXPECT_NE(a, b) << "one note needs no order";

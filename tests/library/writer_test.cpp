@@ -28,6 +28,7 @@ constexpr char kMarkup[] =
 
 TEST(Writer, IgnoresStreamFormattingAndStopsAfterAFailure) {
     for (std::size_t failure = 0; failure <= std::size(kCalls); ++failure) {
+        SCOPED_TRACE("failure before call " + std::to_string(failure));
         std::ostringstream stream;
         Writer writer(stream);
         stream << std::left << std::setfill('*') << std::setw(30);
