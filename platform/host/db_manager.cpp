@@ -24,10 +24,10 @@ host::LibraryStore& library() {
     if (open != nullptr && open->process != getpid()) {
         static_cast<void>(open.release());  // SQLite forbids to carry it across a fork
     }
-    if (open == nullptr || !open->store.isAt(host::kLibraryDatabasePath)) {
-        open.reset();
-        open = std::make_unique<Open>();
+    if (open != nullptr && open->store.isAt(host::kLibraryDatabasePath)) {
+        return open->store;
     }
+    open = std::make_unique<Open>();
     return open->store;
 }
 

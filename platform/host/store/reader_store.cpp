@@ -122,10 +122,9 @@ std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
         notes.emplace_back(time, rows.bytes(1), rows.integer(0));
     }
     std::sort(notes.begin(), notes.end());
-    std::vector<std::int64_t> ids;
-    for (const Creation& note : notes) {
-        ids.push_back(std::get<std::int64_t>(note));
-    }
+    std::vector<std::int64_t> ids(notes.size());
+    std::transform(notes.begin(), notes.end(), ids.begin(),
+                   [](const Creation& note) { return std::get<std::int64_t>(note); });
     return ids;
 }
 
