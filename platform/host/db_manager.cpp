@@ -27,6 +27,8 @@ host::LibraryStore& library() {
     if (open != nullptr && open->store.isAt(host::kLibraryDatabasePath)) {
         return open->store;
     }
+    open.reset();
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): it misses that this is null now.
     open = std::make_unique<Open>();
     return open->store;
 }
