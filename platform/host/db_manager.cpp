@@ -28,9 +28,10 @@ host::LibraryStore& library() {
         return open->store;
     }
     open.reset();
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): it misses that this is null now.
+    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDelete): it misses that this is null now.
     open = std::make_unique<Open>();
     return open->store;
+    // NOLINTEND(clang-analyzer-cplusplus.NewDelete)
 }
 
 }  // namespace
