@@ -117,14 +117,14 @@ std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) 
     std::size_t taken = 0;
     for (std::size_t first = 0; first < note.tags.size(); first += kMostTagsAtOnce) {
         const std::size_t end = std::min(first + kMostTagsAtOnce, note.tags.size());
-        Query merge = connection_->query(mergeTagsStatement(end - first));
+        Query statement = connection_->query(mergeTagsStatement(end - first));
         for (std::size_t place = first; place < end; ++place) {
             const TagRecord& tag = note.tags[place];
             checkSize(note, tag);
-            merge.bind(noteId, std::int64_t{tag.tag}, Blob{tag.text}, tag.json,
-                       tag.timestamp);
+            statement.bind(noteId, std::int64_t{tag.tag}, Blob{tag.text}, tag.json,
+                           tag.timestamp);
         }
-        taken += static_cast<std::size_t>(merge.run());
+        taken += static_cast<std::size_t>(statement.run());
     }
     return taken;
 }
