@@ -82,7 +82,9 @@ TEST_F(Dump, BeyondALimitIsNeitherWrittenNorRead) {
     merge(sampleBooks());
     const std::string payload = exported();
     const std::string lengthOfText = payload.substr(payload.size() - 4);
-    const auto digit = [&](int at) { return static_cast<unsigned char>(lengthOfText[at]); };
+    const auto digit = [&](std::size_t at) {
+        return static_cast<unsigned char>(lengthOfText[at]);
+    };
     const std::size_t size = digit(0) + 256U * digit(1), records = 2 + 4 + 7;
     const host::DumpLimits exact = {size, records};
     host::ReaderStore store(host::kReaderDatabasePath);
