@@ -89,7 +89,8 @@ TEST_F(ConcurrentUse, ExportHoldsOneStateOfADatabaseThatChanges) {
     });
     for (int round = 0; round < 20; ++round) {
         std::set<std::int64_t> times;
-        for (const host::NoteRecord& note : host::readPayload({exported()})[0].notes) {
+        const std::vector<host::BookRecord> books = host::readPayload({exported()});
+        for (const host::NoteRecord& note : books.at(0).notes) {
             times.insert(note.tags.at(0).timestamp);
         }
         EXPECT_EQ(times.size(), 1U) << "round " << round;
