@@ -64,7 +64,7 @@ ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes)
 OlderPages::Verdict PageExport::judge(const host::BookEntry& book,
                                       const NoteSelection& notes) {
     auto verdict = olderPages_->judge(book, notes.ids);
-    if (!verdict.isUpToDate && !verdict.older) {
+    if (request_.file.empty() && !verdict.isUpToDate && !verdict.older) {
         freeName_ = exporter_.fileName(book.fastHash);
         olderPages_->lookAgain();
         verdict = olderPages_->judge(book, notes.ids);

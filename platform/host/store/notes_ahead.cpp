@@ -11,7 +11,7 @@ std::size_t sizeOf(const std::optional<NoteRecord>& note) {
     std::size_t size = sizeof(note);
     if (note) {
         for (const TagRecord& tag : note->tags) {
-            size += sizeof(tag) + tag.text.size() + tag.json.value_or("").size();
+            size += sizeof(tag) + tag.text.size() + (tag.json ? tag.json->size() : 0);
         }
     }
     return size;
