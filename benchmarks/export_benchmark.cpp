@@ -41,8 +41,9 @@ double exportComment(std::size_t bytes) {
 
 double exportPictures(std::size_t count) {
     setNoteCount(count);
+    const std::string picture = samplePicture(400000);
     for (memory::StoredNote& note : memory::device().books.front().notes) {
-        note.picture = samplePicture(400000);
+        note.picture = picture;
     }
     return exportDevice();
 }

@@ -14,7 +14,7 @@ using RecordedNotes = std::vector<veloran::utilities::Note>;
 // Gives the book that many notes. They are the device's only ones.
 void setNoteCount(std::size_t count);
 
-// The book has one note, which a test of large contents changes.
+// Gives the book one note, whose contents the caller may replace.
 memory::StoredNote& onlyNote();
 
 // The book's notes as an export fetches them.

@@ -87,11 +87,11 @@ class Device:
         command = [*prefix, self.client, "-C", self.folder, *arguments]
         return subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, preexec_fn=apply)
 
-    def run(self, *arguments, fails=False, **options):
+    def run(self, *arguments, **options):
         """Runs the client, and returns the lines that it printed."""
         process = self.start(*arguments, **options)
         out, errors = process.communicate()
-        check(fails or process.returncode == 0, arguments, process.returncode, errors.decode())
+        check(process.returncode == 0, arguments, process.returncode, errors.decode())
         return out.decode().splitlines()
 
     def verify(self, only=None):
