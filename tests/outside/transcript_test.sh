@@ -4,6 +4,7 @@
 # status unless that is 0 ("[…]"). Of a manual page, its literal blocks are the transcript.
 #   transcript_test.sh TRANSCRIPT FILE...
 set -o pipefail
+export LC_ALL=C.UTF-8  # transcripts hold text of many scripts
 
 play() {
     while IFS= read -r line; do
