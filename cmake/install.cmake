@@ -28,8 +28,8 @@ if(TARGET notes-export)
   set_target_properties(notes-export PROPERTIES
     INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS notes-export RUNTIME COMPONENT client)
-  install(FILES tools/notes-export.1
+  install(FILES client/cli/notes-export.1
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT client)
-  install(FILES tools/completions/notes-export.bash RENAME notes-export
+  install(FILES client/cli/notes-export.bash RENAME notes-export
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT client)
 endif()

@@ -2,12 +2,12 @@
 #include <set>
 #include <sstream>
 
+#include "client/error.h"
+#include "client/sources/source.h"
 #include "fuzz_target.h"
 #include "scratch_files.h"
-#include "sources/source.h"
 #include "store/book_hash.h"
 #include "store/reader_store.h"
-#include "terminal/complaint.h"
 
 namespace {
 

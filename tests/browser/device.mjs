@@ -4,7 +4,7 @@ import { execFileSync } from 'node:child_process';
 import { mkdirSync, readFileSync, rmSync } from 'node:fs';
 import path from 'node:path';
 
-const client = path.resolve('build/host/tools/notes-export');
+const client = path.resolve('build/host/client/notes-export');
 
 const paragraphs = (text) => (text ? text.replace(/[\r\u2028]/g, '\n').split('\u2029') : []);
 

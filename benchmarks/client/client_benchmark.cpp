@@ -1,0 +1,111 @@
+// Commands of the client: loading each source beside a device file of the same notes, and
+// exports of many books beside what the library takes for them.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <iostream>
+#include <sstream>
+
+#include "client/collection/collection_folder.h"
+#include "client/commands/commands.h"
+#include "client/pages/exporter.h"
+#include "job.h"
+#include "note_files.h"
+#include "store/database_paths.h"
+#include "store/reader_store.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char kPages[] = "pages";
+
+// Takes what the commands print.
+class Silence {
+public:
+    ~Silence() { std::cout.rdbuf(before_); }
+
+private:
+    std::ostringstream output_;
+    std::streambuf* const before_ = std::cout.rdbuf(output_.rdbuf());
+};
+
+// A folder of its own for each process, in which devices and files are made.
+void enterScratch() {
+    static const ScratchFolder scratch;
+    fs::current_path(scratch.path());
+}
+
+void removeDevice() { fs::remove_all(fs::path(host::kReaderDatabasePath).parent_path()); }
+
+template <const char* kFile>
+double load(std::size_t notes) {
+    enterScratch();
+    enterNoteFiles(1, notes);
+    removeDevice();
+    const Silence silence;
+    return secondsOf([] { loadAll({kFile}); });
+}
+
+ExportRequest exportRequest() {
+    ExportRequest request;
+    request.directory = kPages;
+    return request;
+}
+
+void enterDeviceOf(std::size_t books) {
+    enterScratch();
+    constexpr std::size_t kNotesABook = 100;
+    enterNoteFiles(books, kNotesABook);
+    prepareDevice();
+    if (host::ReaderStore(host::kReaderDatabasePath).books().size() != books) {
+        removeDevice();
+        loadAll({kDeviceFile});
+    }
+}
+
+double exportAll(std::size_t books) {
+    const Silence silence;
+    enterDeviceOf(books);
+    fs::remove_all(kPages);
+    return secondsOf([] { exportNotes(exportRequest()); });
+}
+
+double updateAll(std::size_t books) {
+    exportAll(books);
+    const Silence silence;
+    ExportRequest request = exportRequest();
+    request.update = true;
+    return secondsOf([&] { exportNotes(request); });
+}
+
+// Each book in an exporter of its own, as a program would that exports one book.
+double exportOneByOne(std::size_t books) {
+    const Silence silence;
+    enterDeviceOf(books);
+    fs::remove_all(kPages);
+    double seconds = 0;
+    for (const auto& book : host::ReaderStore(host::kReaderDatabasePath).books()) {
+        seconds += secondsOf([&] {
+            const Exporter exporter(kPages);
+            notes_exporter_export_bookmarks_to_html(
+                exporter.handle(), book.fastHash.c_str(), nullptr, 0, nullptr, nullptr);
+        });
+    }
+    return seconds;
+}
+
+constexpr Job loadDeviceFile = load<kDeviceFile>;
+
+BENCHMARK_CAPTURE(timed, loadDeviceFile, loadDeviceFile)->Arg(100000)->UseManualTime();
+BENCHMARK_CAPTURE(timed, exportAll, exportAll)->Arg(400)->UseManualTime();
+BENCHMARK_CAPTURE(ratio, loadClippingsToDeviceFile, load<kClippings>, loadDeviceFile)
+    ->Arg(100000);
+BENCHMARK_CAPTURE(ratio, loadKoboToDeviceFile, load<kKoboDatabase>, loadDeviceFile)
+    ->Arg(100000);
+BENCHMARK_CAPTURE(ratio, loadAnnotationsToDeviceFile, load<kAnnotationSet>, loadDeviceFile)
+    ->Arg(100000);
+BENCHMARK_CAPTURE(ratio, exportAllToOneByOne, exportAll, exportOneByOne)->Arg(400);
+BENCHMARK_CAPTURE(ratio, updateToExportAll, updateAll, exportAll)->Arg(400);
+
+}  // namespace

@@ -1,0 +1,82 @@
+// books and notes.
+#include <memory>
+
+#include "client/cli/command_line.h"
+#include "client/cli/examples.h"
+#include "client/cli/filter_options.h"
+#include "client/commands/commands.h"
+
+namespace {
+
+std::vector<std::string> formatNames() {
+    std::vector<std::string> names;
+    for (const ListingFormat* format : kListingFormats) {
+        names.emplace_back(format->name);
+    }
+    return names;
+}
+
+// The name has been checked.
+void setFormat(const ListingFormat*& chosen, const std::string& name) {
+    for (const ListingFormat* format : kListingFormats) {
+        chosen = format->name == name ? format : chosen;
+    }
+}
+
+void addFormat(CLI::App& command, const ListingFormat*& format) {
+    command
+        .add_option_function<std::string>(
+            "--format", [&format](const std::string& name) { setFormat(format, name); },
+            "How to write the list (default: lines)")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(formatNames()));
+    command.add_flag_callback(
+        "--json", [&format] { format = &kJsonFormat; }, "The same as --format json");
+}
+
+void addBooks(Program& program) {
+    const auto format = std::make_shared<const ListingFormat*>(&kLineFormat);
+    CLI::App& books = addCommand(program, "books", "List the books: hash, title, author",
+                                 Device::MustExist, [format] { listBooks(**format); });
+    addFormat(books, *format);
+    books.footer(examples::kBooks);
+}
+
+void addPictures(CLI::App& command, FolderForPictures& pictures) {
+    command
+        .add_option_function<std::string>(
+            "--pictures",
+            [&pictures](const std::string& folder) {
+                pictures = {folder, folder};
+                makeAbsolute(pictures.path);
+            },
+            "With Markdown, write and show the pictures")
+        ->type_name("DIR");
+}
+
+void listNotesAsAsked(const NotesRequest& request) {
+    if (!request.pictures.path.empty() && request.format != &kMarkdownFormat) {
+        throw CLI::ValidationError("--pictures", "only --format markdown shows pictures");
+    }
+    listNotes(request);
+}
+
+void addNotes(Program& program) {
+    const auto request = std::make_shared<NotesRequest>();
+    CLI::App& notes =
+        addCommand(program, "notes", "List notes: identifier, page, colour, text",
+                   Device::MustExist, [request] { listNotesAsAsked(*request); });
+    notes.add_option("BOOK", request->books,
+                     "Hash, title or a start of one (default: all books)");
+    addFormat(notes, request->format);
+    addFilter(notes, request->filter);
+    addPictures(notes, request->pictures);
+    notes.footer(examples::kNotes);
+}
+
+}  // namespace
+
+void addListCommands(Program& program) {
+    addBooks(program);
+    addNotes(program);
+}

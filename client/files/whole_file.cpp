@@ -1,0 +1,97 @@
+#include "client/files/whole_file.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <stdexcept>
+#include <system_error>
+#include <vector>
+
+#include "client/error.h"
+#include "files/input_file.h"
+#include "store/records.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void checkSize(const fs::path& path, std::uint64_t size) {
+    if (size > host::kMaxValueSize) {
+        throw std::runtime_error(
+            path.string() + ": its " + std::to_string(size) + " bytes are more than the " +
+            std::to_string(host::kMaxValueSize) + " that a database takes");
+    }
+}
+
+std::string contentOf(const fs::path& path) {
+    host::InputFile file(path.string());
+    checkSize(path, file.size());
+    std::string content;
+    content.reserve(static_cast<std::size_t>(file.size()));
+    std::vector<char> block(65536);
+    while (const std::size_t size = file.read(block.data(), block.size())) {
+        content.append(block.data(), size);
+        checkSize(path, content.size());  // it may grow meanwhile
+    }
+    return content;
+}
+
+std::string startOf(const fs::path& path, std::size_t size) {
+    host::InputFile file(path.string());
+    std::string content(size, '\0');
+    std::size_t length = 0;
+    while (const std::size_t part = file.read(&content[length], size - length)) {
+        length += part;
+    }
+    content.resize(length);
+    return content;
+}
+
+template <class Read>
+std::string complainingOnFailure(const Read& read) {
+    try {
+        return read();
+    } catch (const std::runtime_error& error) {
+        throw Complaint(std::string("Cannot read ") + error.what());
+    }
+}
+
+// Leaves the reason in errno when it fails.
+bool wrote(const fs::path& path, const std::string& content) {
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    if (file == nullptr) {
+        return false;
+    }
+    const bool whole =
+        std::fwrite(content.data(), 1, content.size(), file) == content.size();
+    return std::fclose(file) == 0 && whole;
+}
+
+}  // namespace
+
+std::string readFile(const fs::path& path) {
+    return complainingOnFailure([&] { return contentOf(path); });
+}
+
+std::string readStart(const fs::path& path, std::size_t size) {
+    return complainingOnFailure([&] { return startOf(path, size); });
+}
+
+void writeFile(const fs::path& path, const std::string& content) {
+    makeFolders(path.parent_path());
+    const fs::path part = path.string() + ".part";
+    if (!wrote(part, content) || std::rename(part.c_str(), path.c_str()) != 0) {
+        const std::error_code error(errno, std::generic_category());
+        std::error_code ignored;
+        fs::remove(part, ignored);
+        complain("Cannot write " + path.string(), error);
+    }
+}
+
+void makeFolders(const fs::path& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (error) {
+        complain("Cannot make the folder " + path.string(), error);
+    }
+}

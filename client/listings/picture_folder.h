@@ -1,0 +1,20 @@
+// Writes the pictures that a listing links to.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "client/listings/listing.h"
+
+class PictureFolder {
+public:
+    explicit PictureFolder(FolderForPictures folder) : folder_(std::move(folder)) {}
+
+    // Writes the picture into a file named after the title and the picture's content,
+    // unless such a file is there. Never replaces a file. Returns the destination of a link
+    // to it; empty when there is no picture, or no folder. Complains when it cannot write.
+    std::string add(const std::string& title, const std::string& picture) const;
+
+private:
+    FolderForPictures folder_;
+};

@@ -1,0 +1,12 @@
+// "My Clippings.txt": the text file to which a Kindle appends what its user marks.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "client/sources/source.h"
+
+bool isClippings(std::string_view start);
+
+// Records without an end or a known form are skipped.
+SourceContent readClippings(const std::string& path);

@@ -1,0 +1,105 @@
+#include "client/sources/clippings/date.h"
+
+#include <string_view>
+#include <unordered_map>
+
+#include "client/sources/clippings/matching.h"
+#include "client/sources/clippings/numbers.h"
+#include "client/sources/clippings/words.h"
+#include "client/text/calendar.h"
+
+namespace {
+
+namespace words = clipping_words;
+
+using Months = std::unordered_map<std::string_view, int>;
+
+Months monthsByName() {
+    Months months;
+    int number = 0;
+    for (std::string_view names : words::kMonths) {
+        ++number;
+        while (!names.empty()) {
+            const std::size_t length = names.find(' ');
+            months.emplace(names.substr(0, length), number);
+            names.remove_prefix(length == std::string_view::npos ? names.size()
+                                                                 : length + 1);
+        }
+    }
+    return months;
+}
+
+// 0 when the text names none.
+int monthNamedIn(std::string_view text) {
+    static const Months kMonths = monthsByName();
+    constexpr std::string_view kAround = " .,:;0123456789";
+    while (!text.empty()) {
+        const std::size_t length = std::min(text.find_first_of(kAround), text.size());
+        if (const auto month = kMonths.find(text.substr(0, length));
+            month != kMonths.end()) {
+            return month->second;
+        }
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
+    return 0;
+}
+
+// What is read from the numbers of the text, one after the other.
+struct Moment {
+    std::int64_t year = -1;
+    std::int64_t month = 0;
+    std::int64_t day = 0;
+    std::int64_t seconds = 0;
+    int partsOfTime = 0;  // that have been read: hours, minutes, seconds
+    std::string_view afterTime = {};
+};
+
+void take(Moment& moment, const NumberInText& number) {
+    constexpr std::int64_t kFactors[] = {3600, 60, 1};
+    const bool isTime =
+        number.rest.substr(0, 1) == ":" || (moment.partsOfTime > 0 && number.before == ':');
+    if (isTime && number.digits <= 2 && moment.partsOfTime < 3) {
+        moment.seconds += number.value * kFactors[moment.partsOfTime++];
+        moment.afterTime = number.rest;
+    } else if (number.digits == 4 && moment.year < 0) {
+        moment.year = number.value;
+    } else if (number.rest.substr(0, 3) == "月") {
+        moment.month = number.value;
+    } else if (number.digits <= 2 && moment.day == 0) {
+        moment.day = number.value;
+    }
+}
+
+std::int64_t secondsOfDay(const Moment& moment, std::string_view text) {
+    constexpr std::int64_t kHour = 3600;
+    constexpr std::int64_t kNoon = 12 * kHour;
+    if (moment.seconds < kNoon && (startsWithOneOf(moment.afterTime, words::kPm) ||
+                                   hasOneOf(text, words::kAfternoon))) {
+        return moment.seconds + kNoon;
+    }
+    if (moment.seconds >= kNoon && moment.seconds < kNoon + kHour &&
+        (startsWithOneOf(moment.afterTime, words::kAm) ||
+         hasOneOf(text, words::kMorning))) {
+        return moment.seconds - kNoon;
+    }
+    return moment.seconds;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> parseClippingDate(const std::string& text) {
+    Moment moment;
+    for (std::size_t at = 0; const auto number = nextNumber(text, at);) {
+        take(moment, *number);
+    }
+    if (moment.month == 0) {
+        moment.month = monthNamedIn(text);
+    }
+    if (moment.year < 0 || moment.month < 1 || moment.month > 12 || moment.day < 1 ||
+        moment.day > 31) {
+        return std::nullopt;
+    }
+    constexpr std::int64_t kDay = 86400;
+    return daysSinceEpoch({moment.year, moment.month, moment.day}) * kDay +
+           secondsOfDay(moment, text) % kDay;
+}

@@ -1,0 +1,123 @@
+#include "client/sources/device_file/device_file.h"
+
+#include <json/reader.h>
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string_view>
+
+#include "client/collection/note.h"
+#include "client/error.h"
+#include "client/files/whole_file.h"
+#include "client/sources/device_file/json_object.h"
+#include "store/book_hash.h"
+
+namespace {
+
+Json::Value parse(const std::string& text, const std::string& path) {
+    Json::CharReaderBuilder builder;
+    Json::CharReaderBuilder::strictMode(&builder.settings_);
+    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    Json::Value json;
+    std::string errors;
+    try {
+        if (reader->parse(text.data(), text.data() + text.size(), &json, &errors)) {
+            return json;
+        }
+    } catch (const Json::Exception& error) {  // nested too deep
+        errors = error.what();
+    }
+    throw Complaint(path + " is not JSON that a device file may hold:\n" + errors);
+}
+
+std::string numbered(const std::string& kind, std::size_t number) {
+    return kind + std::to_string(number);
+}
+
+// Complains when two of the things in the object have one name, which is their `member`.
+template <class Things, class Name>
+void checkNames(const JsonObject& object, const Things& things, Name name, const char* kind,
+                const char* member) {
+    std::map<std::string_view, std::size_t> numbers;
+    for (const auto& thing : things) {
+        const std::size_t number = numbers.size() + 1;
+        const auto [first, isNew] = numbers.try_emplace(name(thing), number);
+        if (!isNew) {
+            object.complain(numbered(kind, first->second) + numbered(" and ", number) +
+                            " have one " + member);
+        }
+    }
+}
+
+std::string readHash(JsonObject& object) {
+    std::string hash = object.requiredText("hash");
+    if (!host::isBookHash(hash)) {
+        object.complain("expected pairs of hexadecimal digits, in lower case, as \"hash\"");
+    }
+    return hash;
+}
+
+host::NoteRecord readNote(const Json::Value& json, const std::string& place,
+                          const std::filesystem::path& folder) {
+    JsonObject object(json, place);
+    SourceNote note;
+    note.timestamp = object.integer("timestamp").value_or(0);
+    note.uuid = object.requiredText("uuid");
+    note.page = object.number("page");
+    note.color = object.text("color");
+    note.text = object.text("text");
+    note.comment = object.text("comment");
+    note.image = object.file("image", folder).value_or("");
+    object.complainAboutUnknownMembers();
+    return noteRecord(std::move(note));
+}
+
+std::vector<host::NoteRecord> readNotes(JsonObject& book, const std::string& place,
+                                        const std::filesystem::path& folder) {
+    std::vector<host::NoteRecord> notes;
+    for (const Json::Value& note : book.array("notes")) {
+        const std::string notePlace = numbered(place + ", note ", notes.size() + 1);
+        notes.push_back(readNote(note, notePlace, folder));
+    }
+    const auto uuid = [](const host::NoteRecord& note) -> const auto& { return note.uuid; };
+    checkNames(book, notes, uuid, "notes ", "uuid");
+    return notes;
+}
+
+SourceBook readBook(const Json::Value& json, const std::string& place,
+                    const std::filesystem::path& folder) {
+    JsonObject object(json, place);
+    SourceBook book;
+    book.record = {readHash(object), object.text("title"), object.text("path"), {}};
+    book.author = object.text("author");
+    book.record.notes = readNotes(object, place, folder);
+    object.complainAboutUnknownMembers();
+    return book;
+}
+
+}  // namespace
+
+bool isDeviceFile(std::string_view start) {
+    const std::size_t first = start.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && start[first] == '{';
+}
+
+SourceContent readDeviceFile(const std::string& path) {
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    const Json::Value json = parse(readFile(path), path);
+    JsonObject object(json, path);
+    SourceContent content;
+    content.knownBooks = host::KnownBooks::Correct;
+    for (const Json::Value& book : object.array("books")) {
+        const std::string place = numbered(path + ": book ", content.books.size() + 1);
+        content.books.push_back(readBook(book, place, folder));
+    }
+    const auto hash = [](const SourceBook& book) -> const auto& {
+        return book.record.fastHash;
+    };
+    checkNames(object, content.books, hash, "books ", "hash");
+    content.styleSheet = object.file("style_sheet", folder);
+    object.complainAboutUnknownMembers();
+    return content;
+}

@@ -1,0 +1,13 @@
+// The database of a Kobo reader ("KoboReader.sqlite").
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "client/sources/source.h"
+
+// Whether it is an SQLite database.
+bool isKoboDatabase(std::string_view start);
+
+// Writes nothing, neither to the database nor beside it. Complains about other databases.
+SourceContent readKoboDatabase(const std::string& path);

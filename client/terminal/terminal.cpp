@@ -1,0 +1,28 @@
+#include "client/terminal/terminal.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string_view>
+
+namespace {
+
+std::string_view variable(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string_view() : value;
+}
+
+}  // namespace
+
+bool isTerminal(int descriptor) {
+    const std::string_view kind = variable("TERM");
+    return isatty(descriptor) == 1 && !kind.empty() && kind != "dumb";
+}
+
+bool isColorful(int descriptor) {
+    return variable("NO_COLOR").empty() && isTerminal(descriptor);
+}
+
+std::string bold(const std::string& text) {
+    return isColorful(STDOUT_FILENO) ? "\033[1m" + text + "\033[0m" : text;
+}

@@ -1,0 +1,133 @@
+#include "client/text/iso_time.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "client/text/calendar.h"
+
+namespace {
+
+constexpr std::int64_t kSecondsADay = 86400;
+
+bool isDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+// Takes what it reads from the front of the text; after a first failure, every answer is of
+// no use.
+class Parser {
+public:
+    explicit Parser(std::string_view text) : rest_(text) {}
+
+    bool failed() const { return failed_; }
+    bool atEnd() const { return rest_.empty(); }
+    bool isNext(std::string_view letters) const {
+        return !atEnd() && letters.find(rest_[0]) != std::string_view::npos;
+    }
+    bool skip(std::string_view letters);
+    void fail() { failed_ = true; }
+    void expect(std::string_view letters) { failed_ |= !skip(letters); }
+    std::int64_t number(std::size_t digits, std::int64_t least, std::int64_t most);
+    void skipDigits();
+
+private:
+    std::string_view rest_;
+    bool failed_ = false;
+};
+
+bool Parser::skip(std::string_view letters) {
+    const bool isThere = isNext(letters);
+    rest_.remove_prefix(isThere ? 1 : 0);
+    return isThere;
+}
+
+std::int64_t Parser::number(std::size_t digits, std::int64_t least, std::int64_t most) {
+    std::int64_t value = 0;
+    for (std::size_t i = 0; i < digits; ++i) {
+        failed_ |= atEnd() || !isDigit(rest_[0]);
+        value = failed_ ? 0 : value * 10 + (rest_[0] - '0');
+        rest_.remove_prefix(failed_ ? 0 : 1);
+    }
+    failed_ |= value < least || value > most;
+    return value;
+}
+
+void Parser::skipDigits() {
+    while (!atEnd() && isDigit(rest_[0])) {
+        rest_.remove_prefix(1);
+    }
+}
+
+std::int64_t parseDate(Parser& text) {
+    const std::int64_t year = text.number(4, 0, 9999);
+    text.expect("-");
+    const std::int64_t month = text.number(2, 1, 12);
+    text.expect("-");
+    const std::int64_t day = text.number(2, 1, 31);
+    const std::int64_t days = daysSinceEpoch({year, month, day});
+    if (dateOf(days).day != day) {
+        text.fail();  // the month has no such day
+    }
+    return days * kSecondsADay;
+}
+
+std::int64_t parseTimeOfDay(Parser& text) {
+    std::int64_t seconds = text.number(2, 0, 23) * 3600;
+    text.expect(":");
+    seconds += text.number(2, 0, 59) * 60;
+    if (text.skip(":")) {
+        seconds += text.number(2, 0, 60);
+        if (text.skip(".,")) {
+            text.number(1, 0, 9);
+            text.skipDigits();
+        }
+    }
+    return seconds;
+}
+
+// The seconds that the zone is ahead of UTC.
+std::int64_t parseZone(Parser& text) {
+    if (text.skip("Zz") || text.atEnd()) {
+        return 0;
+    }
+    const std::int64_t sign = text.isNext("-") ? -1 : 1;
+    text.expect("+-");
+    std::int64_t seconds = text.number(2, 0, 23) * 3600;
+    if (text.skip(":") || !text.atEnd()) {
+        seconds += text.number(2, 0, 59) * 60;
+    }
+    return sign * seconds;
+}
+
+std::string padded(std::int64_t number, std::size_t width) {
+    const std::string digits = std::to_string(number);
+    return std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+// ISO 8601 wants a sign where a year has not four digits.
+std::string yearText(std::int64_t year) {
+    if (year >= 0 && year <= 9999) {
+        return padded(year, 4);
+    }
+    return (year < 0 ? "-" : "+") + padded(year < 0 ? -year : year, 4);
+}
+
+}  // namespace
+
+std::optional<std::int64_t> parseIsoTime(std::string_view text) {
+    Parser parser(text);
+    std::int64_t seconds = parseDate(parser);
+    if (!parser.atEnd()) {
+        parser.expect("Tt ");
+        seconds += parseTimeOfDay(parser);
+        seconds -= parseZone(parser);
+    }
+    return parser.failed() || !parser.atEnd() ? std::nullopt : std::optional(seconds);
+}
+
+std::string isoTime(std::int64_t seconds) {
+    const std::int64_t rest = seconds % kSecondsADay;  // negative before the epoch
+    const std::int64_t time = rest < 0 ? rest + kSecondsADay : rest;
+    const Date date = dateOf(seconds / kSecondsADay - (rest < 0 ? 1 : 0));
+    return yearText(date.year) + '-' + padded(date.month, 2) + '-' + padded(date.day, 2) +
+           'T' + padded(time / 3600, 2) + ':' + padded(time / 60 % 60, 2) + ':' +
+           padded(time % 60, 2) + 'Z';
+}
