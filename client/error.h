@@ -1,18 +1,19 @@
-// An error that the user can do something about.
+// The one exception of what a user can mend.
 #pragma once
 
 #include <stdexcept>
 #include <string>
 #include <system_error>
 
-// Its text says what is wrong and what to do; the client prints it and exits with 1.
-struct Complaint : std::runtime_error {
+namespace client {
+
+// Its text says what failed, why, and what to do. The client prints it and exits with 1.
+struct UserError : std::runtime_error {
     using std::runtime_error::runtime_error;
+
+    // `what` failed, for a reason that the system gives.
+    UserError(const std::string& what, std::error_code why)
+        : std::runtime_error(what + ": " + why.message()) {}
 };
 
-// Complains that `what` failed, in the system's words.
-[[noreturn]] void complain(const std::string& what, std::error_code why);
-
-// The complaint as standard error shows it: after the program's name, each line as
-// one_line.h makes it, since paths and messages may hold anything.
-std::string complaintText(const std::string& text);
+}  // namespace client

@@ -44,12 +44,12 @@ double load(std::size_t notes) {
     enterNoteFiles(1, notes);
     removeDevice();
     const Silence silence;
-    return secondsOf([] { loadAll({kFile}); });
+    return secondsOf([] { client::load({{kFile}, ""}); });
 }
 
-ExportRequest exportRequest() {
-    ExportRequest request;
-    request.directory = kPages;
+client::ExportRequest exportRequest() {
+    client::ExportRequest request;
+    request.target.directory = kPages;
     return request;
 }
 
@@ -57,10 +57,10 @@ void enterDeviceOf(std::size_t books) {
     enterScratch();
     constexpr std::size_t kNotesABook = 100;
     enterNoteFiles(books, kNotesABook);
-    prepareDevice();
+    client::prepareCollection();
     if (host::ReaderStore(host::kReaderDatabasePath).books().size() != books) {
         removeDevice();
-        loadAll({kDeviceFile});
+        client::load({{kDeviceFile}, ""});
     }
 }
 
@@ -68,15 +68,15 @@ double exportAll(std::size_t books) {
     const Silence silence;
     enterDeviceOf(books);
     fs::remove_all(kPages);
-    return secondsOf([] { exportNotes(exportRequest()); });
+    return secondsOf([] { client::exportNotes(exportRequest()); });
 }
 
 double updateAll(std::size_t books) {
     exportAll(books);
     const Silence silence;
-    ExportRequest request = exportRequest();
-    request.update = true;
-    return secondsOf([&] { exportNotes(request); });
+    client::ExportRequest request = exportRequest();
+    request.target.update = true;
+    return secondsOf([&] { client::exportNotes(request); });
 }
 
 // Each book in an exporter of its own, as a program would that exports one book.
@@ -87,7 +87,7 @@ double exportOneByOne(std::size_t books) {
     double seconds = 0;
     for (const auto& book : host::ReaderStore(host::kReaderDatabasePath).books()) {
         seconds += secondsOf([&] {
-            const Exporter exporter(kPages);
+            const client::Exporter exporter(kPages);
             notes_exporter_export_bookmarks_to_html(
                 exporter.handle(), book.fastHash.c_str(), nullptr, 0, nullptr, nullptr);
         });

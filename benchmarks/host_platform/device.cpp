@@ -106,7 +106,7 @@ host::BookRecord bookOfComment(std::size_t bytes) {
     return book;
 }
 
-void enterDevice(MakeBook makeBook, std::size_t size) {
+void enterCollection(MakeBook makeBook, std::size_t size) {
     static const Scratch scratch;
     const auto kind = std::to_string(reinterpret_cast<std::uintptr_t>(makeBook));
     const fs::path folder = scratch.folder / kind / std::to_string(size);

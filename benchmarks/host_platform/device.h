@@ -21,7 +21,7 @@ using MakeBook = host::BookRecord (*)(std::size_t size);
 
 // Enters the device that holds this book, and its export in kDocument; makes both first
 // where they are missing.
-void enterDevice(MakeBook makeBook, std::size_t size);
+void enterCollection(MakeBook makeBook, std::size_t size);
 inline constexpr char kDocument[] = "exported.html";
 
 void removeReaderDatabase();

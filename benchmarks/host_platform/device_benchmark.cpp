@@ -24,13 +24,13 @@ double secondsOfRound(Work work, CleanUp cleanUp) {
 
 template <MakeBook kMakeBook>
 double exportBookOf(std::size_t size) {
-    enterDevice(kMakeBook, size);
+    enterCollection(kMakeBook, size);
     return secondsOfRound(exportBook, removeExport);
 }
 
 template <void (*kReadRows)()>
 double exportFloor(std::size_t notes) {
-    enterDevice(bookOfNotes, notes);
+    enterCollection(bookOfNotes, notes);
     const std::string document = contentOf(kDocument);
     const std::string dump = textOfDump(document);
     const auto work = [&] {
@@ -53,25 +53,25 @@ double onEmptyDevice(Work work) {
 }
 
 double importNotes(std::size_t notes) {
-    enterDevice(bookOfNotes, notes);
+    enterCollection(bookOfNotes, notes);
     return onEmptyDevice(importDocument);
 }
 
 double importFloor(std::size_t notes) {
-    enterDevice(bookOfNotes, notes);
+    enterCollection(bookOfNotes, notes);
     const host::BookRecord book = bookOfNotes(notes);
     return onEmptyDevice([&] { insertRows(book); });
 }
 
 void createAndFree(benchmark::State& state) {
-    enterDevice(bookOfNotes, 1000);
+    enterCollection(bookOfNotes, 1000);
     for ([[maybe_unused]] auto round : state) {
         createAndFreeExporter();
     }
 }
 
 void nameFile(benchmark::State& state) {
-    enterDevice(bookOfNotes, 1000);
+    enterCollection(bookOfNotes, 1000);
     for ([[maybe_unused]] auto round : state) {
         askForFileName();
     }

@@ -9,7 +9,7 @@ int main(int count, char** arguments) {
     if (count != 3) {
         return EXIT_FAILURE;
     }
-    enterDevice(bookOfNotes, std::stoul(arguments[2]));
+    enterCollection(bookOfNotes, std::stoul(arguments[2]));
     if (std::string(arguments[1]) == "export") {
         counted(exportBook);
     } else {

@@ -99,10 +99,10 @@ int main(int count, char** arguments) {
     }
     const Case& chosen = found->second;
     const std::size_t size = std::stoul(arguments[2]);
-    enterDevice(bookOfNotes, 1);
+    enterCollection(bookOfNotes, 1);
     const long bare = peakOf(exportBook);
-    peakOf([&] { enterDevice(chosen.makeBook, size); });  // what it takes is not ours
-    enterDevice(chosen.makeBook, size);
+    peakOf([&] { enterCollection(chosen.makeBook, size); });  // what it takes is not ours
+    enterCollection(chosen.makeBook, size);
     const long peak = peakOf(chosen.exportIt);
     const std::size_t parts =
         inChild(sizeOfNotes) + inChild(sizeOfLongestText) + inChild(sizeOfDocumentParts);

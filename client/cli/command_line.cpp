@@ -2,12 +2,14 @@
 
 #include <utility>
 
-CLI::App& addCommand(Program& program, const char* name, const char* description,
-                     Device device, std::function<void()> action) {
-    CLI::App& command = *program.parser.add_subcommand(name, description);
+namespace client {
+
+CLI::App& addCommand(CommandLine& commandLine, const char* name, const char* description,
+                     CollectionNeed need, std::function<void()> action) {
+    CLI::App& command = *commandLine.parser.add_subcommand(name, description);
     command.fallthrough();  // -C may follow it
-    command.callback([&program, device, action = std::move(action)] {
-        enterDevice(program.device, device);
+    command.callback([&commandLine, need, action = std::move(action)] {
+        enterCollection(commandLine.folder, need);
         action();
     });
     return command;
@@ -27,3 +29,5 @@ CLI::Validator callersPath() {
     };
     return {resolve, ""};
 }
+
+}  // namespace client

@@ -1,4 +1,4 @@
-// The client's command line, to which each command adds itself.
+// The command line, to which each command adds itself.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -8,26 +8,31 @@
 
 #include "client/collection/collection_folder.h"
 
-struct Program {
+namespace client {
+
+struct CommandLine {
     CLI::App parser{
         "Exports the notes of a book into one file that any browser opens, and "
         "imports such files.",
         "notes-export"};
-    std::string device;  // the folder that -C names; empty: the working directory
+    std::string folder;  // the collection's, which -C names; empty: the working directory
 };
 
 // Each adds the commands of its file.
-void addFileCommands(Program& program);
-void addListCommands(Program& program);
-void addExportCommands(Program& program);
+void addFileCommands(CommandLine& commandLine);
+void addListCommands(CommandLine& commandLine);
+void addExportCommands(CommandLine& commandLine);
 
-// A command that does its `action` in the folder of the device. It and all that it refers
-// to must live as long as the program.
-CLI::App& addCommand(Program& program, const char* name, const char* description,
-                     Device device, std::function<void()> action);
+// Adds a command that runs `action` in the folder of the collection. `action` and all that
+// it refers to must live as long as `commandLine`.
+CLI::App& addCommand(CommandLine& commandLine, const char* name, const char* description,
+                     CollectionNeed need, std::function<void()> action);
 
-// The argument that names a book: required and only one, unless the caller changes that.
+// Adds the argument that names a book: required and only one, unless the caller changes
+// that.
 CLI::Option& addBook(CLI::App& command, std::vector<std::string>& books);
 
-// The check of a path that stays relative to the caller's own folder.
+// Returns the transformation of a path that stays relative to the caller's own folder.
 CLI::Validator callersPath();
+
+}  // namespace client

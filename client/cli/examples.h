@@ -1,6 +1,8 @@
 // The examples at the end of the help texts.
 #pragma once
 
+namespace client {
+
 namespace examples {
 
 inline constexpr const char* kAll = R"(Examples:
@@ -24,3 +26,5 @@ inline constexpr const char* kExport = R"(Examples:
   notes-export -C reader export --all --update --dir Notes)";
 
 }  // namespace examples
+
+}  // namespace client

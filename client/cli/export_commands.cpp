@@ -6,52 +6,55 @@
 #include "client/cli/filter_options.h"
 #include "client/commands/commands.h"
 
+namespace client {
 namespace {
 
 using Request = std::shared_ptr<ExportRequest>;
 
-// The path that is printed is relative to what the caller's are.
-std::function<void()> forDevice(Program& program, const Request& request,
-                                void (*action)(const ExportRequest&)) {
-    return [&program, request, action] {
-        request->deviceFolder = program.device;
-        action(*request);
-    };
-}
-
 void addDirectory(CLI::App& command, std::string& directory) {
-    command.add_option("--dir", directory, "Folder for the pages (default: the device's)")
+    command.add_option("--dir", directory, "Folder for the pages (default: the collection's)")
         ->type_name("DIR")
         ->transform(callersPath());
 }
 
-void addTarget(CLI::App& command, ExportRequest& request) {
-    addDirectory(command, request.directory);
-    command.add_option("-o", request.file, "Write this file; for one BOOK")
+void addTarget(CLI::App& command, PageTarget& target) {
+    addDirectory(command, target.directory);
+    command.add_option("-o", target.file, "Write this file; for one BOOK")
         ->type_name("FILE")
         ->transform(callersPath())
         ->excludes("--dir");
-    command.add_flag("--update", request.update, "Skip books whose page is up to date");
+    command.add_flag("--update", target.update, "Skip books whose page is up to date");
 }
 
-void checkBooks(const ExportRequest& request, const CLI::App& command) {
+void requireBooks(const ExportRequest& request, const CLI::App& command) {
     const bool all = command.count("--all") > 0;
     if (request.books.empty() != all) {
         throw CLI::ValidationError(all ? "--all excludes BOOK"
                                        : "BOOK or --all is required");
     }
-    if (!request.file.empty() && request.books.size() != 1) {
+    if (!request.target.file.empty() && request.books.size() != 1) {
         throw CLI::ValidationError("-o is for one BOOK");
     }
 }
 
-void addExport(Program& program) {
+// A printed path starts from the same folder as the caller's.
+CLI::App& addPageCommand(CommandLine& commandLine, const char* name,
+                         const char* description, const Request& request,
+                         void (*action)(const ExportRequest&)) {
+    return addCommand(commandLine, name, description, CollectionNeed::MustExist,
+                      [&commandLine, request, action] {
+                          request->target.displayRoot = commandLine.folder;
+                          action(*request);
+                      });
+}
+
+void addExport(CommandLine& commandLine) {
     const Request request = std::make_shared<ExportRequest>();
-    CLI::App& exporting = addCommand(
-        program, "export", "Export the notes of books and print the paths of the pages",
-        Device::MustExist, forDevice(program, request, exportNotes));
+    CLI::App& exporting = addPageCommand(
+        commandLine, "export", "Export the notes of books and print the paths of the pages",
+        request, exportNotes);
     exporting.parse_complete_callback(
-        [request, &exporting] { checkBooks(*request, exporting); });
+        [request, &exporting] { requireBooks(*request, exporting); });
     addBook(exporting, request->books).expected(1, -1)->required(false);
     exporting.add_flag("--all", "Export every book");
     addFilter(exporting, request->filter);
@@ -59,22 +62,25 @@ void addExport(Program& program) {
         .add_option("--order", request->order, "Order of the notes: page, id or newest")
         ->type_name("ORDER")
         ->check(CLI::IsMember({"page", "id", "newest"}));
-    addTarget(exporting, *request);
+    addTarget(exporting, request->target);
     exporting.footer(examples::kExport);
 }
 
-void addName(Program& program) {
+void addName(CommandLine& commandLine) {
     const Request request = std::make_shared<ExportRequest>();
-    CLI::App& command =
-        addCommand(program, "name", "Print the path of the file that an export would write",
-                   Device::MustExist, forDevice(program, request, printName));
+    CLI::App& command = addPageCommand(
+        commandLine, "name", "Print the path of the file that an export would write",
+        request,
+        [](const ExportRequest& asked) { printName(asked.books.front(), asked.target); });
     addBook(command, request->books);
-    addDirectory(command, request->directory);
+    addDirectory(command, request->target.directory);
 }
 
 }  // namespace
 
-void addExportCommands(Program& program) {
-    addExport(program);
-    addName(program);
+void addExportCommands(CommandLine& commandLine) {
+    addExport(commandLine);
+    addName(commandLine);
 }
+
+}  // namespace client

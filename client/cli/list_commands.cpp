@@ -6,6 +6,7 @@
 #include "client/cli/filter_options.h"
 #include "client/commands/commands.h"
 
+namespace client {
 namespace {
 
 std::vector<std::string> formatNames() {
@@ -34,10 +35,11 @@ void addFormat(CLI::App& command, const ListingFormat*& format) {
         "--json", [&format] { format = &kJsonFormat; }, "The same as --format json");
 }
 
-void addBooks(Program& program) {
+void addBooks(CommandLine& commandLine) {
     const auto format = std::make_shared<const ListingFormat*>(&kLineFormat);
-    CLI::App& books = addCommand(program, "books", "List the books: hash, title, author",
-                                 Device::MustExist, [format] { listBooks(**format); });
+    CLI::App& books =
+        addCommand(commandLine, "books", "List the books: hash, title, author",
+                   CollectionNeed::MustExist, [format] { listBooks(**format); });
     addFormat(books, *format);
     books.footer(examples::kBooks);
 }
@@ -61,11 +63,11 @@ void listNotesAsAsked(const NotesRequest& request) {
     listNotes(request);
 }
 
-void addNotes(Program& program) {
+void addNotes(CommandLine& commandLine) {
     const auto request = std::make_shared<NotesRequest>();
     CLI::App& notes =
-        addCommand(program, "notes", "List notes: identifier, page, colour, text",
-                   Device::MustExist, [request] { listNotesAsAsked(*request); });
+        addCommand(commandLine, "notes", "List notes: identifier, page, colour, text",
+                   CollectionNeed::MustExist, [request] { listNotesAsAsked(*request); });
     notes.add_option("BOOK", request->books,
                      "Hash, title or a start of one (default: all books)");
     addFormat(notes, request->format);
@@ -76,7 +78,9 @@ void addNotes(Program& program) {
 
 }  // namespace
 
-void addListCommands(Program& program) {
-    addBooks(program);
-    addNotes(program);
+void addListCommands(CommandLine& commandLine) {
+    addBooks(commandLine);
+    addNotes(commandLine);
 }
+
+}  // namespace client

@@ -1,6 +1,6 @@
-// notes-export: loads, lists, exports and imports the notes on a device of the host
-// platform.
+// notes-export: loads, lists, exports and imports the notes of a collection.
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -10,21 +10,33 @@
 #include "client/cli/run_command_line.h"
 #include "client/commands/batch.h"
 #include "client/error.h"
+#include "client/terminal/error_text.h"
+
+namespace {
+
+int run(int argc, char** argv) {
+    const int status = client::runCommandLine(argc, argv);
+    if (!std::cout.flush()) {
+        static_cast<void>(std::fflush(stdout));  // fails again, and sets the cause
+        throw client::UserError("Could not write the results",
+                                {errno, std::generic_category()});
+    }
+    return status;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
+    // A file at its size limit is a failed write, and no reason to die.
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     try {
-        const int status = runCommandLine(argc, argv);
-        if (!std::cout.flush()) {
-            static_cast<void>(std::fflush(stdout));  // fails again, and tells why
-            complain("Could not write the results", {errno, std::generic_category()});
-        }
-        return status;
-    } catch (const FailuresReported&) {
+        return run(argc, argv);
+    } catch (const client::FailuresReported&) {
         return 1;
     } catch (const std::bad_alloc&) {
-        std::cerr << complaintText("There is not enough memory.");
+        std::cerr << client::errorText("There is not enough memory.");
     } catch (const std::exception& error) {
-        std::cerr << complaintText(error.what());
+        std::cerr << client::errorText(error.what());
     }
     return 1;
 }

@@ -1,5 +1,5 @@
 # Completes the command line of notes-export: commands, options, the hashes of the books on
-# the device that -C names, and files.
+# the collection that -C names, and files.
 
 # The word as the shell would pass it on, but for variables.
 _notes_export_plain() {
@@ -8,14 +8,14 @@ _notes_export_plain() {
     printf '%s' "${word//[\"\']/}"
 }
 
-# Sets the caller's command, device and hash from the words before the current one.
+# Sets the caller's command, collection and hash from the words before the current one.
 _notes_export_read_line() {
     local i
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
             -C)
                 ((++i))
-                device=$(_notes_export_plain "${COMP_WORDS[i]}")
+                collection=$(_notes_export_plain "${COMP_WORDS[i]}")
                 ;;
             --note | --order | --dir | -o | --format | --color | --since | --match | --pictures | --pages) ((++i)) ;;
             -*) ;;
@@ -34,7 +34,7 @@ _notes_export_read_line() {
 _notes_export_books() {
     local program hash title
     program=$(_notes_export_plain "${COMP_WORDS[0]}")
-    "$program" -C "$device" books 2>/dev/null | while IFS=$'\t' read -r hash title _; do
+    "$program" -C "$collection" books 2>/dev/null | while IFS=$'\t' read -r hash title _; do
         [[ $hash == "$1"* ]] || continue
         case ${COMP_TYPE-} in
             33 | 63 | 64) printf '%s  %s\n' "$hash" "$title" ;;
@@ -60,7 +60,7 @@ _notes_export_words() {
 }
 
 _notes_export() {
-    local command='' device=. argument='' current=${COMP_WORDS[COMP_CWORD]}
+    local command='' collection=. argument='' current=${COMP_WORDS[COMP_CWORD]}
     COMPREPLY=()
     _notes_export_read_line
     case ${COMP_WORDS[COMP_CWORD - 1]} in

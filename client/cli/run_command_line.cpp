@@ -4,38 +4,41 @@
 #include "client/cli/examples.h"
 #include "client/cli/usage_errors.h"
 
+namespace client {
 namespace {
 
-void addAll(Program& program) {
-    program.parser.require_subcommand(1);
-    program.parser.failure_message(misuse);
-    program.parser.set_version_flag("--version", "notes-export " NOTES_EXPORT_VERSION);
-    program.parser
-        .add_option("-C", program.device,
-                    "The folder that holds the device (default: this folder)")
+void addAll(CommandLine& commandLine) {
+    commandLine.parser.require_subcommand(1);
+    commandLine.parser.failure_message(usageError);
+    commandLine.parser.set_version_flag("--version", "notes-export " NOTES_EXPORT_VERSION);
+    commandLine.parser
+        .add_option("-C", commandLine.folder,
+                    "The folder that holds the collection (default: this folder)")
         ->type_name("DIR");
-    addFileCommands(program);
-    addListCommands(program);
-    addExportCommands(program);
+    addFileCommands(commandLine);
+    addListCommands(commandLine);
+    addExportCommands(commandLine);
     // Last, as commands take over the one there is.
-    program.parser.footer(examples::kAll);
+    commandLine.parser.footer(examples::kAll);
 }
 
 }  // namespace
 
 int runCommandLine(int argc, const char* const* argv) {
-    Program program;
-    addAll(program);
-    CLI::App& parser = program.parser;
+    CommandLine commandLine;
+    addAll(commandLine);
+    CLI::App& parser = commandLine.parser;
     try {
         parser.parse(argc, argv);
     } catch (const CLI::RequiredError& error) {
-        // Of an unknown command, the parser says only that a known one is missing.
+        // For an unknown command, the parser reports only that a known one is missing.
         const std::vector<std::string> unknown = parser.remaining();
-        parser.exit(unknown.empty() ? CLI::Error(error) : notUnderstood(unknown));
+        parser.exit(unknown.empty() ? CLI::Error(error) : unknownWords(unknown));
         return 2;
     } catch (const CLI::ParseError& error) {
         return parser.exit(error) == 0 ? 0 : 2;
     }
     return 0;
 }
+
+}  // namespace client

@@ -1,22 +1,26 @@
-// What is wrong with what the user typed.
+// Errors in what the user typed.
 #pragma once
 
 #include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
 
-// The parser's check of a note's identifier: empty, or what is wrong. Stricter than the
-// parser itself, which takes signs and octal numbers and lets large ones wrap.
-std::string isIdentifier(const std::string& text);
+namespace client {
 
-// The same of a date, with a time or without.
-std::string isTime(const std::string& text);
+// Each returns the text of an error, or an empty one, as the parser's checks do.
 
-// The same of text to look for: in all notes is no text.
-std::string isNotEmpty(const std::string& text);
+// Stricter than the parser, which accepts signs and octal numbers and lets large ones wrap.
+std::string checkNoteId(const std::string& text);
 
-// The error of words that the parser left over where it wanted a command.
-CLI::Error notUnderstood(const std::vector<std::string>& words);
+std::string checkDate(const std::string& text);
 
-// The parser's error as the user reads it, with the help text to turn to.
-std::string misuse(const CLI::App* app, const CLI::Error& error);
+// All notes contain an empty text.
+std::string checkSearchText(const std::string& text);
+
+// Returns the error for words that the parser left over where it expected a command.
+CLI::Error unknownWords(const std::vector<std::string>& words);
+
+// Returns the parser's error as the user reads it, with the help text to turn to.
+std::string usageError(const CLI::App* app, const CLI::Error& error);
+
+}  // namespace client

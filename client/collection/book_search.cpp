@@ -4,21 +4,19 @@
 #include <iterator>
 
 #include "client/error.h"
+#include "client/text/affixes.h"
 #include "client/text/case_folding.h"
 #include "client/text/first_few.h"
 #include "client/text/one_line.h"
 #include "store/book_hash.h"
 #include "store/database_paths.h"
 
+namespace client {
 namespace {
 
 using host::BookEntry;
 
 constexpr const char* kListsThemAll = "\"notes-export books\" lists them all.";
-
-bool startsWith(const std::string& text, const std::string& start) {
-    return text.compare(0, start.size(), start) == 0;
-}
 
 template <class Fits>
 std::vector<BookEntry> booksThat(const std::vector<BookEntry>& books, Fits fits) {
@@ -27,19 +25,19 @@ std::vector<BookEntry> booksThat(const std::vector<BookEntry>& books, Fits fits)
     return found;
 }
 
-// The books whose title is `typed`, or else whose hash or title starts with it.
-std::vector<BookEntry> meant(const std::vector<BookEntry>& books,
-                             const std::string& typed) {
-    const std::string start = folded(typed);
+// Returns the books whose title is `typed`, or else whose hash or title starts with it.
+std::vector<BookEntry> matchingBooks(const std::vector<BookEntry>& books,
+                                     const std::string& typed) {
+    const std::string start = caseFolded(typed);
     if (start.empty()) {
         return {};
     }
     std::vector<BookEntry> found = booksThat(
-        books, [&](const BookEntry& book) { return folded(book.title) == start; });
+        books, [&](const BookEntry& book) { return caseFolded(book.title) == start; });
     if (found.empty()) {
         found = booksThat(books, [&](const BookEntry& book) {
             return startsWith(book.fastHash, start) ||
-                   startsWith(folded(book.title), start);
+                   startsWith(caseFolded(book.title), start);
         });
     }
     return found;
@@ -49,11 +47,11 @@ std::string described(const BookEntry& book) {
     return oneLine(book.fastHash) + "  \"" + oneLine(book.title) + "\"";
 }
 
-[[noreturn]] void complainAboutMany(const std::string& typed,
-                                    const std::vector<BookEntry>& books) {
+[[noreturn]] void throwAmbiguous(const std::string& typed,
+                                 const std::vector<BookEntry>& books) {
     std::vector<std::string> lines;
     std::transform(books.begin(), books.end(), std::back_inserter(lines), described);
-    throw Complaint("More than one book has a hash or a title that starts with \"" + typed +
+    throw UserError("More than one book has a hash or a title that starts with \"" + typed +
                     "\":\n" + firstFew(lines, lines.size()) + "Type more of it. " +
                     kListsThemAll);
 }
@@ -61,7 +59,7 @@ std::string described(const BookEntry& book) {
 std::vector<BookEntry> booksIn(host::ReaderStore& store) {
     std::vector<BookEntry> books = store.books();
     if (books.empty()) {
-        throw Complaint("The device holds no books. \"notes-export load\" puts some on.");
+        throw UserError("The collection holds no books. \"notes-export load\" adds some.");
     }
     return books;
 }
@@ -73,9 +71,9 @@ std::vector<BookEntry> allBooks() {
     return booksIn(store);
 }
 
-void complainUnlessHash(const BookEntry& book) {
+void requireHash(const BookEntry& book) {
     if (!host::isBookHash(book.fastHash)) {
-        throw Complaint("The book with the hash " + oneLine(book.fastHash) +
+        throw UserError("The book with the hash " + oneLine(book.fastHash) +
                         " can only be listed: a hash is pairs of hexadecimal digits, in "
                         "lower case.");
     }
@@ -84,17 +82,19 @@ void complainUnlessHash(const BookEntry& book) {
 BookEntry findBook(const std::string& typed) {
     host::ReaderStore store(host::kReaderDatabasePath);
     if (auto book = store.findBook(typed)) {
-        complainUnlessHash(*book);
+        requireHash(*book);
         return *book;
     }
-    const std::vector<BookEntry> found = meant(booksIn(store), typed);
+    const std::vector<BookEntry> found = matchingBooks(booksIn(store), typed);
     if (found.empty()) {
-        throw Complaint("No book has a hash or a title that starts with \"" +
+        throw UserError("No book has a hash or a title that starts with \"" +
                         oneLine(typed) + "\". " + kListsThemAll);
     }
     if (found.size() > 1) {
-        complainAboutMany(oneLine(typed), found);
+        throwAmbiguous(oneLine(typed), found);
     }
-    complainUnlessHash(found[0]);
+    requireHash(found[0]);
     return found[0];
 }
+
+}  // namespace client

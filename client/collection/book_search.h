@@ -1,4 +1,4 @@
-// Finds the book that someone means.
+// Finds the book that someone typed.
 #pragma once
 
 #include <string>
@@ -6,13 +6,17 @@
 
 #include "store/reader_store.h"
 
-// All books of the device, at least one. Complains when there is none.
+namespace client {
+
+// Returns all books of the collection. Throws UserError if there is none.
 std::vector<host::BookEntry> allBooks();
 
-// The book whose hash or title is `typed`; when there is none, the only book whose hash or
-// title starts with it. Case does not matter. Complains when no book fits; when several do,
-// it names them; and when the book's hash is none.
+// Returns the book whose hash or title is `typed`, else the only book whose hash or title
+// starts with it. Case does not matter. Throws UserError if no book fits, if several do
+// (which it names), or if the book's hash is not valid.
 host::BookEntry findBook(const std::string& typed);
 
-// Complains about a book whose hash is none: it could be a path or an option.
-void complainUnlessHash(const host::BookEntry& book);
+// Throws UserError if the book's hash is not valid: it could be a path or an option.
+void requireHash(const host::BookEntry& book);
+
+}  // namespace client

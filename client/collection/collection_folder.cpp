@@ -11,6 +11,8 @@
 #include "client/files/whole_file.h"
 #include "store/database_paths.h"
 
+namespace client {
+
 namespace fs = std::filesystem;
 
 void makeAbsolute(std::string& path) {
@@ -19,42 +21,45 @@ void makeAbsolute(std::string& path) {
     }
 }
 
-void enterDevice(const std::string& folder, Device device) {
+void enterCollection(const std::string& folder, CollectionNeed need) {
     std::error_code error;
     if (!folder.empty()) {
         fs::current_path(folder, error);
     }
     if (error) {
-        complain("Cannot enter " + folder, error);
+        throw UserError("Cannot enter " + folder, error);
     }
-    if (device == Device::MustExist && !isDevice()) {
-        throw Complaint(
-            "There is no device in " + fs::current_path().string() +
+    if (need == CollectionNeed::MustExist && !collectionExists()) {
+        throw UserError(
+            "There is no collection in " + fs::current_path().string() +
             ". Name its folder with -C, or make one with \"notes-export load\".");
     }
 }
 
-bool isDevice() {
+bool collectionExists() {
     std::error_code error;
     const bool isThere = fs::exists(host::kReaderDatabasePath, error);
     if (error) {
-        complain("Cannot look for " + fs::absolute(host::kReaderDatabasePath).string(),
-                 error);
+        throw UserError(
+            "Cannot look for " + fs::absolute(host::kReaderDatabasePath).string(), error);
     }
     return isThere;
 }
 
-void prepareDevice() {
-    if (isDevice()) {
+void prepareCollection() {
+    if (collectionExists()) {
         return;
     }
     const fs::path folder = fs::absolute(host::kReaderDatabasePath).parent_path();
     makeFolders(folder);
     if (access(folder.c_str(), W_OK) != 0) {
-        complain("Cannot write in " + folder.string(), {errno, std::generic_category()});
+        throw UserError("Cannot write in " + folder.string(),
+                        {errno, std::generic_category()});
     }
     std::error_code failure;
     if (!fs::exists(fs::symlink_status(host::kNoteStyleSheetPath, failure))) {
         writeFile(host::kNoteStyleSheetPath, kStyleSheet);
     }
 }
+
+}  // namespace client

@@ -1,20 +1,26 @@
-// The folder that holds the device, and the paths around it.
+// The folder that holds the collection, and the paths around it.
 #pragma once
 
 #include <string>
 
-// A path as the caller means it, whichever folder the device is in.
+namespace client {
+
+// Makes a relative path absolute, so that it keeps its meaning in another working
+// directory.
 void makeAbsolute(std::string& path);
 
-enum class Device { MayBeEmpty, MustExist };
+enum class CollectionNeed { MayBeEmpty, MustExist };
 
-// Makes the device's folder the working directory, where the library finds the device; an
-// empty one leaves the caller's.
-void enterDevice(const std::string& folder, Device device);
+// Makes the collection's folder the working directory, where the library finds it. An empty
+// `folder` leaves the caller's. Throws UserError, also if a collection must exist and does
+// not.
+void enterCollection(const std::string& folder, CollectionNeed need);
 
-// Whether there is a device in the working directory.
-bool isDevice();
+// Returns whether there is a collection in the working directory.
+bool collectionExists();
 
-// Makes a device where there is none: the folders of the databases, which come into being
-// there when they are looked for, and a style sheet.
-void prepareDevice();
+// Makes a collection where there is none: the folders of the databases, which are created
+// when they are first opened, and a style sheet.
+void prepareCollection();
+
+}  // namespace client

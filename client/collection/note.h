@@ -1,22 +1,23 @@
-// A note as the sources have it.
+// A note: a bookmark, a marked passage with or without a comment, or a picture.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
 
-#include "store/records.h"
+namespace client {
 
-struct SourceNote {
-    std::string uuid;            // not empty
+// An empty text, and a time of 0, mean that the note has none.
+struct Note {
+    unsigned long long id = 0;   // in the collection; 0 until it is there
+    std::string uuid;            // names the note within its book
     std::optional<double> page;  // finite
     std::string color;
-    std::string text;     // U+2029 ends a paragraph, U+2028 and line feeds break lines
-    std::string comment;  // the same
-    std::string image;    // the picture's bytes
-    std::int64_t timestamp = 0;
-    std::int64_t commentTimestamp = 0;  // counts only when it is later
+    std::string text;       // U+2029 ends a paragraph, U+2028 and line feeds break lines
+    std::string comment;    // likewise
+    std::string picture;    // the bytes of an image file
+    std::int64_t time = 0;  // when the note was made, in seconds since the Unix epoch
+    std::int64_t commentTime = 0;  // counts only if it is later
 };
 
-// The record of the note in the reader database.
-host::NoteRecord noteRecord(SourceNote note);
+}  // namespace client

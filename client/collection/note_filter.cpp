@@ -4,34 +4,36 @@
 
 #include "client/text/case_folding.h"
 
+namespace client {
 namespace {
 
-using veloran::utilities::Note;
-
-bool hasColor(const Note& note, const std::vector<std::string>& colors) {
-    const std::string color = folded(note.getColor());
-    return std::any_of(colors.begin(), colors.end(),
-                       [&](const std::string& wanted) { return folded(wanted) == color; });
+template <class Value>
+bool holds(const std::vector<Value>& values, const Value& value) {
+    return std::find(values.begin(), values.end(), value) != values.end();
 }
 
-bool holds(const std::string& text, const std::string& wanted) {
-    return folded(text).find(wanted) != std::string::npos;
-}
-
-bool matches(const Note& note, const std::string& text) {
-    const std::string wanted = folded(text);
-    return holds(note.getText(), wanted) || holds(note.getNote(), wanted);
+bool contains(const std::string& text, const std::string& folded) {
+    return caseFolded(text).find(folded) != std::string::npos;
 }
 
 }  // namespace
 
+void NoteFilter::addColor(const std::string& color) { colors.push_back(caseFolded(color)); }
+
+void NoteFilter::setMatch(const std::string& text) { match = caseFolded(text); }
+
 bool NoteFilter::isEmpty() const {
-    return ids.empty() && colors.empty() && !since && match.empty();
+    return ids.empty() && colors.empty() && !since && !match;
 }
 
 bool NoteFilter::selects(const Note& note) const {
-    return (ids.empty() || std::find(ids.begin(), ids.end(), note.noteId) != ids.end()) &&
-           (colors.empty() || hasColor(note, colors)) &&
-           (!since || std::int64_t{note[Note::Tag::Uuid].timestamp} >= *since) &&
-           (match.empty() || matches(note, match));
+    return selectsId(note.id) && (!since || note.time >= *since) &&
+           (colors.empty() || holds(colors, caseFolded(note.color))) &&
+           (!match || contains(note.text, *match) || contains(note.comment, *match));
 }
+
+bool NoteFilter::selectsId(unsigned long long id) const {
+    return ids.empty() || holds(ids, id);
+}
+
+}  // namespace client

@@ -1,4 +1,4 @@
-// Which notes a command is about.
+// The conditions that select notes.
 #pragma once
 
 #include <cstdint>
@@ -6,18 +6,28 @@
 #include <string>
 #include <vector>
 
-#include "utilities/note.h"
+#include "client/collection/note.h"
 
-// A note is selected when it meets every condition that is set.
+namespace client {
+
+// A note is selected if it meets every condition that is set.
 struct NoteFilter {
     std::vector<unsigned long long> ids;  // its identifier is one of these
     std::vector<std::string> colors;      // its colour is one of these; "": it has none
     std::optional<std::int64_t> since;    // it was made then (Unix time) or later
-    std::string match;                    // its text or its comment holds this
+    std::optional<std::string> match;     // its text or its comment contains this
 
-    // Whether no condition is set, so that every note is selected.
+    // The colours and the text are case-folded once (case_folding.h).
+    void addColor(const std::string& color);
+    void setMatch(const std::string& text);
+
+    // Returns true if no condition is set, so that every note is selected.
     bool isEmpty() const;
 
-    // Colours and text are compared as folded.h makes them.
-    bool selects(const veloran::utilities::Note& note) const;
+    bool selects(const Note& note) const;
+
+    // Returns false for a note that its identifier alone leaves out.
+    bool selectsId(unsigned long long id) const;
 };
+
+}  // namespace client

@@ -1,59 +1,64 @@
-#include "client/collection/note.h"
+#include "client/collection/note_tags.h"
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "client/text/numbers.h"
+#include "readerlib/position_uri.h"
 #include "store/note_tags.h"
 
+namespace client {
 namespace {
 
-// JSON text whose member is a position on the page; a number needs no escapes.
+// Returns JSON text whose member is a position on the page; a number needs no escapes.
 std::string positionJson(const char* member, double page) {
     return std::string("{\"") + member + "\":\"book:/position?page=" + decimal(page) +
            "\"}";
 }
 
-// Puts the tags of one note together; an empty text gives no tag.
-class TagList {
-public:
-    explicit TagList(std::int64_t timestamp) : timestamp_(timestamp) {}
-
-    void addText(std::int32_t tag, std::string text, std::int64_t timestamp) {
-        if (!text.empty()) {
-            tags_.push_back({tag, std::move(text), std::nullopt, timestamp});
-        }
+void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
+             std::int64_t time) {
+    if (!text.empty()) {
+        record.tags.push_back({tag, std::move(text), std::nullopt, time});
     }
+}
 
-    void addText(std::int32_t tag, std::string text) {
-        addText(tag, std::move(text), timestamp_);
-    }
-
-    void addJson(std::int32_t tag, std::string json) {
-        tags_.push_back({tag, "", std::move(json), timestamp_});
-    }
-
-    std::vector<host::TagRecord> take() { return std::move(tags_); }
-
-private:
-    std::int64_t timestamp_;
-    std::vector<host::TagRecord> tags_;
-};
+std::optional<double> pageAt(const std::string& uri) {
+    double page = 0;
+    return Veloran::ReaderLib::extractPageFromnURI(uri, page) ? std::optional(page)
+                                                              : std::nullopt;
+}
 
 }  // namespace
 
-host::NoteRecord noteRecord(SourceNote note) {
-    TagList tags(note.timestamp);
-    tags.addText(host::kUuidTag, note.uuid);
+host::NoteRecord toRecord(Note note) {
+    host::NoteRecord record{note.uuid, {}};
+    addText(record, host::kUuidTag, std::move(note.uuid), note.time);
     if (note.page) {
-        tags.addJson(host::kAnchorTag, positionJson("anchor", *note.page));
-        tags.addJson(host::kRangeTag, positionJson("begin", *note.page));
+        record.tags.push_back(
+            {host::kAnchorTag, "", positionJson("anchor", *note.page), note.time});
+        record.tags.push_back(
+            {host::kRangeTag, "", positionJson("begin", *note.page), note.time});
     }
-    tags.addText(host::kColorTag, std::move(note.color));
-    tags.addText(host::kTextTag, std::move(note.text));
-    tags.addText(host::kCommentTag, std::move(note.comment),
-                 std::max(note.timestamp, note.commentTimestamp));
-    tags.addText(host::kImageTag, std::move(note.image));
-    return {std::move(note.uuid), tags.take()};
+    addText(record, host::kColorTag, std::move(note.color), note.time);
+    addText(record, host::kTextTag, std::move(note.text), note.time);
+    addText(record, host::kCommentTag, std::move(note.comment),
+            std::max(note.time, note.commentTime));
+    addText(record, host::kImageTag, std::move(note.picture), note.time);
+    return record;
 }
+
+Note toNote(const veloran::utilities::Note& tags) {
+    Note note;
+    note.id = tags.noteId;
+    note.uuid = tags.uuid();
+    note.page = pageAt(tags.getAnchorUri());
+    note.color = tags.getColor();
+    note.text = tags.getText();
+    note.comment = tags.getNote();
+    note.picture = tags.getImage();
+    note.time = tags[veloran::utilities::Note::Tag::Uuid].timestamp;
+    return note;
+}
+
+}  // namespace client

@@ -1,4 +1,8 @@
-// The style sheet that a new device gets, so that its pages look well.
+// The style sheet of new collections.
 #pragma once
 
+namespace client {
+
 extern const char* const kStyleSheet;
+
+}  // namespace client

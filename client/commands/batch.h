@@ -7,13 +7,15 @@
 #include <string>
 #include <vector>
 
-#include "client/error.h"
+#include "client/terminal/error_text.h"
 #include "client/terminal/progress_bar.h"
 
-// What became of one of them.
+namespace client {
+
+// The result of one of them.
 struct Outcome {
-    std::string result = {};     // lines for standard output
-    std::string complaint = {};  // for standard error; empty when there is none
+    std::string result = {};   // lines for standard output
+    std::string message = {};  // for standard error; empty if there is none
     bool failed = false;
 };
 
@@ -28,13 +30,10 @@ Outcome outcomeOf(const Item& item, Job job) {
     }
 }
 
-// Thrown at the end of a command whose failures have been reported.
-struct FailuresReported {};
-
-// Does `job`, which returns an Outcome, for each item; `what` is being done, for people at
-// a terminal. A failure is reported, and the others go on.
+// Runs `job`, which returns an Outcome, for each item; people at a terminal see `what`. A
+// failure is reported, and the others go on. Returns whether none failed.
 template <class Item, class Job>
-void doEach(const char* what, const std::vector<Item>& items, Job job) {
+bool runBatch(const char* what, const std::vector<Item>& items, Job job) {
     ProgressBar progress(what, items.size());
     bool allDone = true;
     for (const Item& item : items) {
@@ -42,17 +41,26 @@ void doEach(const char* what, const std::vector<Item>& items, Job job) {
         const Outcome outcome = outcomeOf(item, job);
         progress.erase();
         std::cout << outcome.result << std::flush;
-        if (!outcome.complaint.empty()) {
-            std::cerr << complaintText(outcome.complaint);
+        if (!outcome.message.empty()) {
+            std::cerr << errorText(outcome.message);
         }
         allDone = allDone && !outcome.failed;
     }
+    return allDone;
+}
+
+// Thrown at the end of a command whose failures have been reported.
+struct FailuresReported {};
+
+inline void requireDone(bool allDone) {
     if (!allDone) {
         throw FailuresReported();
     }
 }
 
-// The result of a file: alone when it is the only one, else with the file's name.
+// Returns the line for a file: its number alone if it is the only file, else with its name.
 inline std::string resultOf(const std::string& file, std::size_t files, int changed) {
     return std::to_string(changed) + (files > 1 ? "\t" + file : "") + "\n";
 }
+
+}  // namespace client

@@ -1,5 +1,5 @@
 // The client's commands. Each prints its results on standard output, one a line unless it
-// says otherwise, and reports what went wrong as an exception. Those for several things
+// says otherwise, and throws an exception for what went wrong. Those for several things
 // report each failure on standard error and go on, and throw FailuresReported at the end.
 #pragma once
 
@@ -8,17 +8,26 @@
 
 #include "client/collection/note_filter.h"
 #include "client/listings/listing.h"
-#include "client/pages/export_request.h"
+#include "client/pages/page_target.h"
 
-// Puts the books and notes of each file on the device. Prints how many notes were added or
-// changed, and the file's name when there are several.
-void loadAll(const std::vector<std::string>& files);
+namespace client {
+
+struct LoadRequest {
+    std::vector<std::string> files;
+    std::string pages;             // folder; empty: none are exported
+    std::string displayRoot = {};  // the folder that a printed relative path starts from
+};
+
+// Puts the books and notes of each file into the collection, then brings the pages of all
+// books up to date, also if some files have failed. Prints how many notes were added or
+// changed, with the file's name if there are several, and the path of each page written.
+void load(const LoadRequest& request);
 
 // Prints every book, in lines its hash, title and author, separated by tabs.
 void listBooks(const ListingFormat& format);
 
 struct NotesRequest {
-    std::vector<std::string> books;  // as they were typed; empty: all on the device
+    std::vector<std::string> books;  // as they were typed; empty: all of the collection
     NoteFilter filter;
     const ListingFormat* format = &kLineFormat;
     FolderForPictures pictures;
@@ -28,12 +37,21 @@ struct NotesRequest {
 // separated by tabs; with several books, the hash of their book comes first.
 void listNotes(const NotesRequest& request);
 
+struct ExportRequest {
+    std::vector<std::string> books = {};  // as they were typed; empty: all books
+    NoteFilter filter = {};
+    std::string order = {};  // "id" or "newest"; else by page
+    PageTarget target = {};
+};
+
 // Exports each book's notes and prints the path of each page that it writes.
 void exportNotes(const ExportRequest& request);
 
-// Prints the path of the page that an export would write; of the request, only the one book
-// and the folders count.
-void printName(const ExportRequest& request);
+// Prints the path of the page that an export of the book would write; of the target, only
+// the directory counts.
+void printName(const std::string& book, const PageTarget& target);
 
-// Imports each exported file. Prints the same as loadAll.
+// Imports each exported file. Prints the same as load.
 void importAll(const std::vector<std::string>& files);
+
+}  // namespace client

@@ -1,6 +1,5 @@
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <utility>
@@ -8,11 +7,13 @@
 #include "client/collection/book_search.h"
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
+#include "client/error.h"
 #include "client/pages/exporter.h"
 #include "client/pages/note_selection.h"
 #include "client/pages/page_export.h"
 #include "client/text/one_line.h"
 
+namespace client {
 namespace {
 
 // Programs get every byte; a terminal would obey some of them.
@@ -22,9 +23,9 @@ std::string printable(const std::string& path) {
 
 Outcome outcome(const ExportedPage& page) {
     Outcome result{page.path.empty() ? "" : printable(page.path)};
-    if (!page.unrecorded.empty()) {
-        result.complaint =
-            "The page carries no records that an import could read: " + page.unrecorded +
+    if (!page.recordsError.empty()) {
+        result.message =
+            "The page carries no records that an import could read: " + page.recordsError +
             '.';
         result.failed = true;
     }
@@ -33,59 +34,56 @@ Outcome outcome(const ExportedPage& page) {
 
 class Command {
 public:
-    explicit Command(const ExportRequest& request) : request_(request), pages_(request) {}
+    explicit Command(const ExportRequest& request)
+        : request_(request), pages_(request.target) {}
     void run();
 
 private:
+    bool exportBooks();
     Outcome exportBook(const host::BookEntry& book);
-    Outcome exportTyped(const std::string& typed);
 
     const ExportRequest& request_;
     PageExport pages_;
-    bool selectsNone_ = true;
+    bool anySelected_ = false;
 };
 
 void Command::run() {
-    constexpr const char* kWhat = "Exporting";
-    if (request_.books.empty()) {
-        doEach(kWhat, allBooks(), [&](const auto& book) { return exportBook(book); });
-    } else {
-        doEach(kWhat, request_.books,
-               [&](const auto& typed) { return exportTyped(typed); });
+    const bool allDone = exportBooks();
+    if (allDone && !anySelected_) {
+        throw UserError("No note is selected, and nothing was exported.");
     }
-    if (selectsNone_) {
-        throw Complaint("No note is selected, and nothing was exported.");
-    }
+    requireDone(allDone);
 }
 
-Outcome Command::exportTyped(const std::string& typed) {
-    const host::BookEntry book = findBook(typed);
-    if (request_.books.size() == 1) {
-        complainUnlessNotesExist(book.fastHash, request_);
+bool Command::exportBooks() {
+    constexpr const char* kWhat = "Exporting";
+    if (request_.books.empty()) {
+        return runBatch(kWhat, allBooks(),
+                        [&](const host::BookEntry& book) { return exportBook(book); });
     }
-    return exportBook(book);
+    return runBatch(kWhat, request_.books,
+                    [&](const std::string& typed) { return exportBook(findBook(typed)); });
 }
 
 Outcome Command::exportBook(const host::BookEntry& book) {
-    complainUnlessHash(book);
-    NoteSelection notes = selectNotes(book.fastHash, request_);
+    requireHash(book);
+    const bool isOnlyBook = request_.books.size() == 1;
+    NoteSelection notes =
+        selectNotes(book.fastHash, request_.filter, request_.order, isOnlyBook);
     if (notes.isEmpty) {
         return {};
     }
-    selectsNone_ = false;
+    anySelected_ = true;
     return outcome(pages_.write(book, std::move(notes)));
 }
 
 }  // namespace
 
-void exportNotes(const ExportRequest& request) {
-    static_cast<void>(
-        std::signal(SIGXFSZ, SIG_IGN));  // a file at its size limit is a failed write
-    Command(request).run();
+void exportNotes(const ExportRequest& request) { Command(request).run(); }
+
+void printName(const std::string& book, const PageTarget& target) {
+    const std::string path = Exporter(target.directory).fileName(findBook(book).fastHash);
+    std::cout << printable((std::filesystem::path(target.displayRoot) / path).string());
 }
 
-void printName(const ExportRequest& request) {
-    const std::string hash = findBook(request.books.front()).fastHash;
-    const std::string path = Exporter(request.directory).fileName(hash);
-    std::cout << printable((std::filesystem::path(request.deviceFolder) / path).string());
-}
+}  // namespace client

@@ -4,41 +4,46 @@
 #include "client/error.h"
 #include "client/files/whole_file.h"
 #include "client/pages/exporter.h"
-#include "client/sources/exported_page/exported_page.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
-#include "files/input_file.h"
 #include "store/database_paths.h"
 #include "store/reader_store.h"
 
+namespace client {
 namespace {
 
-std::string advice(int result, const std::string& file) {
-    constexpr std::size_t kStart = 65536;
+[[noreturn]] void refuse(const std::string& file, const std::string& why) {
+    throw UserError("Nothing was imported from " + file + ": " + why);
+}
+
+std::string causeOf(int result) {
+    constexpr const char* kAdvice =
+        ". If it is an exported page, \"notes-export load\" reads what it shows.";
+    switch (result) {
+        case host::kNoDump:
+            return std::string("it holds no dump") + kAdvice;
+        case host::kDumpDamaged:
+            return std::string("its dump is damaged") + kAdvice;
+        case host::kVersionUnknown:
+            return "its dump was written by a later version of notes-export.";
+        default:
+            return "it cannot be read to its end.";
+    }
+}
+
+// The number that an import returns for a file is its cause: the file is not read again.
+[[noreturn]] void refuse(const std::string& file, int result) {
     if (result == host::kFileUnreadable) {
-        return ".";
+        readStart(file, 1);  // throws in the system's words
     }
-    if (isExportedPage(readStart(file, kStart))) {
-        return ". \"notes-export load\" reads what the page shows.";
-    }
-    return ". Was it exported by this library?";
+    refuse(file, causeOf(result));
 }
 
-[[noreturn]] void refuse(const std::string& file, std::string why) {
-    if (why.rfind(file + ": ", 0) == 0) {
-        why.erase(0, file.size() + 2);
-    }
-    throw Complaint("Nothing was imported from " + file + ": " + why);
-}
-
-std::vector<host::BookRecord> recordsOf(const std::string& file) {
+std::vector<host::BookRecord> recordsIn(const std::string& file) {
     try {
-        const host::InputFile readable(file);  // otherwise in the system's words
         return host::readDump(file);
     } catch (const host::DumpError& error) {
-        refuse(file, error.what() + advice(error.result, file));
-    } catch (const std::runtime_error& error) {
-        refuse(file, error.what());
+        refuse(file, error.result);
     }
 }
 
@@ -47,9 +52,9 @@ int callLibrary(const std::string& file) {
     return notes_exporter_import_from_file(exporter.handle(), file.c_str());
 }
 
-// The library tells a failure only as a number; its cause is told by the store.
+// The number for a database that failed says no more; the store throws the cause.
 int mergeDirectly(const std::string& file) {
-    const std::vector<host::BookRecord> records = recordsOf(file);
+    const std::vector<host::BookRecord> records = recordsIn(file);
     try {
         return host::ReaderStore(host::kReaderDatabasePath).merge(records);
     } catch (const std::runtime_error& error) {
@@ -61,25 +66,33 @@ int mergeDirectly(const std::string& file) {
 int importAgain(const std::string& file) {
     const int merged = mergeDirectly(file);
     if (callLibrary(file) < 0) {
-        throw Complaint("The notes of " + file +
+        throw UserError("The notes of " + file +
                         " were imported, but the file could not be marked.");
     }
     return merged;
 }
 
-int imported(const std::string& file) {
-    if (!isDevice()) {
-        recordsOf(file);  // a file that is refused makes no device
-        prepareDevice();
+int importFile(const std::string& file) {
+    if (!collectionExists()) {
+        recordsIn(file);  // a file that is refused makes no collection
+        prepareCollection();
     }
     const int result = callLibrary(file);
-    return result < 0 ? importAgain(file) : result;
+    if (result >= 0) {
+        return result;
+    }
+    if (host::kVersionUnknown <= result && result <= host::kFileUnreadable) {
+        refuse(file, result);
+    }
+    return importAgain(file);
 }
 
 }  // namespace
 
 void importAll(const std::vector<std::string>& files) {
-    doEach("Importing", files, [&](const std::string& file) {
-        return Outcome{resultOf(file, files.size(), imported(file))};
-    });
+    requireDone(runBatch("Importing", files, [&](const std::string& file) {
+        return Outcome{resultOf(file, files.size(), importFile(file))};
+    }));
 }
+
+}  // namespace client

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <system_error>
 
+namespace client {
+
 std::string cause(int error) { return std::generic_category().message(error); }
 
 std::string causeFor(const std::string& path, int error) {
@@ -21,3 +23,5 @@ std::string causeFor(const std::string& path, int error) {
            std::to_string(static_cast<std::size_t>(limit) - kEnding) +
            " bytes cannot be exported";
 }
+
+}  // namespace client

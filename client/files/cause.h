@@ -1,11 +1,15 @@
-// Why the system refused something, in words.
+// The causes of the system's failures, in words.
 #pragma once
 
 #include <string>
 
-// Of an error number.
+namespace client {
+
+// Returns the words for an error number.
 std::string cause(int error);
 
-// The same of a file that could not be made at `path`; of a name that is too long, it tells
-// the limit.
+// Returns the words for a file that could not be made at `path`; if the name is too long,
+// with the limit.
 std::string causeFor(const std::string& path, int error);
+
+}  // namespace client

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -10,6 +11,9 @@
 
 #include "client/error.h"
 #include "client/files/cause.h"
+#include "client/files/signals.h"
+
+namespace client {
 
 namespace fs = std::filesystem;
 
@@ -18,6 +22,10 @@ namespace {
 // Another program may remove the folders that it made just when they are found here.
 constexpr int kAttempts = 10;
 
+// The folder that a signal removes.
+std::atomic<const TempFolder*> current{nullptr};
+static_assert(decltype(current)::is_always_lock_free);
+
 bool isFolder(const fs::path& path) {
     std::error_code failure;
     return fs::is_directory(path, failure);
@@ -25,8 +33,8 @@ bool isFolder(const fs::path& path) {
 
 }  // namespace
 
-FreshFolder::FreshFolder(const std::string& parent) {
-    const SignalsHeld held;
+TempFolder::TempFolder(const std::string& parent) {
+    const SignalBlock block;
     bool done = false;
     for (int i = 0; i < kAttempts && !done; ++i) {
         errno = 0;
@@ -38,23 +46,24 @@ FreshFolder::FreshFolder(const std::string& parent) {
     }
     if (!done) {
         const std::string why = cause(errno);
-        FreshFolder::remove();
-        throw Complaint("Cannot write into the folder " + parent + ": " + why + '.');
+        remove();
+        throw UserError("Cannot write into the folder " + parent + ": " + why + '.');
     }
-    removeOnSignal(this);
+    current = this;
+    cleanUpOnSignal(removeCurrent);
 }
 
-FreshFolder::~FreshFolder() {
-    const SignalsHeld held;
-    removeOnSignal(nullptr);
+TempFolder::~TempFolder() {
+    const SignalBlock block;
+    current = nullptr;
     // The library may have chosen another name: a book's title can change meanwhile.
     std::error_code failure;
     fs::remove_all(path_, failure);
-    FreshFolder::remove();
+    remove();
 }
 
-// What fails here makes the folder itself fail, for the same reason.
-void FreshFolder::makeParents(const std::string& parent) {
+// A failure here makes the folder itself fail, for the same reason.
+void TempFolder::makeParents(const std::string& parent) {
     fs::path folder;
     for (const fs::path& part : fs::path(parent)) {
         folder /= part;
@@ -64,7 +73,7 @@ void FreshFolder::makeParents(const std::string& parent) {
     }
 }
 
-bool FreshFolder::make(const std::string& parent) {
+bool TempFolder::make(const std::string& parent) {
     std::string name = parent + "/.notes-export-XXXXXX";
     if (mkdtemp(name.data()) == nullptr) {
         return false;
@@ -73,15 +82,23 @@ bool FreshFolder::make(const std::string& parent) {
     return true;
 }
 
-void FreshFolder::expect(const std::string& file) {
-    const SignalsHeld held;
+void TempFolder::expect(const std::string& file) {
+    const SignalBlock block;
     file_ = file;
 }
 
-void FreshFolder::remove() const noexcept {
+void TempFolder::remove() const noexcept {
     unlink(file_.c_str());
     rmdir(path_.c_str());
     for (auto folder = made_.rbegin(); folder != made_.rend(); ++folder) {
         rmdir(folder->c_str());
     }
 }
+
+void TempFolder::removeCurrent() {
+    if (const TempFolder* folder = current) {
+        folder->remove();
+    }
+}
+
+}  // namespace client

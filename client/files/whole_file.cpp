@@ -8,8 +8,11 @@
 #include <vector>
 
 #include "client/error.h"
+#include "client/files/signals.h"
 #include "files/input_file.h"
 #include "store/records.h"
+
+namespace client {
 
 namespace fs = std::filesystem;
 
@@ -48,50 +51,76 @@ std::string startOf(const fs::path& path, std::size_t size) {
 }
 
 template <class Read>
-std::string complainingOnFailure(const Read& read) {
+std::string withUserError(const Read& read) {
     try {
         return read();
     } catch (const std::runtime_error& error) {
-        throw Complaint(std::string("Cannot read ") + error.what());
+        throw UserError(std::string("Cannot read ") + error.what());
     }
 }
 
-// Leaves the reason in errno when it fails.
-bool wrote(const fs::path& path, const std::string& content) {
-    std::FILE* file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) {
-        return false;
-    }
-    const bool whole =
+// Leaves the reason in errno if it fails.
+bool tryWrite(std::FILE* file, const std::string& content) {
+    const bool isWhole =
         std::fwrite(content.data(), 1, content.size(), file) == content.size();
-    return std::fclose(file) == 0 && whole;
+    return std::fclose(file) == 0 && isWhole;
+}
+
+[[noreturn]] void throwNotWritten(const fs::path& path) {
+    throw UserError("Cannot write " + path.string(), {errno, std::generic_category()});
+}
+
+// Throws, and removes the file at `part`, where a part of the file for `path` was written.
+[[noreturn]] void throwNotWritten(const fs::path& path, const fs::path& part) {
+    const int error = errno;
+    static_cast<void>(std::remove(part.c_str()));
+    errno = error;
+    throwNotWritten(path);
 }
 
 }  // namespace
 
 std::string readFile(const fs::path& path) {
-    return complainingOnFailure([&] { return contentOf(path); });
+    return withUserError([&] { return contentOf(path); });
 }
 
 std::string readStart(const fs::path& path, std::size_t size) {
-    return complainingOnFailure([&] { return startOf(path, size); });
+    return withUserError([&] { return startOf(path, size); });
 }
 
 void writeFile(const fs::path& path, const std::string& content) {
     makeFolders(path.parent_path());
     const fs::path part = path.string() + ".part";
-    if (!wrote(part, content) || std::rename(part.c_str(), path.c_str()) != 0) {
-        const std::error_code error(errno, std::generic_category());
-        std::error_code ignored;
-        fs::remove(part, ignored);
-        complain("Cannot write " + path.string(), error);
+    std::FILE* file = std::fopen(part.c_str(), "wb");
+    if (file == nullptr) {
+        throwNotWritten(path);
     }
+    if (!tryWrite(file, content) || std::rename(part.c_str(), path.c_str()) != 0) {
+        throwNotWritten(path, part);
+    }
+}
+
+bool writeNewFile(const fs::path& path, const std::string& content) {
+    const SignalBlock block;
+    std::FILE* file = std::fopen(path.c_str(), "wbx");
+    if (file == nullptr && errno == EEXIST) {
+        return false;
+    }
+    if (file == nullptr) {
+        throwNotWritten(path);
+    }
+    if (!tryWrite(file, content)) {
+        throwNotWritten(path, path);
+    }
+    return true;
 }
 
 void makeFolders(const fs::path& path) {
     std::error_code error;
     fs::create_directories(path, error);
     if (error) {
-        complain("Cannot make the folder " + path.string(), error);
+        throw UserError("Cannot make the folder " + path.string(), error);
     }
 }
+
+}  // namespace client

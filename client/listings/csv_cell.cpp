@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <string_view>
 
+#include "client/text/affixes.h"
 #include "client/text/control_characters.h"
 #include "client/text/line_breaks.h"
 
+namespace client {
 namespace {
 
 constexpr std::string_view kFormulaStarts[] = {
@@ -13,13 +15,11 @@ constexpr std::string_view kFormulaStarts[] = {
 
 bool startsFormula(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" '"), text.size()));
-    return std::any_of(
-        std::begin(kFormulaStarts), std::end(kFormulaStarts),
-        [text](std::string_view start) { return text.substr(0, start.size()) == start; });
+    return prefixLength(text, kFormulaStarts) > 0;
 }
 
 std::string withoutControls(const std::string& text) {
-    return replaceSteering(text, [](unsigned code, std::string_view character) {
+    return replaceControls(text, [](unsigned code, std::string_view character) {
         const bool isKept = !isControl(code) || code == '\t' || code == '\n';
         return isKept ? std::string(character) : " ";
     });
@@ -40,3 +40,5 @@ std::string csvCell(const std::string& text) {
     }
     return needsQuotes(cell) ? '"' + replaced(cell, "\"", "\"\"") + '"' : cell;
 }
+
+}  // namespace client

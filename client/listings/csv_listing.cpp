@@ -1,15 +1,12 @@
 // For spreadsheets: comma-separated values, RFC 4180, with a line of headings.
 #include <initializer_list>
 
-#include "client/collection/book_notes.h"
 #include "client/listings/csv_cell.h"
 #include "client/listings/listing.h"
-#include "client/text/iso_time.h"
-#include "client/text/numbers.h"
+#include "client/listings/note_text.h"
 
+namespace client {
 namespace {
-
-using veloran::utilities::Note;
 
 // Without it, Excel reads the file in the encoding of the computer's language.
 constexpr char kByteOrderMark[] = "\uFEFF";
@@ -30,7 +27,7 @@ public:
         writeRow(out_, {"hash", "title", "author", "path"});
     }
 
-    void add(const ListedBook& book) override {
+    void add(const Book& book) override {
         writeRow(out_, {book.hash, book.title, book.author, book.path});
     }
 
@@ -40,35 +37,26 @@ private:
 
 class CsvNotes : public NoteListing {
 public:
-    explicit CsvNotes(std::ostream& out) : out_(out) {
+    CsvNotes(std::ostream& out, const NoteListingOptions& /*options*/) : out_(out) {
         out_ << kByteOrderMark;
         writeRow(out_,
                  {"book", "author", "page", "colour", "text", "comment", "time", "uuid"});
     }
 
-    void startBook(const ListedBook& book) override { book_ = book; }
+    void startBook(const Book& book) override { book_ = book; }
 
     void add(const Note& note) override {
-        const auto page = pageOf(note);
-        writeRow(out_, {nameOf(book_), book_.author, page ? decimal(*page) : std::string(),
-                        note.getColor(), note.getText(), note.getNote(), timeOf(note),
-                        note.uuid()});
+        writeRow(out_, {nameOf(book_), book_.author, pageText(note), note.color, note.text,
+                        note.comment, timeText(note), note.uuid});
     }
 
 private:
     std::ostream& out_;
-    ListedBook book_;
+    Book book_;
 };
-
-std::unique_ptr<BookListing> listBooks(std::ostream& out) {
-    return std::make_unique<CsvBooks>(out);
-}
-
-std::unique_ptr<NoteListing> listNotes(std::ostream& out,
-                                       const NoteListingOptions& /*options*/) {
-    return std::make_unique<CsvNotes>(out);
-}
 
 }  // namespace
 
-const ListingFormat kCsvFormat = {"csv", listBooks, listNotes};
+const ListingFormat kCsvFormat = listingFormat<CsvBooks, CsvNotes>("csv");
+
+}  // namespace client

@@ -4,15 +4,13 @@
 
 #include <cstdint>
 
-#include "client/collection/book_notes.h"
 #include "client/listings/listing.h"
 #include "client/text/numbers.h"
 #include "dump/json_sax.h"
 #include "text/utf8.h"
 
+namespace client {
 namespace {
-
-using veloran::utilities::Note;
 
 rapidjson::SizeType length(const std::string& text) {
     return static_cast<rapidjson::SizeType>(text.size());
@@ -53,15 +51,15 @@ void writeText(Writer& json, const char* name, const std::string& text) {
 
 void writePage(Writer& json, const Note& note) {
     json.Key("page");
-    if (const auto page = pageOf(note)) {
-        const std::string digits = decimal(*page);
+    if (note.page) {
+        const std::string digits = decimal(*note.page);
         json.RawValue(digits.data(), length(digits), rapidjson::kNumberType);
     } else {
         json.Null();
     }
 }
 
-void writeMembers(Writer& json, const ListedBook& book) {
+void writeMembers(Writer& json, const Book& book) {
     writeText(json, "hash", book.hash);
     writeText(json, "title", book.title);
     writeText(json, "author", book.author);
@@ -70,23 +68,23 @@ void writeMembers(Writer& json, const ListedBook& book) {
 
 void writeMembers(Writer& json, const Note& note) {
     json.Key("id");
-    json.Uint64(note.noteId);
-    writeText(json, "uuid", note.uuid());
+    json.Uint64(note.id);
+    writeText(json, "uuid", note.uuid);
     writePage(json, note);
-    writeText(json, "color", note.getColor());
-    writeText(json, "text", note.getText());
-    writeText(json, "comment", note.getNote());
+    writeText(json, "color", note.color);
+    writeText(json, "text", note.text);
+    writeText(json, "comment", note.comment);
     json.Key("image_size");
-    json.Uint64(note.getImage().size());
+    json.Uint64(note.picture.size());
     json.Key("timestamp");
-    json.Int64(std::int64_t{note[Note::Tag::Uuid].timestamp});
+    json.Int64(note.time);
 }
 
 class JsonBooks : public BookListing {
 public:
     explicit JsonBooks(std::ostream& out) : array_(out) {}
 
-    void add(const ListedBook& book) override {
+    void add(const Book& book) override {
         array_.add([&](Writer& json) { writeMembers(json, book); });
     }
     void end() override { array_.end(); }
@@ -100,7 +98,7 @@ public:
     JsonNotes(std::ostream& out, const NoteListingOptions& options)
         : array_(out), severalBooks_(options.severalBooks) {}
 
-    void startBook(const ListedBook& book) override { hash_ = book.hash; }
+    void startBook(const Book& book) override { hash_ = book.hash; }
 
     void add(const Note& note) override {
         array_.add([&](Writer& json) {
@@ -118,15 +116,8 @@ private:
     std::string hash_;
 };
 
-std::unique_ptr<BookListing> listBooks(std::ostream& out) {
-    return std::make_unique<JsonBooks>(out);
-}
-
-std::unique_ptr<NoteListing> listNotes(std::ostream& out,
-                                       const NoteListingOptions& options) {
-    return std::make_unique<JsonNotes>(out, options);
-}
-
 }  // namespace
 
-const ListingFormat kJsonFormat = {"json", listBooks, listNotes};
+const ListingFormat kJsonFormat = listingFormat<JsonBooks, JsonNotes>("json");
+
+}  // namespace client

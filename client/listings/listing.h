@@ -1,29 +1,20 @@
-// What the listing commands print: books or notes, one after another, in a format.
+// The lists that commands print: books or notes, one after another, in a format.
 #pragma once
 
 #include <memory>
 #include <ostream>
 #include <string>
 
-#include "utilities/note.h"
+#include "client/collection/book.h"
+#include "client/collection/note.h"
 
-struct ListedBook {
-    std::string hash;
-    std::string title;
-    std::string author;
-    std::string path;  // of the book's file
-};
-
-// What people call the book: its title, or when it has none its hash.
-inline const std::string& nameOf(const ListedBook& book) {
-    return book.title.empty() ? book.hash : book.title;
-}
+namespace client {
 
 // The list is whole after end().
 class BookListing {
 public:
     virtual ~BookListing() = default;
-    virtual void add(const ListedBook& book) = 0;
+    virtual void add(const Book& book) = 0;
     virtual void end() {}
 };
 
@@ -31,19 +22,19 @@ class NoteListing {
 public:
     virtual ~NoteListing() = default;
     // Names the book of the notes that come next.
-    virtual void startBook(const ListedBook& book) = 0;
-    virtual void add(const veloran::utilities::Note& note) = 0;
+    virtual void startBook(const Book& book) = 0;
+    virtual void add(const Note& note) = 0;
     virtual void end() {}
 };
 
-// Where pictures are written; an empty path is nowhere.
+// The folder in which pictures are written; none if `path` is empty.
 struct FolderForPictures {
     std::string path;
     std::string linked;  // the path as links name it
 };
 
 struct NoteListingOptions {
-    bool severalBooks;  // whether each note, or group of notes, tells its book
+    bool severalBooks;  // whether each note, or group of notes, names its book
     FolderForPictures pictures;
 };
 
@@ -55,6 +46,18 @@ struct ListingFormat {
                                               const NoteListingOptions& options);
 };
 
+template <class Books, class Notes>
+constexpr ListingFormat listingFormat(const char* name) {
+    return {name,
+            [](std::ostream& out) -> std::unique_ptr<BookListing> {
+                return std::make_unique<Books>(out);
+            },
+            [](std::ostream& out,
+               const NoteListingOptions& options) -> std::unique_ptr<NoteListing> {
+                return std::make_unique<Notes>(out, options);
+            }};
+}
+
 extern const ListingFormat kLineFormat;
 extern const ListingFormat kJsonFormat;
 extern const ListingFormat kCsvFormat;
@@ -62,3 +65,5 @@ extern const ListingFormat kMarkdownFormat;
 
 inline constexpr const ListingFormat* kListingFormats[] = {&kLineFormat, &kJsonFormat,
                                                            &kCsvFormat, &kMarkdownFormat};
+
+}  // namespace client

@@ -1,28 +1,26 @@
 // For collections of notes in Markdown. A book's notes are one document with front matter;
 // those of several books are one without, as front matter has its place only at the start.
-#include "client/collection/book_notes.h"
 #include "client/listings/listing.h"
 #include "client/listings/markdown_text.h"
+#include "client/listings/note_text.h"
 #include "client/listings/picture_folder.h"
 #include "client/text/line_breaks.h"
-#include "client/text/numbers.h"
 #include "client/text/one_line.h"
 
+namespace client {
 namespace {
-
-using veloran::utilities::Note;
 
 // A double-quoted scalar of YAML.
 std::string quoted(const std::string& text) {
     return '"' + replaced(replaced(oneLine(text), "\\", "\\\\"), "\"", "\\\"") + '"';
 }
 
-std::string frontMatter(const ListedBook& book) {
+std::string frontMatter(const Book& book) {
     return "---\ntitle: " + quoted(book.title) + "\nauthor: " + quoted(book.author) +
            "\nhash: " + quoted(book.hash) + "\n---\n\n";
 }
 
-// What is known of the note besides.
+// Returns the note's page, colour, picture and time, for the line below it.
 std::string lastLine(const Note& note, bool hasHiddenPicture) {
     std::string result = "\u2014";
     const char* separator = " ";
@@ -30,11 +28,10 @@ std::string lastLine(const Note& note, bool hasHiddenPicture) {
         result += fact.empty() ? "" : separator + fact;
         separator = fact.empty() ? separator : ", ";
     };
-    const auto page = pageOf(note);
-    add(page ? "page " + decimal(*page) : "");
-    add(markdownLine(note.getColor()));
+    add(note.page ? "page " + pageText(note) : "");
+    add(markdownLine(note.color));
     add(hasHiddenPicture ? "picture" : "");
-    add(timeOf(note));
+    add(timeText(note));
     return result;
 }
 
@@ -42,7 +39,7 @@ class MarkdownBooks : public BookListing {
 public:
     explicit MarkdownBooks(std::ostream& out) : out_(out) {}
 
-    void add(const ListedBook& book) override {
+    void add(const Book& book) override {
         out_ << "- " << markdownLine(nameOf(book));
         if (!book.author.empty()) {
             out_ << ", " << markdownLine(book.author);
@@ -59,7 +56,7 @@ public:
     MarkdownNotes(std::ostream& out, const NoteListingOptions& options)
         : out_(out), severalBooks_(options.severalBooks), pictures_(options.pictures) {}
 
-    void startBook(const ListedBook& book) override;
+    void startBook(const Book& book) override;
     void add(const Note& note) override;
 
 private:
@@ -72,7 +69,7 @@ private:
     const char* separator_ = "";  // between the parts of the document
 };
 
-void MarkdownNotes::startBook(const ListedBook& book) {
+void MarkdownNotes::startBook(const Book& book) {
     title_ = nameOf(book);
     if (!severalBooks_) {
         out_ << frontMatter(book);
@@ -83,12 +80,11 @@ void MarkdownNotes::startBook(const ListedBook& book) {
 }
 
 void MarkdownNotes::add(const Note& note) {
-    writePart(markdownParagraphs(note.getText(), "> "));
-    const std::string image = note.getImage();
-    const std::string link = pictures_.add(title_, image);
+    writePart(markdownParagraphs(note.text, "> "));
+    const std::string link = pictures_.add(title_, note.picture);
     writePart(link.empty() ? "" : "![picture](" + link + ")\n");
-    writePart(markdownParagraphs(note.getNote(), ""));
-    writePart(lastLine(note, !image.empty() && link.empty()) + '\n');
+    writePart(markdownParagraphs(note.comment, ""));
+    writePart(lastLine(note, !note.picture.empty() && link.empty()) + '\n');
 }
 
 void MarkdownNotes::writePart(const std::string& text) {
@@ -98,15 +94,9 @@ void MarkdownNotes::writePart(const std::string& text) {
     }
 }
 
-std::unique_ptr<BookListing> listBooks(std::ostream& out) {
-    return std::make_unique<MarkdownBooks>(out);
-}
-
-std::unique_ptr<NoteListing> listNotes(std::ostream& out,
-                                       const NoteListingOptions& options) {
-    return std::make_unique<MarkdownNotes>(out, options);
-}
-
 }  // namespace
 
-const ListingFormat kMarkdownFormat = {"markdown", listBooks, listNotes};
+const ListingFormat kMarkdownFormat =
+    listingFormat<MarkdownBooks, MarkdownNotes>("markdown");
+
+}  // namespace client

@@ -7,6 +7,7 @@
 #include "client/text/line_breaks.h"
 #include "client/text/one_line.h"
 
+namespace client {
 namespace {
 
 constexpr std::string_view kMarkup = "\\`*_[<>&#|~$";
@@ -52,7 +53,7 @@ std::string withSpacesAtEnds(std::string line) {
 }
 
 std::string escapedLine(std::string_view line) {
-    return replaceSteering(
+    return replaceControls(
         withSpacesAtEnds(escapedMarkup(line)),
         [](unsigned code, std::string_view) { return characterReference(code); });
 }
@@ -93,3 +94,5 @@ std::string markdownParagraphs(const std::string& text, const std::string& inden
     });
     return result;
 }
+
+}  // namespace client

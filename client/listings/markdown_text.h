@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace client {
+
 // The text as it stands anywhere in a line, or is a line. What breaks lines becomes a
 // space.
 std::string markdownLine(const std::string& text);
@@ -12,3 +14,5 @@ std::string markdownLine(const std::string& text);
 // last. Line breaks at the end of a paragraph and empty paragraphs are left out. Empty when
 // nothing remains.
 std::string markdownParagraphs(const std::string& text, const std::string& indent);
+
+}  // namespace client

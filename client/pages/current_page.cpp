@@ -12,6 +12,7 @@
 #include "text/base64.h"
 #include "utilities/serialization_utils.h"
 
+namespace client {
 namespace {
 
 // As the library writes text into a page.
@@ -95,3 +96,5 @@ bool CurrentPage::includes(const std::string& path) const {
         return false;
     }
 }
+
+}  // namespace client

@@ -8,6 +8,8 @@
 #include "store/library_store.h"
 #include "store/reader_store.h"
 
+namespace client {
+
 // What an export of a book would write now, but for the notes as people see them. The
 // stores must outlive it.
 class CurrentPage {
@@ -35,3 +37,5 @@ private:
     std::string title_;
     std::string author_;
 };
+
+}  // namespace client

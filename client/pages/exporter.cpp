@@ -2,15 +2,10 @@
 
 #include "store/database_paths.h"
 
-namespace {
-
-constexpr char kDeviceDirectory[] = NOTES_EXPORT_DEVICE_ROOT "/Notes";
-
-}  // namespace
-
+namespace client {
 Exporter::Exporter(const std::string& directory)
     : handle_(new_notes_exporter(), &free_notes_exporter) {
-    setDirectory(directory.empty() ? kDeviceDirectory : directory);
+    setDirectory(directory.empty() ? host::kNotesDirectory : directory);
 }
 
 void Exporter::setDirectory(const std::string& directory) {
@@ -21,7 +16,7 @@ void Exporter::setDirectory(const std::string& directory) {
 std::string Exporter::fileName(const std::string& hash) const {
     std::string buffer(256, '\0');
     std::size_t length = std::string::npos;
-    // The library does not tell that it cut the name: a name without its end is asked for
+    // The library does not report that it cut the name: a name without its end is requested
     // again.
     while (length == std::string::npos) {
         buffer.assign(buffer.size() * 2, '\1');
@@ -31,3 +26,5 @@ std::string Exporter::fileName(const std::string& hash) const {
     }
     return buffer.substr(0, length);
 }
+
+}  // namespace client

@@ -6,15 +6,17 @@
 
 #include "notes_export/notes_export.h"
 
+namespace client {
+
 class Exporter {
 public:
-    // An empty directory is the device's own.
+    // An empty directory means the collection's own.
     explicit Exporter(const std::string& directory = {});
 
     void setDirectory(const std::string& directory);
     const std::string& directory() const { return directory_; }
 
-    // The path of the file that an export of the book would write now.
+    // Returns the path of the file that an export of the book would write now.
     std::string fileName(const std::string& hash) const;
 
     notes_exporter* handle() const { return handle_.get(); }
@@ -23,3 +25,5 @@ private:
     std::unique_ptr<notes_exporter, decltype(&free_notes_exporter)> handle_;
     std::string directory_;
 };
+
+}  // namespace client

@@ -1,23 +1,20 @@
 #include "client/pages/note_selection.h"
 
-#include <algorithm>
-#include <vector>
-
-#include "client/collection/book_notes.h"
+#include "client/collection/note_reader.h"
 #include "client/error.h"
 
+namespace client {
 namespace {
 
-using veloran::utilities::Note;
-using Timestamps = decltype(NoteSelection::timestamps);
+using Times = decltype(NoteSelection::times);
 
 bool byId(void* /*unused*/, long long first, long long second) {
     return static_cast<unsigned long long>(first) < static_cast<unsigned long long>(second);
 }
 
-bool byNewest(void* timestamps, long long first, long long second) {
-    auto& times = *static_cast<Timestamps*>(timestamps);
-    return times[first] > times[second];
+bool byNewest(void* times, long long first, long long second) {
+    Times& known = *static_cast<Times*>(times);
+    return known[first] > known[second];
 }
 
 notes_exporter_before orderNamed(const std::string& name) {
@@ -26,33 +23,24 @@ notes_exporter_before orderNamed(const std::string& name) {
 
 }  // namespace
 
-NoteSelection selectNotes(const std::string& bookHash, const ExportRequest& request) {
+NoteSelection selectNotes(const std::string& bookHash, const NoteFilter& filter,
+                          const std::string& order, bool mustHaveIds) {
     NoteSelection selection;
-    selection.before = orderNamed(request.order);
-    if (request.filter.isEmpty() && selection.before != byNewest) {
+    selection.before = orderNamed(order);
+    if (filter.isEmpty() && selection.before != byNewest) {
         return selection;
     }
-    for (const Note& note : notesOf(bookHash)) {
-        if (request.filter.selects(note)) {
-            selection.ids.insert(note.noteId);
-            const auto id = static_cast<long long>(note.noteId);
-            selection.timestamps[id] = note[Note::Tag::Uuid].timestamp;
-        }
+    NoteReader reader(filter);
+    reader.read(bookHash, [&](const Note& note) {
+        selection.ids.insert(note.id);
+        selection.times[static_cast<long long>(note.id)] = note.time;
+    });
+    if (const auto id = reader.missingId(); id && mustHaveIds) {
+        throw UserError("The book has no note " + std::to_string(*id) +
+                        ". \"notes-export notes " + bookHash + "\" lists them.");
     }
-    selection.isEmpty = selection.ids.empty() && !request.filter.isEmpty();
+    selection.isEmpty = selection.ids.empty() && !filter.isEmpty();
     return selection;
 }
 
-void complainUnlessNotesExist(const std::string& bookHash, const ExportRequest& request) {
-    if (request.filter.ids.empty()) {
-        return;
-    }
-    const std::vector<Note> notes = notesOf(bookHash);
-    for (const unsigned long long id : request.filter.ids) {
-        const auto hasId = [id](const Note& note) { return note.noteId == id; };
-        if (std::none_of(notes.begin(), notes.end(), hasId)) {
-            throw Complaint("The book has no note " + std::to_string(id) +
-                            ". \"notes-export notes " + bookHash + "\" lists them.");
-        }
-    }
-}
+}  // namespace client

@@ -1,22 +1,26 @@
-// Which notes an export writes, and in which order.
+// The notes that an export writes, and their order.
 #pragma once
 
-#include <ctime>
+#include <cstdint>
 #include <set>
 #include <string>
 #include <unordered_map>
 
-#include "client/pages/export_request.h"
+#include "client/collection/note_filter.h"
 #include "notes_export/notes_export.h"
+
+namespace client {
 
 struct NoteSelection {
     bool isEmpty = false;              // no note is to be written
     std::set<unsigned long long> ids;  // of the notes; empty: all, unless `isEmpty`
     notes_exporter_before before = nullptr;
-    std::unordered_map<long long, std::time_t> timestamps = {};  // what `before` looks at
+    std::unordered_map<long long, std::int64_t> times = {};  // `before` looks at them
 };
 
-NoteSelection selectNotes(const std::string& bookHash, const ExportRequest& request);
+// Selects notes of one book. `order` is "id" or "newest", or else by page. With
+// `mustHaveIds`, throws UserError if the book lacks a note that the filter names.
+NoteSelection selectNotes(const std::string& bookHash, const NoteFilter& filter,
+                          const std::string& order, bool mustHaveIds);
 
-// Complains when one of the request's identifiers is that of none of the book's notes.
-void complainUnlessNotesExist(const std::string& bookHash, const ExportRequest& request);
+}  // namespace client

@@ -7,9 +7,10 @@
 #include "client/pages/current_page.h"
 #include "store/database_paths.h"
 
+namespace client {
 namespace {
 
-std::string styleSheetOnDevice() {
+std::string currentStyleSheet() {
     std::error_code failure;
     return std::filesystem::is_regular_file(host::kNoteStyleSheetPath, failure)
                ? readFile(host::kNoteStyleSheetPath)
@@ -20,13 +21,13 @@ std::string styleSheetOnDevice() {
 
 OlderPages::OlderPages(const std::string& folder, const std::string& file)
     : file_(file),
-      styleSheet_(styleSheetOnDevice()),
+      styleSheet_(currentStyleSheet()),
       folder_(file.empty() ? folder : ""),
       reader_(host::kReaderDatabasePath),
       library_(host::kLibraryDatabasePath) {}
 
-OlderPages::Verdict OlderPages::judge(const host::BookEntry& book,
-                                      const std::set<unsigned long long>& notes) {
+OlderPages::Match OlderPages::find(const host::BookEntry& book,
+                                   const std::set<unsigned long long>& notes) {
     const CurrentPage current(reader_, library_, book, notes, styleSheet_);
     const std::vector<std::string> pages = candidates(book.fastHash);
     const auto isCurrent = [&](const std::string& page) { return current.isAt(page); };
@@ -46,3 +47,5 @@ OlderPages::Verdict OlderPages::judge(const host::BookEntry& book,
 std::vector<std::string> OlderPages::candidates(const std::string& bookHash) const {
     return file_.empty() ? folder_.pagesOf(bookHash) : std::vector{file_};
 }
+
+}  // namespace client

@@ -10,6 +10,8 @@
 #include "store/library_store.h"
 #include "store/reader_store.h"
 
+namespace client {
+
 class OlderPages {
 public:
     // Looks for them in the folder, or at `file` alone when that is not empty.
@@ -19,7 +21,7 @@ public:
         std::string path;
         host::FileIdentity identity;
     };
-    struct Verdict {
+    struct Match {
         bool isUpToDate = false;    // a page has the book's records already
         std::optional<Page> older;  // the page whose place the new one may take
     };
@@ -28,7 +30,7 @@ public:
     void lookAgain() { folder_.lookAgain(); }
 
     // Of the notes of the book with these identifiers, or all when there are none.
-    Verdict judge(const host::BookEntry& book, const std::set<unsigned long long>& notes);
+    Match find(const host::BookEntry& book, const std::set<unsigned long long>& notes);
 
 private:
     std::vector<std::string> candidates(const std::string& bookHash) const;
@@ -39,3 +41,5 @@ private:
     host::ReaderStore reader_;
     host::LibraryStore library_;
 };
+
+}  // namespace client

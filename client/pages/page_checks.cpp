@@ -17,6 +17,7 @@
 #include "dump/writer.h"
 #include "store/database_paths.h"
 
+namespace client {
 namespace {
 
 bool endsWhole(const std::string& path) {
@@ -54,7 +55,7 @@ bool holdsOnly(const std::vector<host::BookRecord>& books, const std::string& ha
     return books.size() == 1 && books[0].fastHash == hash;
 }
 
-// The library asked for the records and was refused; asked again, the device says why.
+// The library does not report why it got no records: the databases are read again.
 std::string whyRefused(const std::string& hash, const std::set<unsigned long long>& notes) {
     constexpr char kWasInUse[] = "the reader database was in use meanwhile; export again";
     try {
@@ -72,12 +73,12 @@ std::string whyRefused(const std::string& hash, const std::set<unsigned long lon
 
 }  // namespace
 
-void complainUnlessWhole(const std::string& path, const std::string& shown) {
+void requireWhole(const std::string& path, const std::string& shown) {
     if (endsWhole(path)) {
         return;
     }
     const int error = obstacle(path);
-    throw Complaint(
+    throw UserError(
         "Could not write " + shown + ": " +
         (error == 0 ? "the cause is gone; export again" : causeFor(path, error)) + '.');
 }
@@ -92,3 +93,5 @@ std::string whyWithoutRecords(const std::string& path, const std::string& hash,
         return error.result == host::kNoDump ? whyRefused(hash, notes) : error.what();
     }
 }
+
+}  // namespace client

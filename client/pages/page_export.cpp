@@ -9,13 +9,15 @@
 #include "client/pages/page_checks.h"
 #include "store/database_paths.h"
 
+namespace client {
+
 namespace fs = std::filesystem;
 
 namespace {
 
-std::string directoryOf(const ExportRequest& request) {
-    return request.file.empty() ? request.directory
-                                : fs::path(request.file).parent_path().string();
+std::string directoryOf(const PageTarget& target) {
+    return target.file.empty() ? target.directory
+                               : fs::path(target.file).parent_path().string();
 }
 
 std::string nameOf(const std::string& path) { return fs::path(path).filename().string(); }
@@ -25,20 +27,18 @@ void callLibrary(const Exporter& exporter, const host::BookEntry& book,
     const std::vector<unsigned long long> ids(notes.ids.begin(), notes.ids.end());
     if (notes_exporter_export_bookmarks_to_html(exporter.handle(), book.fastHash.c_str(),
                                                 ids.data(), ids.size(), notes.before,
-                                                &notes.timestamps) != 0) {
-        throw Complaint("The book " + book.fastHash + " is no longer on the device.");
+                                                &notes.times) != 0) {
+        throw UserError("The book " + book.fastHash + " is no longer in the collection.");
     }
 }
 
 }  // namespace
 
-PageExport::PageExport(const ExportRequest& request)
-    : request_(request),
-      exporter_(directoryOf(request)),
-      directory_(exporter_.directory()) {
-    complainUnlessStyleSheetIsFile();
-    if (request.update) {
-        olderPages_.emplace(directory_, request.file);
+PageExport::PageExport(const PageTarget& target)
+    : target_(target), exporter_(directoryOf(target)), directory_(exporter_.directory()) {
+    requireStyleSheetFile();
+    if (target.update) {
+        olderPages_.emplace(directory_, target.file);
     }
 }
 
@@ -47,29 +47,29 @@ PageExport::PageExport(const ExportRequest& request)
 ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
     constexpr int kAttempts = 10;
     for (int i = 0; i < kAttempts; ++i) {
-        const auto verdict = olderPages_ ? judge(book, notes) : OlderPages::Verdict();
-        if (verdict.isUpToDate) {
+        const auto match = olderPages_ ? find(book, notes) : OlderPages::Match();
+        if (match.isUpToDate) {
             return {};
         }
-        if (auto page = writeInPlaceOf(verdict.older, book, notes)) {
+        if (auto page = writeInPlaceOf(match.older, book, notes)) {
             return *page;
         }
     }
-    throw Complaint("Other programs replace the page of the book " + book.fastHash +
-                    " all the time. Export it again.");
+    throw UserError("The page of the book " + book.fastHash +
+                    " keeps changing. Export it again.");
 }
 
 // The free name is found before the last look at the folder. If another update writes a
 // page after that look, the name is taken, and the page is judged again.
-OlderPages::Verdict PageExport::judge(const host::BookEntry& book,
-                                      const NoteSelection& notes) {
-    auto verdict = olderPages_->judge(book, notes.ids);
-    if (request_.file.empty() && !verdict.isUpToDate && !verdict.older) {
-        freeName_ = exporter_.fileName(book.fastHash);
+OlderPages::Match PageExport::find(const host::BookEntry& book,
+                                   const NoteSelection& notes) {
+    auto match = olderPages_->find(book, notes.ids);
+    if (target_.file.empty() && !match.isUpToDate && !match.older) {
+        freeName_ = freeName(book);
         olderPages_->lookAgain();
-        verdict = olderPages_->judge(book, notes.ids);
+        match = olderPages_->find(book, notes.ids);
     }
-    return verdict;
+    return match;
 }
 
 // The library finds a free name and then opens it, replacing what came there in between:
@@ -77,64 +77,73 @@ OlderPages::Verdict PageExport::judge(const host::BookEntry& book,
 std::optional<ExportedPage> PageExport::writeInPlaceOf(
     const std::optional<OlderPages::Page>& older, const host::BookEntry& book,
     NoteSelection& notes) {
-    FreshFolder folder(directory_);
+    TempFolder folder(directory_);
     const std::string page = writeInto(folder, book, notes);
-    const std::string unrecorded = whyWithoutRecords(page, book.fastHash, notes.ids);
+    const std::string recordsError = whyWithoutRecords(page, book.fastHash, notes.ids);
     if (!older) {
-        const auto path = place(page, book);
-        return path ? std::optional(ExportedPage{shown(*path), unrecorded}) : std::nullopt;
+        const auto path = publish(page, book);
+        return path ? std::optional(ExportedPage{displayPath(*path), recordsError})
+                    : std::nullopt;
     }
-    if (!exchange(page, older->path, older->identity, shown(older->path))) {
+    if (!swapFiles(page, older->path, older->identity, displayPath(older->path))) {
         return std::nullopt;
     }
-    return ExportedPage{shown(older->path), unrecorded};
+    return ExportedPage{displayPath(older->path), recordsError};
 }
 
-std::string PageExport::writeInto(FreshFolder& folder, const host::BookEntry& book,
+std::string PageExport::writeInto(TempFolder& folder, const host::BookEntry& book,
                                   NoteSelection& notes) {
     exporter_.setDirectory(folder.path());
     std::string page = exporter_.fileName(book.fastHash);
     folder.expect(page);
     callLibrary(exporter_, book, notes);
-    exporter_.setDirectory(directory_);
-    complainUnlessWhole(page, shown(directory_ + "/" + nameOf(page)));
+    requireWhole(page, displayPath(directory_ + "/" + nameOf(page)));
     return page;
 }
 
 // The page's name is free there in most cases; the next one is asked for as long as others
 // take it.
-std::optional<std::string> PageExport::place(const std::string& page,
-                                             const host::BookEntry& book) {
-    if (!request_.file.empty()) {
-        if (!moveIntoPlace(page, request_.file, shown(request_.file))) {
-            throw Complaint(shown(request_.file) +
+std::optional<std::string> PageExport::publish(const std::string& page,
+                                               const host::BookEntry& book) {
+    if (!target_.file.empty()) {
+        if (!moveIntoPlace(page, target_.file, displayPath(target_.file))) {
+            throw UserError(displayPath(target_.file) +
                             " is there already, and stays as it is.");
         }
-        return request_.file;
+        return target_.file;
     }
     if (olderPages_) {
-        return moveIntoPlace(page, freeName_, shown(freeName_)) ? std::optional(freeName_)
-                                                                : std::nullopt;
+        return moveIntoPlace(page, freeName_, displayPath(freeName_))
+                   ? std::optional(freeName_)
+                   : std::nullopt;
     }
     std::string path = directory_ + "/" + nameOf(page);
-    while (!moveIntoPlace(page, path, shown(path))) {
-        path = exporter_.fileName(book.fastHash);
+    while (!moveIntoPlace(page, path, displayPath(path))) {
+        path = freeName(book);
     }
     return path;
 }
 
-// The path as the caller of the client can use it.
-std::string PageExport::shown(const std::string& path) const {
-    return (fs::path(request_.deviceFolder) / path).string();
+// The exporter may still write into a folder that is gone.
+std::string PageExport::freeName(const host::BookEntry& book) {
+    exporter_.setDirectory(directory_);
+    return exporter_.fileName(book.fastHash);
+}
+
+// Returns the path as the caller of the client can use it.
+std::string PageExport::displayPath(const std::string& path) const {
+    return (fs::path(target_.displayRoot) / path).string();
 }
 
 // The library would wait for a pipe without end, and read a device without end.
-void PageExport::complainUnlessStyleSheetIsFile() const {
+void PageExport::requireStyleSheetFile() const {
     const char* path = host::kNoteStyleSheetPath;
     std::error_code failure;
     const fs::file_status status = fs::status(path, failure);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        throw Complaint("The style sheet " + shown(path) +
+        throw UserError("The style sheet " + displayPath(path) +
                         " is not a file. Remove it, or put a file in its place.");
     }
 }
+
+}  // namespace client

@@ -7,6 +7,8 @@
 
 #include "client/pages/page_head.h"
 
+namespace client {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -57,3 +59,5 @@ std::vector<std::string> PageFolder::pagesOf(const std::string& bookHash) const 
                    [](auto& page) { return std::move(page.second); });
     return pages;
 }
+
+}  // namespace client

@@ -6,6 +6,8 @@
 #include <unordered_set>
 #include <vector>
 
+namespace client {
+
 class PageFolder {
 public:
     // Looks at the start of each .html file in the folder, up to its dump. What cannot be
@@ -23,3 +25,5 @@ private:
     std::unordered_set<std::string> seen_;
     std::unordered_map<std::string, std::vector<std::string>> pages_;
 };
+
+}  // namespace client

@@ -7,11 +7,12 @@
 
 #include "files/input_file.h"
 
+namespace client {
 namespace {
 
 constexpr std::string_view kDumpStart =
     R"(<script type="application/x-veloran-dbdump" book_hash=")";
-constexpr std::size_t kMostBeforeDump = std::size_t{16} << 20;
+constexpr std::size_t kMaxBeforeDump = std::size_t{16} << 20;
 
 // The file up to `mark` and at least a block more, or `most` bytes of it.
 std::string readPast(const std::string& path, std::string_view mark, std::size_t most) {
@@ -86,9 +87,11 @@ PageHead readPageHead(const std::string& path) {
 
 std::string bookHashIn(const std::string& path) {
     try {
-        const std::string text = readPast(path, kDumpStart, kMostBeforeDump);
+        const std::string text = readPast(path, kDumpStart, kMaxBeforeDump);
         return Scanner(text).next(kDumpStart, "\">").value_or("");
     } catch (const std::runtime_error&) {
         return {};
     }
 }
+
+}  // namespace client

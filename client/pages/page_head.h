@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace client {
+
 struct PageHead {
     std::string styleSheet;
     std::string dump;     // Base64 in lines
@@ -16,3 +18,5 @@ PageHead readPageHead(const std::string& path);
 
 // The hash of the book that the page's dump is of; empty as above.
 std::string bookHashIn(const std::string& path);
+
+}  // namespace client

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "client/error.h"
 #include "client/files/whole_file.h"
@@ -11,7 +12,17 @@
 #include "client/sources/kobo/kobo_database.h"
 #include "client/sources/w3c/annotation_set.h"
 
+namespace client {
 namespace {
+
+struct Source {
+    const char* name;  // of one such file, in messages
+
+    // Returns whether a file is of this kind, by the start of its content: 64 KiB, or all.
+    bool (*recognises)(std::string_view start);
+
+    SourceContent (*read)(const std::string& path);
+};
 
 // The first that recognises a file reads it.
 constexpr std::array kSources = {
@@ -39,7 +50,11 @@ SourceContent readSource(const std::string& path) {
         std::find_if(kSources.begin(), kSources.end(),
                      [&](const Source& kind) { return kind.recognises(start); });
     if (source == kSources.end()) {
-        throw Complaint(path + " is of no known kind. These are read: " + names() + '.');
+        throw UserError(
+            path + " is not a file that notes can be loaded from. Known kinds: " + names() +
+            '.');
     }
     return source->read(path);
 }
+
+}  // namespace client

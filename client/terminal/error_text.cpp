@@ -1,4 +1,4 @@
-#include "client/error.h"
+#include "client/terminal/error_text.h"
 
 #include <unistd.h>
 
@@ -7,11 +7,9 @@
 #include "client/terminal/terminal.h"
 #include "client/text/one_line.h"
 
-void complain(const std::string& what, std::error_code why) {
-    throw Complaint(what + ": " + why.message());
-}
+namespace client {
 
-std::string complaintText(const std::string& text) {
+std::string errorText(const std::string& text) {
     std::string result =
         isColorful(STDERR_FILENO) ? "\033[1;31mnotes-export:\033[0m " : "notes-export: ";
     std::istringstream lines(text);
@@ -20,3 +18,5 @@ std::string complaintText(const std::string& text) {
     }
     return result;
 }
+
+}  // namespace client

@@ -7,6 +7,8 @@
 
 #include "client/terminal/terminal.h"
 
+namespace client {
+
 ProgressBar::ProgressBar(std::string what, std::size_t steps)
     : what_(std::move(what)), steps_(steps), isShown_(isTerminal(STDERR_FILENO)) {}
 
@@ -33,3 +35,5 @@ void ProgressBar::erase() {
         std::cerr << "\r\033[K" << std::flush;
     }
 }
+
+}  // namespace client

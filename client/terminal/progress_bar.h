@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+namespace client {
+
 // A line on standard error, if that is a terminal. It is drawn before each step and
 // remains during the step; nothing else may be printed then.
 class ProgressBar {
@@ -25,3 +27,5 @@ private:
     const bool isShown_;
     bool isDrawn_ = false;
 };
+
+}  // namespace client

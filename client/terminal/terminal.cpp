@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <string_view>
 
+namespace client {
 namespace {
 
 std::string_view variable(const char* name) {
@@ -26,3 +27,5 @@ bool isColorful(int descriptor) {
 std::string bold(const std::string& text) {
     return isColorful(STDOUT_FILENO) ? "\033[1m" + text + "\033[0m" : text;
 }
+
+}  // namespace client

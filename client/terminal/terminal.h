@@ -3,6 +3,8 @@
 
 #include <string>
 
+namespace client {
+
 // Whether `descriptor` is a terminal that understands escape sequences.
 bool isTerminal(int descriptor);
 
@@ -11,3 +13,5 @@ bool isColorful(int descriptor);
 
 // The text as standard output shows it in bold.
 std::string bold(const std::string& text);
+
+}  // namespace client

@@ -1,5 +1,6 @@
 #include "client/text/calendar.h"
 
+namespace client {
 namespace {
 
 constexpr std::int64_t kDaysAnEra = 146097;  // 400 years, after which the calendar repeats
@@ -10,10 +11,9 @@ std::int64_t floorDivided(std::int64_t number, std::int64_t by) {
     return number / by - (number % by < 0 ? 1 : 0);
 }
 
-}  // namespace
-
-// Years that begin in March have the day that leap years add at their end.
-std::int64_t daysSinceEpoch(const Date& date) {
+// Years that begin in March have the day that leap years add at their end. A day that its
+// month lacks is counted as one of the next month.
+std::int64_t countDays(const Date& date) {
     const std::int64_t year = date.year - (date.month <= 2 ? 1 : 0);
     const std::int64_t era = floorDivided(year, 400);
     const std::int64_t yearOfEra = year - era * 400;
@@ -21,6 +21,16 @@ std::int64_t daysSinceEpoch(const Date& date) {
     const std::int64_t dayOfYear = (153 * monthFromMarch + 2) / 5 + date.day - 1;
     return era * kDaysAnEra + yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 +
            dayOfYear - kDaysToEpoch;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> daysSinceEpoch(const Date& date) {
+    const bool isInYear = 1 <= date.month && date.month <= 12 && 1 <= date.day;
+    const std::int64_t days = isInYear ? countDays(date) : 0;
+    const bool exists =
+        isInYear && dateOf(days).month == date.month && dateOf(days).day == date.day;
+    return exists ? std::optional(days) : std::nullopt;
 }
 
 Date dateOf(std::int64_t daysFromEpoch) {
@@ -36,3 +46,5 @@ Date dateOf(std::int64_t daysFromEpoch) {
     return {yearOfEra + era * 400 + (month <= 2 ? 1 : 0), month,
             dayOfYear - (153 * monthFromMarch + 2) / 5 + 1};
 }
+
+}  // namespace client

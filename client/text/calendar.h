@@ -2,6 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+
+namespace client {
 
 struct Date {
     std::int64_t year;
@@ -9,7 +12,9 @@ struct Date {
     std::int64_t day;    // 1 to 31
 };
 
-// The days from 1 January 1970 to the date; a day that its month lacks is one of the next.
-std::int64_t daysSinceEpoch(const Date& date);
+// Returns the days from 1 January 1970 to the date; nullopt if the calendar lacks it.
+std::optional<std::int64_t> daysSinceEpoch(const Date& date);
 
 Date dateOf(std::int64_t daysFromEpoch);
+
+}  // namespace client

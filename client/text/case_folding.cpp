@@ -8,6 +8,7 @@
 
 #include "text/utf8.h"
 
+namespace client {
 namespace {
 
 std::string mapped(const std::string& text, unsigned options) {
@@ -19,7 +20,7 @@ std::string mapped(const std::string& text, unsigned options) {
         static_cast<utf8proc_option_t>(options | UTF8PROC_STABLE | UTF8PROC_COMPOSE |
                                        UTF8PROC_CASEFOLD | UTF8PROC_IGNORE));
     const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(result, &std::free);
-    if (length < 0) {  // what it refuses but for a lack of memory, valid UTF-8 cannot hold
+    if (length < 0) {  // all else that it refuses is not valid UTF-8
         throw std::bad_alloc();
     }
     return {reinterpret_cast<const char*>(result), static_cast<std::size_t>(length)};
@@ -27,8 +28,10 @@ std::string mapped(const std::string& text, unsigned options) {
 
 }  // namespace
 
-std::string folded(const std::string& text) { return mapped(text, 0); }
+std::string caseFolded(const std::string& text) { return mapped(text, 0); }
 
-std::string compatiblyFolded(const std::string& text) {
+std::string caseFoldedNfkc(const std::string& text) {
     return mapped(text, UTF8PROC_COMPAT);
 }
+
+}  // namespace client

@@ -3,10 +3,15 @@
 
 #include <string>
 
-// The text with upper and lower case, and other spellings of the same characters, made
-// equal after Unicode's rules; what is never visible, as a soft hyphen, is left out. For
-// comparing with other folded text. Bytes that are not UTF-8 count as U+FFFD.
-std::string folded(const std::string& text);
+namespace client {
 
-// The same, and signs that differ in their form alone, as full-width digits, are equal.
-std::string compatiblyFolded(const std::string& text);
+// Returns the text for comparing with other folded text: upper and lower case, and other
+// spellings of the same characters, are made equal after Unicode's rules; invisible
+// characters, such as a soft hyphen, are left out. Bytes that are not UTF-8 count as
+// U+FFFD.
+std::string caseFolded(const std::string& text);
+
+// Also makes signs equal that differ in their form alone, such as full-width digits.
+std::string caseFoldedNfkc(const std::string& text);
+
+}  // namespace client

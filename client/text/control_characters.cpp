@@ -1,13 +1,27 @@
 #include "client/text/control_characters.h"
 
-#include <rapidjson/encodings.h>
-#include <rapidjson/memorystream.h>
+#include <utf8proc.h>
 
 #include <cstddef>
 
-#include "text/utf8.h"
-
+namespace client {
 namespace {
+
+struct Character {
+    unsigned code;
+    std::string_view bytes;
+};
+
+// A byte that belongs to no character counts as U+FFFD.
+Character firstCharacter(std::string_view text) {
+    utf8proc_int32_t code = 0;
+    const utf8proc_ssize_t length =
+        utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                         static_cast<utf8proc_ssize_t>(text.size()), &code);
+    return length > 0 ? Character{static_cast<unsigned>(code),
+                                  text.substr(0, static_cast<std::size_t>(length))}
+                      : Character{0xFFFD, text.substr(0, 1)};
+}
 
 bool isSeparatorOrDirection(unsigned code) {
     return code == 0x061C || code == 0x200E || code == 0x200F ||
@@ -18,19 +32,21 @@ bool isSeparatorOrDirection(unsigned code) {
 
 bool isControl(unsigned code) { return code < 0x20 || (0x7F <= code && code <= 0x9F); }
 
-std::string replaceSteering(
-    const std::string& text,
+std::string replaceControls(
+    std::string_view text,
     const std::function<std::string(unsigned code, std::string_view character)>& instead) {
-    const std::string valid = host::validUtf8(text);
-    rapidjson::MemoryStream characters(valid.data(), valid.size());
     std::string result;
-    while (characters.Tell() < valid.size()) {
-        const std::size_t start = characters.Tell();
-        unsigned code = 0;
-        rapidjson::UTF8<>::Decode(characters, &code);
-        const std::string_view character(&valid[start], characters.Tell() - start);
-        const bool steers = isControl(code) || isSeparatorOrDirection(code);
-        result += steers ? instead(code, character) : std::string(character);
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const auto [code, bytes] = firstCharacter(text);
+        text.remove_prefix(bytes.size());
+        if (isControl(code) || isSeparatorOrDirection(code)) {
+            result += instead(code, bytes);
+        } else {
+            result += code == 0xFFFD ? "\uFFFD" : bytes;
+        }
     }
     return result;
 }
+
+}  // namespace client

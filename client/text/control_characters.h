@@ -5,11 +5,15 @@
 #include <string>
 #include <string_view>
 
+namespace client {
+
 bool isControl(unsigned code);
 
-// The text as UTF-8, with what `instead` makes of each character that a terminal obeys:
-// controls, line and paragraph separators, and what turns the direction of writing. U+FFFD
-// stands for each byte that belongs to no character.
-std::string replaceSteering(
-    const std::string& text,
+// Returns the text as UTF-8, with the result of `instead` for each character that a
+// terminal obeys: controls, line and paragraph separators, and marks that turn the
+// direction of writing. U+FFFD replaces each byte that belongs to no character.
+std::string replaceControls(
+    std::string_view text,
     const std::function<std::string(unsigned code, std::string_view character)>& instead);
+
+}  // namespace client

@@ -6,11 +6,13 @@
 #include <string>
 #include <vector>
 
-inline constexpr std::size_t kMostNamed = 3;
+namespace client {
 
-// The first of `lines`, indented, and how many more there are of `count`.
+inline constexpr std::size_t kMaxNamed = 3;
+
+// Returns the first of `lines`, indented, and how many more there are of `count`.
 inline std::string firstFew(const std::vector<std::string>& lines, std::size_t count) {
-    const std::size_t named = std::min(lines.size(), kMostNamed);
+    const std::size_t named = std::min(lines.size(), kMaxNamed);
     std::string text;
     for (std::size_t i = 0; i < named; ++i) {
         text += "  " + lines[i] + "\n";
@@ -18,3 +20,5 @@ inline std::string firstFew(const std::vector<std::string>& lines, std::size_t c
     return named == count ? text
                           : text + "  and " + std::to_string(count - named) + " more\n";
 }
+
+}  // namespace client

@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "client/text/ascii.h"
 #include "client/text/calendar.h"
 
+namespace client {
 namespace {
 
 constexpr std::int64_t kSecondsADay = 86400;
 
-bool isDigit(char letter) { return letter >= '0' && letter <= '9'; }
-
-// Takes what it reads from the front of the text; after a first failure, every answer is of
-// no use.
+// Removes each part that it reads from the front of the text. After a first failure, its
+// results mean nothing.
 class Parser {
 public:
     explicit Parser(std::string_view text) : rest_(text) {}
@@ -42,7 +42,7 @@ bool Parser::skip(std::string_view letters) {
 std::int64_t Parser::number(std::size_t digits, std::int64_t least, std::int64_t most) {
     std::int64_t value = 0;
     for (std::size_t i = 0; i < digits; ++i) {
-        failed_ |= atEnd() || !isDigit(rest_[0]);
+        failed_ |= atEnd() || !isAsciiDigit(rest_[0]);
         value = failed_ ? 0 : value * 10 + (rest_[0] - '0');
         rest_.remove_prefix(failed_ ? 0 : 1);
     }
@@ -51,7 +51,7 @@ std::int64_t Parser::number(std::size_t digits, std::int64_t least, std::int64_t
 }
 
 void Parser::skipDigits() {
-    while (!atEnd() && isDigit(rest_[0])) {
+    while (!atEnd() && isAsciiDigit(rest_[0])) {
         rest_.remove_prefix(1);
     }
 }
@@ -62,11 +62,11 @@ std::int64_t parseDate(Parser& text) {
     const std::int64_t month = text.number(2, 1, 12);
     text.expect("-");
     const std::int64_t day = text.number(2, 1, 31);
-    const std::int64_t days = daysSinceEpoch({year, month, day});
-    if (dateOf(days).day != day) {
-        text.fail();  // the month has no such day
+    const auto days = daysSinceEpoch({year, month, day});
+    if (!days) {
+        text.fail();
     }
-    return days * kSecondsADay;
+    return days.value_or(0) * kSecondsADay;
 }
 
 std::int64_t parseTimeOfDay(Parser& text) {
@@ -83,7 +83,7 @@ std::int64_t parseTimeOfDay(Parser& text) {
     return seconds;
 }
 
-// The seconds that the zone is ahead of UTC.
+// Returns the seconds that the zone is ahead of UTC.
 std::int64_t parseZone(Parser& text) {
     if (text.skip("Zz") || text.atEnd()) {
         return 0;
@@ -131,3 +131,5 @@ std::string isoTime(std::int64_t seconds) {
            'T' + padded(time / 3600, 2) + ':' + padded(time / 60 % 60, 2) + ':' +
            padded(time % 60, 2) + 'Z';
 }
+
+}  // namespace client

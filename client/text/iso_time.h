@@ -6,11 +6,16 @@
 #include <string>
 #include <string_view>
 
-// The seconds since the Unix epoch of a date ("2026-03-07": its first second) or of a date
-// and time ("2026-03-07T09:05", with seconds or without, a space for the T): in UTC unless
-// a zone follows ("Z", "+01:00", "+0100", "+01"). Parts of a second are dropped. Nothing
-// when the text is anything else, or names a day that no calendar has.
+namespace client {
+
+// Returns the seconds since the Unix epoch of a date ("2026-03-07": its first second) or of
+// a date and time ("2026-03-07T09:05", with seconds or without, a space for the T): in UTC
+// unless a zone follows ("Z", "+01:00", "+0100", "+01"). Parts of a second are dropped.
+// nullopt if the text is anything else, or names a day that the calendar lacks.
 std::optional<std::int64_t> parseIsoTime(std::string_view text);
 
-// The time in UTC, as "2026-03-07T09:05:00Z". Years before 0 and after 9999 have a sign.
+// Returns the time in UTC, such as "2026-03-07T09:05:00Z". Years before 0 and after 9999
+// have a sign.
 std::string isoTime(std::int64_t seconds);
+
+}  // namespace client

@@ -1,5 +1,7 @@
 #include "client/text/line_breaks.h"
 
+namespace client {
+
 std::string replaced(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
     std::size_t start = 0;
@@ -14,3 +16,5 @@ std::string replaced(std::string_view text, std::string_view from, std::string_v
 std::string withLineFeeds(const std::string& text) {
     return replaced(replaced(replaced(text, "\r\n", "\n"), "\r", "\n"), "\u2028", "\n");
 }
+
+}  // namespace client

@@ -4,10 +4,14 @@
 #include <string>
 #include <string_view>
 
+namespace client {
+
 inline constexpr std::string_view kParagraphEnd = "\u2029";
 
-// The text with `to` for each `from`, which is not empty.
+// Returns the text with `to` for each `from`, which is not empty.
 std::string replaced(std::string_view text, std::string_view from, std::string_view to);
 
-// The text with a line feed for all that breaks a line: CR LF, CR, U+2028.
+// Returns the text with a line feed for each line break: CR LF, CR, U+2028.
 std::string withLineFeeds(const std::string& text);
+
+}  // namespace client

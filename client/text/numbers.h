@@ -1,14 +1,32 @@
-// Numbers as text, whatever the locale.
+// Numbers as text, in every locale.
 #pragma once
 
 #include <charconv>
 #include <limits>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <system_error>
 
-// The shortest decimal text without an exponent that reads back as `number`.
+namespace client {
+
+// Returns the shortest decimal text without an exponent that reads back as `number`.
 inline std::string decimal(double number) {
     char digits[std::numeric_limits<double>::max_exponent10 + 400];
     char* end =
         std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed).ptr;
     return {digits, end};
 }
+
+// Returns the number that all of the text spells, as std::from_chars reads it in `form` (a
+// base, or a format); nullopt if there is none.
+template <class Number, class... Form>
+std::optional<Number> parseNumber(std::string_view text, Form... form) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, number, form...);
+    return parsed.ec == std::errc() && parsed.ptr == end ? std::optional(number)
+                                                         : std::nullopt;
+}
+
+}  // namespace client

@@ -2,8 +2,12 @@
 
 #include "client/text/control_characters.h"
 
+namespace client {
+
 std::string oneLine(const std::string& text) {
-    return replaceSteering(text, [](unsigned /*code*/, std::string_view /*character*/) {
+    return replaceControls(text, [](unsigned /*code*/, std::string_view /*character*/) {
         return std::string(" ");
     });
 }
+
+}  // namespace client

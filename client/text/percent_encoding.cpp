@@ -1,33 +1,23 @@
 #include "client/text/percent_encoding.h"
 
-#include <string_view>
-
+#include "client/text/ascii.h"
 #include "client/text/one_line.h"
 
+namespace client {
 namespace {
 
-constexpr char kDigits[] = "0123456789ABCDEF";
-
-bool isPlainInLink(unsigned char byte) {
-    const bool isAlphanumeric = ('0' <= byte && byte <= '9') ||
-                                ('a' <= byte && byte <= 'z') ||
-                                ('A' <= byte && byte <= 'Z');
-    return isAlphanumeric || std::string_view("/-._~").find(static_cast<char>(byte)) !=
-                                 std::string_view::npos;
+bool isPlainInLink(char byte) {
+    return isAsciiLetter(byte) || isAsciiDigit(byte) ||
+           std::string_view("/-._~").find(byte) != std::string_view::npos;
 }
 
 }  // namespace
 
 std::string linkTo(const std::string& path) {
     const bool isText = oneLine(path) == path;
-    std::string result;
-    for (const char letter : path) {
-        const auto byte = static_cast<unsigned char>(letter);
-        if (isPlainInLink(byte) || (isText && byte >= 0x80)) {
-            result += letter;
-        } else {
-            result.append({'%', kDigits[byte / 16], kDigits[byte % 16]});
-        }
-    }
-    return result;
+    return percentEncoded(path, [isText](unsigned char byte) {
+        return isPlainInLink(static_cast<char>(byte)) || (isText && byte >= 0x80);
+    });
 }
+
+}  // namespace client

@@ -1,8 +1,27 @@
-// References to files.
+// Percent-encoding, RFC 3986.
 #pragma once
 
 #include <string>
+#include <string_view>
 
-// The path as a reference to it, relative when it is. Letters of any language stay
-// readable, unless the path holds what is not UTF-8, or steers a terminal.
+#include "client/text/hexadecimal.h"
+
+namespace client {
+
+// Returns the text with each byte encoded for which `isPlain` is false.
+template <class IsPlain>
+std::string percentEncoded(std::string_view text, const IsPlain& isPlain) {
+    std::string result;
+    for (const char letter : text) {
+        const auto byte = static_cast<unsigned char>(letter);
+        result += isPlain(byte) ? std::string(1, letter)
+                                : '%' + hexadecimal(byte, kUpperHexDigits);
+    }
+    return result;
+}
+
+// Returns a reference to the file at `path`, relative if the path is. Letters of any
+// language stay readable, unless the path is not UTF-8 or holds control characters.
 std::string linkTo(const std::string& path);
+
+}  // namespace client

@@ -15,7 +15,8 @@ DB::~DB() = default;
 namespace Veloran::ReaderLib {
 
 bool DataBase::open(std::string& path) {
-    state = std::make_unique<State>(State{std::filesystem::absolute(path).string()});
+    state = std::make_unique<State>();
+    state->path = std::filesystem::absolute(path).string();
     try {
         state->current();
     } catch (const std::runtime_error&) {  // the result says it; the file may be anything

@@ -12,7 +12,7 @@ struct SqliteCpp::DB::State {
     // opened: it may have been busy for a moment only, and the handle lives for long.
     host::ReaderStore& current() {
         if (store) {
-            store->followFile();
+            store->reopenIfReplaced();
             return *store;
         }
         return store.emplace(path);

@@ -7,8 +7,8 @@
 
 #include "dump/note_json.h"
 #include "store/database_paths.h"
+#include "store/note_prefetch.h"
 #include "store/note_tags.h"
-#include "store/notes_ahead.h"
 #include "store/reader_store.h"
 
 namespace veloran::utilities {
@@ -16,7 +16,7 @@ namespace veloran::utilities {
 struct Sqlite::Connection {
     host::ReaderStore store{host::kReaderDatabasePath};
     host::NoteJson json;
-    host::NotesAhead notes;
+    host::NotePrefetch notes;
 };
 
 void Sqlite::close() {
@@ -44,7 +44,7 @@ std::int64_t noteIdOf(const std::string& key) {
 // with the file that it came from.
 host::ReaderStore& currentStore(Sqlite& connection) {
     host::ReaderStore& store = connected(connection).store;
-    store.followFile();
+    store.reopenIfReplaced();
     return store;
 }
 

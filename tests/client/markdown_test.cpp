@@ -46,15 +46,15 @@ std::string randomText(std::mt19937& random) {
 // XML has no controls but tabs and line breaks.
 std::string inXml(std::string text) {
     for (const std::string_view control : {"\0"sv, "\v"sv, "\f"sv, "\x1B"sv}) {
-        text = replaced(text, control, "\uFFFD");
+        text = client::replaced(text, control, "\uFFFD");
     }
     return text;
 }
 
 // What a reader shall see: paragraphs end with a pilcrow.
 std::string shownOf(const std::string& text) {
-    std::istringstream paragraphs(
-        replaced(withLineFeeds(inXml(host::validUtf8(text))), kParagraphEnd, "\1"));
+    std::istringstream paragraphs(client::replaced(
+        client::withLineFeeds(inXml(host::validUtf8(text))), client::kParagraphEnd, "\1"));
     std::string shown;
     for (std::string paragraph; std::getline(paragraphs, paragraph, '\1');) {
         paragraph.erase(paragraph.find_last_not_of('\n') + 1);
@@ -66,8 +66,9 @@ std::string shownOf(const std::string& text) {
 std::string contentOf(const std::string& element) {
     const std::size_t start = element.find('>') + 1;
     const std::string text = element.substr(start, element.rfind('<') - start);
-    return replaced(
-        replaced(replaced(replaced(text, "&lt;", "<"), "&gt;", ">"), "&quot;", "\""),
+    return client::replaced(
+        client::replaced(client::replaced(client::replaced(text, "&lt;", "<"), "&gt;", ">"),
+                         "&quot;", "\""),
         "&amp;", "&");
 }
 
@@ -90,13 +91,14 @@ std::string rendered(const std::string& markdown) {
 
 // As a heading, in a quotation, and as it stands.
 std::string written(const std::string& text) {
-    return "# " + markdownLine(text) + "\n\n" + markdownParagraphs(text, "> ") + '\n' +
-           markdownParagraphs(text, "") + "\n***\n\n";
+    return "# " + client::markdownLine(text) + "\n\n" +
+           client::markdownParagraphs(text, "> ") + '\n' +
+           client::markdownParagraphs(text, "") + "\n***\n\n";
 }
 
 std::string expected(const std::string& text) {
     const std::string shown = shownOf(text);
-    return "<heading level=\"1\">" + oneLine(text) + "</heading>" +
+    return "<heading level=\"1\">" + client::oneLine(text) + "</heading>" +
            (shown.empty() ? "" : "<block_quote>" + shown + "</block_quote>" + shown);
 }
 

@@ -8,6 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "client/collection/note.h"
+
+namespace client {
+
 enum class ClippingKind { Highlight, Note, Bookmark, Article };
 
 struct ClippingRange {
@@ -16,16 +20,22 @@ struct ClippingRange {
 };
 
 struct Clipping {
-    std::string title;
-    std::string author;
-    ClippingKind kind = ClippingKind::Highlight;
-    std::optional<ClippingRange> page;  // nothing for Roman numerals, too
-    std::optional<ClippingRange> location;
-    std::int64_t timestamp = 0;  // 0: unknown
-    std::string text;
-    bool hasLimitMessage = false;  // in place of the passage
+    std::string title = {};
+    std::string author = {};
+    std::optional<ClippingKind> kind = {};
+    std::optional<ClippingRange> page = {};  // nullopt also for Roman numerals
+    std::optional<ClippingRange> location = {};
+    Note note = {};                // text and time; passages.h adds comments
+    bool hasLimitMessage = false;  // instead of the passage
+
+    // Set by passages.h.
+    std::size_t origin = 0;         // the index of the clipping whose identity it has
+    std::size_t latestComment = 0;  // the offset of the latest remark in the comment
+    bool isDropped = false;         // it lives on in another clipping
 };
 
-// Reads the lines of one record, without the line that ends it. Nothing when they are no
-// record.
+// Reads the lines of one record, without the line that ends it. Returns nullopt if they are
+// not a record.
 std::optional<Clipping> parseClipping(const std::vector<std::string_view>& lines);
+
+}  // namespace client

@@ -5,67 +5,63 @@
 
 #include "client/sources/clippings/passages.h"
 
+namespace client {
 namespace {
 
-std::string shown(const std::optional<ClippingRange>& range) {
+std::string rangeText(const std::optional<ClippingRange>& range) {
     return range ? std::to_string(range->first) + '-' + std::to_string(range->last) : "";
 }
 
-std::string uuidOf(const std::string& book, const Clipping& clipping) {
-    return derivedName({book, std::to_string(static_cast<int>(clipping.kind)),
-                        shown(clipping.location), shown(clipping.page),
-                        std::to_string(clipping.timestamp)});
+Identity identityOf(const Clipping& clipping) {
+    return {std::to_string(static_cast<int>(clipping.kind.value())),
+            rangeText(clipping.location), rangeText(clipping.page),
+            std::to_string(clipping.note.time)};
 }
 
-SourceNote noteOf(Passage passage) {
-    SourceNote note;
-    note.uuid = std::move(passage.uuid);
-    if (passage.record.page) {
-        note.page = static_cast<double>(passage.record.page->first);
-    }
-    note.text = std::move(passage.record.text);
-    note.comment = std::move(passage.comment);
-    note.timestamp = passage.record.timestamp;
-    note.commentTimestamp = passage.commentTimestamp;
-    return note;
-}
-
-std::int64_t place(const Passage& passage) {
-    const Clipping& record = passage.record;
-    const auto& range = record.location ? record.location : record.page;
+std::int64_t position(const Clipping& clipping) {
+    const auto& range = clipping.location ? clipping.location : clipping.page;
     return range ? range->first : 0;
+}
+
+std::vector<std::size_t> remainingByPosition(const std::vector<Clipping>& clippings) {
+    std::vector<std::size_t> indices;
+    for (std::size_t i = 0; i < clippings.size(); ++i) {
+        if (!clippings[i].isDropped) {
+            indices.push_back(i);
+        }
+    }
+    std::stable_sort(indices.begin(), indices.end(), [&](std::size_t a, std::size_t b) {
+        return position(clippings[a]) < position(clippings[b]);
+    });
+    return indices;
+}
+
+void shelve(ShelvedBook& book, std::vector<Clipping> clippings) {
+    dropSuperseded(clippings);
+    attachNotes(clippings);
+    for (const std::size_t index : remainingByPosition(clippings)) {
+        Clipping& clipping = clippings[index];
+        const Identity identity = identityOf(clippings[clipping.origin]);
+        if (clipping.page) {
+            clipping.note.page = static_cast<double>(clipping.page->first);
+        }
+        book.add(std::move(clipping.note), identity);
+    }
 }
 
 }  // namespace
 
 void ClippingNotes::add(Clipping clipping) {
-    const std::size_t book = shelf_.bookOf(clipping.title, clipping.author);
-    records_.resize(std::max(records_.size(), book + 1));
-    records_[book].push_back(std::move(clipping));
+    ShelvedBook& book = shelf_.book(clipping.title, clipping.author);
+    clippings_[&book].push_back(std::move(clipping));
 }
 
-void ClippingNotes::shelve(std::size_t book, std::vector<Clipping> records) {
-    std::vector<Passage> passages;
-    for (Clipping& record : records) {
-        std::string uuid = uuidOf(shelf_.hashOf(book), record);
-        passages.push_back({std::move(record), std::move(uuid)});
+std::vector<IncomingBook> ClippingNotes::take() {
+    for (auto& [book, clippings] : clippings_) {
+        shelve(*book, std::move(clippings));
     }
-    dropSuperseded(passages);
-    attachNotes(passages);
-    std::stable_sort(
-        passages.begin(), passages.end(),
-        [](const Passage& a, const Passage& b) { return place(a) < place(b); });
-    for (Passage& passage : passages) {
-        if (!passage.isDropped) {
-            shelf_.add(book, noteOf(std::move(passage)));
-        }
-    }
-}
-
-std::vector<SourceBook> ClippingNotes::take() {
-    for (std::size_t book = 0; book < records_.size(); ++book) {
-        shelve(book, std::exchange(records_[book], {}));
-    }
-    records_.clear();
+    clippings_.clear();
     return shelf_.take();
 }
+
+}  // namespace client

@@ -7,8 +7,8 @@
 #include "client/files/whole_file.h"
 #include "client/sources/clippings/clipping.h"
 #include "client/sources/clippings/clipping_notes.h"
-#include "client/sources/content/book_shelf.h"
 
+namespace client {
 namespace {
 
 constexpr std::string_view kEndOfRecord = "==========";
@@ -17,7 +17,7 @@ std::string_view withoutEnding(std::string_view line) {
     return line.substr(0, line.find_last_not_of("\r ") + 1);
 }
 
-// Hands out the records of a text: their lines, and where they start.
+// Goes through the records of a text: their lines, and where they start.
 class Records {
 public:
     explicit Records(std::string_view text) : rest_(text) {}
@@ -92,3 +92,5 @@ SourceContent readClippings(const std::string& path) {
     content.books = notes.take();
     return content;
 }
+
+}  // namespace client

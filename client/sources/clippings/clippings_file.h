@@ -4,9 +4,13 @@
 #include <string>
 #include <string_view>
 
-#include "client/sources/source.h"
+#include "client/sources/content/source_content.h"
+
+namespace client {
 
 bool isClippings(std::string_view start);
 
 // Records without an end or a known form are skipped.
 SourceContent readClippings(const std::string& path);
+
+}  // namespace client

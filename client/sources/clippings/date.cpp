@@ -8,6 +8,7 @@
 #include "client/sources/clippings/words.h"
 #include "client/text/calendar.h"
 
+namespace client {
 namespace {
 
 namespace words = clipping_words;
@@ -29,7 +30,7 @@ Months monthsByName() {
     return months;
 }
 
-// 0 when the text names none.
+// Returns 0 if the text names no month.
 int monthNamedIn(std::string_view text) {
     static const Months kMonths = monthsByName();
     constexpr std::string_view kAround = " .,:;0123456789";
@@ -44,7 +45,7 @@ int monthNamedIn(std::string_view text) {
     return 0;
 }
 
-// What is read from the numbers of the text, one after the other.
+// A date and a time, while the numbers of the text are read one after the other.
 struct Moment {
     std::int64_t year = -1;
     std::int64_t month = 0;
@@ -54,16 +55,16 @@ struct Moment {
     std::string_view afterTime = {};
 };
 
-void take(Moment& moment, const NumberInText& number) {
+void addNumber(Moment& moment, const NumberInText& number) {
     constexpr std::int64_t kFactors[] = {3600, 60, 1};
     const bool isTime =
-        number.rest.substr(0, 1) == ":" || (moment.partsOfTime > 0 && number.before == ':');
+        startsWith(number.rest, ":") || (moment.partsOfTime > 0 && number.before == ':');
     if (isTime && number.digits <= 2 && moment.partsOfTime < 3) {
         moment.seconds += number.value * kFactors[moment.partsOfTime++];
         moment.afterTime = number.rest;
     } else if (number.digits == 4 && moment.year < 0) {
         moment.year = number.value;
-    } else if (number.rest.substr(0, 3) == "月") {
+    } else if (startsWith(number.rest, "月")) {
         moment.month = number.value;
     } else if (number.digits <= 2 && moment.day == 0) {
         moment.day = number.value;
@@ -90,16 +91,16 @@ std::int64_t secondsOfDay(const Moment& moment, std::string_view text) {
 std::optional<std::int64_t> parseClippingDate(const std::string& text) {
     Moment moment;
     for (std::size_t at = 0; const auto number = nextNumber(text, at);) {
-        take(moment, *number);
+        addNumber(moment, *number);
     }
     if (moment.month == 0) {
         moment.month = monthNamedIn(text);
     }
-    if (moment.year < 0 || moment.month < 1 || moment.month > 12 || moment.day < 1 ||
-        moment.day > 31) {
-        return std::nullopt;
-    }
     constexpr std::int64_t kDay = 86400;
-    return daysSinceEpoch({moment.year, moment.month, moment.day}) * kDay +
-           secondsOfDay(moment, text) % kDay;
+    const auto days = daysSinceEpoch({moment.year, moment.month, moment.day});
+    return moment.year < 0 || !days
+               ? std::nullopt
+               : std::optional(*days * kDay + secondsOfDay(moment, text) % kDay);
 }
+
+}  // namespace client

@@ -1,10 +1,14 @@
-// When a clipping was made, as readers of many languages write it.
+// The date of a clipping, as readers of many languages write it.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
 
-// The reader's local time, as if it were UTC, in seconds since the Unix epoch. `text` is
-// compatibly folded. Nothing when it has no date that can be read.
+namespace client {
+
+// Returns the reader's local time, as if it were UTC, in seconds since the Unix epoch;
+// nullopt if there is no date, or none of the calendar. `text` is folded by caseFoldedNfkc.
 std::optional<std::int64_t> parseClippingDate(const std::string& text);
+
+}  // namespace client

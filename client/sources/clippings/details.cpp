@@ -8,8 +8,10 @@
 #include "client/sources/clippings/matching.h"
 #include "client/sources/clippings/numbers.h"
 #include "client/sources/clippings/words.h"
+#include "client/text/affixes.h"
 #include "client/text/case_folding.h"
 
+namespace client {
 namespace {
 
 namespace words = clipping_words;
@@ -36,19 +38,16 @@ std::int64_t completed(std::int64_t last, std::size_t digits, std::int64_t first
 }
 
 std::optional<NumberInText> endOfRange(const NumberInText& first) {
-    for (const std::string_view dash : {"-", "\u2013", "\u2014"}) {
-        if (first.rest.substr(0, dash.size()) == dash) {
-            std::size_t at = dash.size();
-            const auto last = nextNumber(first.rest, at);
-            return last && last->place == dash.size() ? last : std::nullopt;
-        }
-    }
-    return std::nullopt;
+    constexpr std::string_view kDashes[] = {"-", "\u2013", "\u2014"};
+    const std::size_t dash = prefixLength(first.rest, kDashes);
+    std::size_t at = dash;
+    const auto last = dash > 0 ? nextNumber(first.rest, at) : std::nullopt;
+    return last && last->offset == dash ? last : std::nullopt;
 }
 
 struct RangeInText {
     ClippingRange range;
-    std::size_t place;
+    std::size_t offset;
     std::string_view rest;
 };
 
@@ -57,7 +56,7 @@ std::optional<RangeInText> nextRange(std::string_view text, std::size_t& at) {
     if (!first) {
         return std::nullopt;
     }
-    RangeInText found{{first->value, first->value}, first->place, first->rest};
+    RangeInText found{{first->value, first->value}, first->offset, first->rest};
     if (const auto last = endOfRange(*first)) {
         found.range.last = completed(last->value, last->digits, first->value);
         found.rest = last->rest;
@@ -66,7 +65,7 @@ std::optional<RangeInText> nextRange(std::string_view text, std::size_t& at) {
     return found;
 }
 
-// Whether the text ends in the word, with another ending of it or "No." behind.
+// Returns whether the text ends in the word, with another ending of it or "No." behind.
 template <class Words>
 bool endsWithOneOf(std::string_view text, const Words& list) {
     constexpr std::size_t kLongestEnding = 24;
@@ -88,52 +87,56 @@ std::optional<ClippingKind> kindIn(const std::string& text) {
                                               : std::nullopt;
 }
 
-void takeRanges(const std::string& part, ClippingDetails& details, Ranges& unnamed) {
-    const std::string_view text(part);
+// Returns the ranges of which no word says what they are.
+Ranges takeRanges(std::string_view text, Clipping& clipping) {
+    Ranges unnamed;
     for (std::size_t at = 0; const auto found = nextRange(text, at);) {
-        const std::string_view before = text.substr(0, found->place);
+        const std::string_view before = text.substr(0, found->offset);
         if (startsWithOneOf(found->rest, words::kAfterPage) ||
             endsWithOneOf(before, words::kBeforePage)) {
-            details.page = found->range;
+            clipping.page = found->range;
         } else if (endsWithOneOf(before, words::kBeforeLocation)) {
-            details.location = found->range;
+            clipping.location = found->range;
         } else {
             unnamed.push_back(found->range);
         }
     }
+    return unnamed;
 }
 
 // In a language that is not known, the page stands before the location.
-void guessPlaces(const Ranges& ranges, ClippingDetails& details) {
+void guessPlaces(const Ranges& ranges, Clipping& clipping) {
     if (ranges.size() > 1) {
-        details.page = ranges.front();
+        clipping.page = ranges.front();
     }
     if (!ranges.empty()) {
-        details.location = ranges.back();
+        clipping.location = ranges.back();
     }
 }
 
 }  // namespace
 
-std::optional<ClippingDetails> parseDetails(std::string_view line) {
-    if (line.substr(0, 1) != "-") {
+std::optional<Clipping> parseDetails(std::string_view line) {
+    if (!startsWith(line, "-")) {
         return std::nullopt;
     }
-    std::vector<std::string> rest = parts(compatiblyFolded(std::string(line.substr(1))));
-    ClippingDetails details;
+    std::vector<std::string> rest = parts(caseFoldedNfkc(std::string(line.substr(1))));
+    Clipping clipping;
     if (const auto date = parseClippingDate(rest.back())) {
-        details.timestamp = *date;
+        clipping.note.time = *date;
         rest.pop_back();
     }
     Ranges unnamed;
     for (const std::string& part : rest) {
         const bool mayBeDate = rest.size() > 1 && &part == &rest.back();
-        Ranges ignored;
-        details.kind = details.kind ? details.kind : kindIn(part);
-        takeRanges(part, details, mayBeDate ? ignored : unnamed);
+        clipping.kind = clipping.kind ? clipping.kind : kindIn(part);
+        const Ranges here = takeRanges(part, clipping);
+        unnamed.insert(unnamed.end(), here.begin(), mayBeDate ? here.begin() : here.end());
     }
-    if (!details.page && !details.location && !details.kind) {
-        guessPlaces(unnamed, details);
+    if (!clipping.page && !clipping.location && !clipping.kind) {
+        guessPlaces(unnamed, clipping);
     }
-    return details;
+    return clipping;
 }
+
+}  // namespace client

@@ -1,18 +1,15 @@
-// The second line of a record of a clippings file: what it is, where, and when.
+// The second line of a record of a clippings file: kind, place and time.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
 #include "client/sources/clippings/clipping.h"
 
-struct ClippingDetails {
-    std::optional<ClippingKind> kind;  // nothing in a language that is not known
-    std::optional<ClippingRange> page;
-    std::optional<ClippingRange> location;
-    std::int64_t timestamp = 0;  // 0: unknown
-};
+namespace client {
 
-// Nothing when the line is none, that is, does not start with a dash.
-std::optional<ClippingDetails> parseDetails(std::string_view line);
+// Returns a clipping without title and text, and in an unknown language without kind;
+// nullopt if the line does not start with a dash.
+std::optional<Clipping> parseDetails(std::string_view line);
+
+}  // namespace client

@@ -1,8 +1,12 @@
-// Looking for one of several words.
+// Looks for one of several words.
 #pragma once
 
 #include <algorithm>
 #include <string_view>
+
+#include "client/text/affixes.h"
+
+namespace client {
 
 template <class Words>
 bool hasOneOf(std::string_view text, const Words& words) {
@@ -15,7 +19,7 @@ bool hasOneOf(std::string_view text, const Words& words) {
 template <class Words>
 bool startsWithOneOf(std::string_view text, const Words& words) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return std::any_of(words.begin(), words.end(), [text](std::string_view word) {
-        return text.substr(0, word.size()) == word;
-    });
+    return prefixLength(text, words) > 0;
 }
+
+}  // namespace client

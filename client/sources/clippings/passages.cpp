@@ -10,21 +10,21 @@
 #include <set>
 #include <utility>
 
+namespace client {
 namespace {
 
 enum class Unit { Location, Page };
 
-// Where the passage is. Pages count only for passages without a location.
-std::optional<ClippingRange> rangeOf(const Passage& passage, Unit unit) {
-    const Clipping& record = passage.record;
-    return unit == Unit::Location ? record.location
-           : record.location      ? std::nullopt
-                                  : record.page;
+// Pages count only for clippings without a location.
+std::optional<ClippingRange> rangeOf(const Clipping& clipping, Unit unit) {
+    return unit == Unit::Location ? clipping.location
+           : clipping.location    ? std::nullopt
+                                  : clipping.page;
 }
 
-bool isMarked(const Passage& passage) {
-    return !passage.isDropped && (passage.record.kind == ClippingKind::Highlight ||
-                                  passage.record.kind == ClippingKind::Article);
+bool isMarked(const Clipping& passage) {
+    return !passage.isDropped && (passage.kind == ClippingKind::Highlight ||
+                                  passage.kind == ClippingKind::Article);
 }
 
 // In time that grows with the length of the texts.
@@ -32,11 +32,11 @@ bool contains(const std::string& text, const std::string& part) {
     return memmem(text.data(), text.size(), part.data(), part.size()) != nullptr;
 }
 
-bool supersedes(const Passage& later, const Passage& earlier, Unit unit) {
+bool supersedes(const Clipping& later, const Clipping& earlier, Unit unit) {
     const auto whole = rangeOf(later, unit);
     const auto part = rangeOf(earlier, unit);
     return isMarked(earlier) && part->first >= whole->first && part->last <= whole->last &&
-           contains(later.record.text, earlier.record.text);
+           contains(later.note.text, earlier.note.text);
 }
 
 // The passages that were marked last from each start, and to each end.
@@ -44,53 +44,54 @@ class Latest {
 public:
     explicit Latest(Unit unit) : unit_(unit) {}
 
-    void drop(std::vector<Passage>& passages, std::size_t later) {
-        Passage& passage = passages[later];
+    void drop(std::vector<Clipping>& passages, std::size_t later) {
+        Clipping& passage = passages[later];
         const auto range = rangeOf(passage, unit_);
         if (!range || !isMarked(passage)) {
             return;
         }
-        for (std::size_t* latest :
-             {&place(byStart_, range->first, later), &place(byEnd_, range->last, later)}) {
-            Passage& earlier = passages[std::exchange(*latest, later)];
+        for (std::size_t* latest : {&latestAt(byStart_, range->first, later),
+                                    &latestAt(byEnd_, range->last, later)}) {
+            Clipping& earlier = passages[std::exchange(*latest, later)];
             if (&earlier != &passage && supersedes(passage, earlier, unit_)) {
                 earlier.isDropped = true;
-                passage.uuid = earlier.uuid;
+                passage.origin = earlier.origin;
             }
         }
     }
 
 private:
-    using ByPlace = std::map<std::int64_t, std::size_t>;
+    using ByPosition = std::map<std::int64_t, std::size_t>;
 
-    static std::size_t& place(ByPlace& places, std::int64_t number, std::size_t latest) {
-        return places.try_emplace(number, latest).first->second;
+    static std::size_t& latestAt(ByPosition& positions, std::int64_t position,
+                                 std::size_t latest) {
+        return positions.try_emplace(position, latest).first->second;
     }
 
     const Unit unit_;
-    ByPlace byStart_;
-    ByPlace byEnd_;
+    ByPosition byStart_;
+    ByPosition byEnd_;
 };
 
 // A note that holds the one before is a new version of it.
-void addComment(Passage& passage, const Passage& note) {
-    const std::string& text = note.record.text;
-    std::string& comment = passage.comment;
+void addComment(Clipping& passage, const Clipping& note) {
+    const std::string& text = note.note.text;
+    std::string& comment = passage.note.comment;
     if (!contains(text, comment.substr(passage.latestComment))) {
         comment += "\u2029";  // PARAGRAPH SEPARATOR
         passage.latestComment = comment.size();
     }
     comment.replace(passage.latestComment, std::string::npos, text);
-    passage.commentTimestamp = std::max(passage.commentTimestamp, note.record.timestamp);
+    passage.note.commentTime = std::max(passage.note.commentTime, note.note.time);
 }
 
-// Goes through the text once, and knows which passages hold the place where it is.
+// Goes through the book once, and knows which passages hold the current position.
 class Sweep {
 public:
-    Sweep(const std::vector<Passage>& passages, Unit unit);
+    Sweep(const std::vector<Clipping>& passages, Unit unit);
 
-    // The passage that holds the place of the note; places must not go back.
-    std::optional<std::size_t> passageAt(std::int64_t place, std::size_t note);
+    // Returns the passage for the note at this position; positions must not go back.
+    std::optional<std::size_t> passageAt(std::int64_t position, std::size_t note);
 
 private:
     struct Marked {
@@ -98,7 +99,7 @@ private:
         std::size_t passage;
     };
 
-    void goTo(std::int64_t place);
+    void goTo(std::int64_t position);
 
     std::vector<Marked> ahead_;  // the next one last
     std::set<std::size_t> here_;
@@ -106,7 +107,7 @@ private:
     std::priority_queue<End, std::vector<End>, std::greater<>> ends_;
 };
 
-Sweep::Sweep(const std::vector<Passage>& passages, Unit unit) {
+Sweep::Sweep(const std::vector<Clipping>& passages, Unit unit) {
     for (std::size_t i = 0; i < passages.size(); ++i) {
         if (const auto range = rangeOf(passages[i], unit); range && isMarked(passages[i])) {
             ahead_.push_back({*range, i});
@@ -117,18 +118,18 @@ Sweep::Sweep(const std::vector<Passage>& passages, Unit unit) {
     });
 }
 
-void Sweep::goTo(std::int64_t place) {
-    for (; !ahead_.empty() && ahead_.back().range.first <= place; ahead_.pop_back()) {
+void Sweep::goTo(std::int64_t position) {
+    for (; !ahead_.empty() && ahead_.back().range.first <= position; ahead_.pop_back()) {
         here_.insert(ahead_.back().passage);
         ends_.emplace(ahead_.back().range.last, ahead_.back().passage);
     }
-    for (; !ends_.empty() && ends_.top().first < place; ends_.pop()) {
+    for (; !ends_.empty() && ends_.top().first < position; ends_.pop()) {
         here_.erase(ends_.top().second);
     }
 }
 
-std::optional<std::size_t> Sweep::passageAt(std::int64_t place, std::size_t note) {
-    goTo(place);
+std::optional<std::size_t> Sweep::passageAt(std::int64_t position, std::size_t note) {
+    goTo(position);
     if (here_.empty()) {
         return std::nullopt;
     }
@@ -137,10 +138,10 @@ std::optional<std::size_t> Sweep::passageAt(std::int64_t place, std::size_t note
 }
 
 // The user's notes that stand alone so far and have a place in the unit, by place.
-std::vector<std::size_t> notesByPlace(const std::vector<Passage>& passages, Unit unit) {
+std::vector<std::size_t> notesByPosition(const std::vector<Clipping>& passages, Unit unit) {
     std::vector<std::size_t> notes;
     for (std::size_t i = 0; i < passages.size(); ++i) {
-        if (passages[i].record.kind == ClippingKind::Note && !passages[i].isDropped &&
+        if (passages[i].kind == ClippingKind::Note && !passages[i].isDropped &&
             rangeOf(passages[i], unit)) {
             notes.push_back(i);
         }
@@ -153,7 +154,10 @@ std::vector<std::size_t> notesByPlace(const std::vector<Passage>& passages, Unit
 
 }  // namespace
 
-void dropSuperseded(std::vector<Passage>& passages) {
+void dropSuperseded(std::vector<Clipping>& passages) {
+    for (std::size_t i = 0; i < passages.size(); ++i) {
+        passages[i].origin = i;
+    }
     for (const Unit unit : {Unit::Location, Unit::Page}) {
         Latest latest(unit);
         for (std::size_t i = 0; i < passages.size(); ++i) {
@@ -162,20 +166,22 @@ void dropSuperseded(std::vector<Passage>& passages) {
     }
 }
 
-void attachNotes(std::vector<Passage>& passages) {
+void attachNotes(std::vector<Clipping>& passages) {
     for (const Unit unit : {Unit::Location, Unit::Page}) {
         Sweep sweep(passages, unit);
-        for (const std::size_t note : notesByPlace(passages, unit)) {
-            const std::int64_t place = rangeOf(passages[note], unit)->first;
-            if (const auto passage = sweep.passageAt(place, note)) {
+        for (const std::size_t note : notesByPosition(passages, unit)) {
+            const std::int64_t position = rangeOf(passages[note], unit)->first;
+            if (const auto passage = sweep.passageAt(position, note)) {
                 addComment(passages[*passage], passages[note]);
                 passages[note].isDropped = true;
             }
         }
     }
-    for (Passage& passage : passages) {
-        if (passage.record.kind == ClippingKind::Note) {
-            passage.comment = std::exchange(passage.record.text, {});
+    for (Clipping& passage : passages) {
+        if (passage.kind == ClippingKind::Note) {
+            passage.note.comment = std::exchange(passage.note.text, {});
         }
     }
 }
+
+}  // namespace client

@@ -1,9 +1,11 @@
-// What readers of many languages write into clippings files, as compatiblyFolded makes it;
-// where a word has several endings, its start.
+// The words of clippings files in many languages, folded by caseFoldedNfkc. A word with
+// several endings is cut to its start.
 #pragma once
 
 #include <array>
 #include <string_view>
+
+namespace client {
 
 namespace clipping_words {
 
@@ -49,3 +51,5 @@ inline constexpr std::array<std::string_view, 12> kMonths = {
     "december dec dezember décembre diciembre dezembro dicembre декабря декабрь"};
 
 }  // namespace clipping_words
+
+}  // namespace client

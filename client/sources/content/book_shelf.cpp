@@ -4,55 +4,69 @@
 
 #include <utility>
 
-std::string derivedName(const std::vector<std::string_view>& parts) {
-    constexpr char kDigits[] = "0123456789abcdef";
+#include "client/text/hexadecimal.h"
+
+namespace client {
+namespace {
+
+// Returns hexadecimal digits that depend on the parts alone.
+std::string derivedId(const std::vector<std::string_view>& parts) {
     std::string bytes;
     for (const std::string_view part : parts) {
         bytes.append(&part == parts.data() ? 0 : 1, '\0').append(part);
     }
     XXH128_canonical_t hash;
     XXH128_canonicalFromHash(&hash, XXH3_128bits(bytes.data(), bytes.size()));
-    std::string name;
-    for (const unsigned byte : hash.digest) {
-        name += kDigits[byte >> 4U];
-        name += kDigits[byte & 15U];
+    std::string id;
+    for (const unsigned char byte : hash.digest) {
+        id += hexadecimal(byte);
     }
-    return name;
+    return id;
 }
 
-std::size_t BookShelf::bookOf(const std::string& title, const std::string& author) {
-    return bookNamed(derivedName({title, author}), title, author);
+std::string derivedUuid(const std::string& bookHash, const Identity& identity) {
+    std::vector<std::string_view> parts = {bookHash};
+    parts.insert(parts.end(), identity.begin(), identity.end());
+    return derivedId(parts);
 }
 
-std::size_t BookShelf::bookNamed(const std::string& hash, const std::string& title,
-                                 const std::string& author) {
-    const auto [entry, isNew] = places_.try_emplace(hash, books_.size());
-    if (isNew) {
-        books_.push_back({{hash, title, "", {}}, author});
-        notes_.emplace_back();
+}  // namespace
+
+void ShelvedBook::add(Note note, const Identity& identity) {
+    if (note.uuid.empty()) {
+        note.uuid = derivedUuid(content_.book.hash, identity);
     }
-    return entry->second;
-}
-
-const std::string& BookShelf::hashOf(std::size_t place) const {
-    return books_[place].record.fastHash;
-}
-
-void BookShelf::add(std::size_t place, SourceNote note) {
-    auto& notes = notes_[place];
     const std::string content =
-        derivedName({note.text, note.comment, note.color, note.image});
-    const auto taken = notes.find(note.uuid);
-    if (taken != notes.end() && taken->second != content) {
-        note.uuid = derivedName({note.uuid, content});
+        derivedId({note.text, note.comment, note.color, note.picture});
+    const auto taken = contents_.find(note.uuid);
+    if (taken != contents_.end() && taken->second != content) {
+        note.uuid = derivedId({note.uuid, content});
     }
-    if (notes.emplace(note.uuid, content).second) {
-        books_[place].record.notes.push_back(noteRecord(std::move(note)));
+    if (contents_.emplace(note.uuid, content).second) {
+        content_.notes.push_back(std::move(note));
     }
 }
 
-std::vector<SourceBook> BookShelf::take() {
-    notes_.clear();
-    places_.clear();
-    return std::exchange(books_, {});
+ShelvedBook& BookShelf::book(const std::string& title, const std::string& author) {
+    return book(derivedId({title, author}), title, author);
 }
+
+ShelvedBook& BookShelf::book(const std::string& hash, const std::string& title,
+                             const std::string& author) {
+    ShelvedBook*& book = byHash_[hash];
+    if (book == nullptr) {
+        book = &books_.emplace_back(Book{hash, title, author, ""});
+    }
+    return *book;
+}
+
+std::vector<IncomingBook> BookShelf::take() {
+    std::vector<IncomingBook> content;
+    content.reserve(books_.size());
+    for (ShelvedBook& book : books_) {
+        content.push_back(book.take());
+    }
+    return content;
+}
+
+}  // namespace client

@@ -1,40 +1,52 @@
-// The books of a file whose books and notes have no names of their own.
+// The books of a file, while it is read.
 #pragma once
 
-#include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
-#include "client/collection/note.h"
-#include "client/sources/source.h"
+#include "client/collection/incoming_books.h"
 
-// A name for what a file does not name, as hexadecimal digits: equal parts give equal
-// names, on every machine.
-std::string derivedName(const std::vector<std::string_view>& parts);
+namespace client {
 
-class BookShelf {
+// What distinguishes a note without a uuid from the other notes of its book.
+using Identity = std::vector<std::string>;
+
+// A book to which notes are added.
+class ShelvedBook {
 public:
-    // The place of the book of that title and author, which give it its hash.
-    std::size_t bookOf(const std::string& title, const std::string& author);
+    explicit ShelvedBook(Book book) : content_{std::move(book), {}, {}} {}
 
-    // The same of a book whose hash is known.
-    std::size_t bookNamed(const std::string& hash, const std::string& title,
-                          const std::string& author);
+    // Adds the note. If it has no uuid, one is derived from the book and `identity`, equal
+    // on every machine. If the book has the uuid already, the note is dropped if it says
+    // the same, and gets a uuid derived from its content if it does not.
+    void add(Note note, const Identity& identity);
 
-    const std::string& hashOf(std::size_t place) const;
-
-    // Adds the note to the book at `place`. If the book has its uuid already, the note is
-    // dropped when it says the same, and gets a uuid derived from its text when it does
-    // not.
-    void add(std::size_t place, SourceNote note);
-
-    // The books, in the order in which they were asked for. Leaves none behind.
-    std::vector<SourceBook> take();
+    IncomingBook take() { return std::move(content_); }
 
 private:
-    std::vector<SourceBook> books_;
-    std::vector<std::unordered_map<std::string, std::string>> notes_;  // content, by uuid
-    std::unordered_map<std::string, std::size_t> places_;              // by hash
+    IncomingBook content_;
+    std::unordered_map<std::string, std::string> contents_;  // of the notes, by uuid
 };
+
+// References to its books stay valid.
+class BookShelf {
+public:
+    // Returns the book of that title and author, which give it its hash.
+    ShelvedBook& book(const std::string& title, const std::string& author);
+
+    // Returns the book of that hash.
+    ShelvedBook& book(const std::string& hash, const std::string& title,
+                      const std::string& author);
+
+    // Takes the books, in the order in which they came.
+    std::vector<IncomingBook> take();
+
+private:
+    std::deque<ShelvedBook> books_;
+    std::unordered_map<std::string, ShelvedBook*> byHash_;
+};
+
+}  // namespace client

@@ -3,8 +3,10 @@
 #include "client/text/first_few.h"
 #include "client/text/one_line.h"
 
+namespace client {
+
 void SkippedRecords::add(const std::string& record) {
-    if (first_.size() < kMostNamed) {
+    if (first_.size() < kMaxNamed) {
         first_.push_back(oneLine(record));
     }
     ++count_;
@@ -16,3 +18,5 @@ std::string SkippedRecords::summary(const std::string& file) const {
     }
     return "Not everything in " + file + " could be read:\n" + firstFew(first_, count_);
 }
+
+}  // namespace client

@@ -13,6 +13,7 @@
 #include "client/sources/device_file/json_object.h"
 #include "store/book_hash.h"
 
+namespace client {
 namespace {
 
 Json::Value parse(const std::string& text, const std::string& path) {
@@ -28,14 +29,15 @@ Json::Value parse(const std::string& text, const std::string& path) {
     } catch (const Json::Exception& error) {  // nested too deep
         errors = error.what();
     }
-    throw Complaint(path + " is not JSON that a device file may hold:\n" + errors);
+    throw UserError(path + " is not JSON that a device file may hold:\n" + errors);
 }
 
 std::string numbered(const std::string& kind, std::size_t number) {
     return kind + std::to_string(number);
 }
 
-// Complains when two of the things in the object have one name, which is their `member`.
+// Throws UserError if two of the things in the object have one name, which is their
+// `member`.
 template <class Things, class Name>
 void checkNames(const JsonObject& object, const Things& things, Name name, const char* kind,
                 const char* member) {
@@ -44,8 +46,8 @@ void checkNames(const JsonObject& object, const Things& things, Name name, const
         const std::size_t number = numbers.size() + 1;
         const auto [first, isNew] = numbers.try_emplace(name(thing), number);
         if (!isNew) {
-            object.complain(numbered(kind, first->second) + numbered(" and ", number) +
-                            " have one " + member);
+            object.fail(numbered(kind, first->second) + numbered(" and ", number) +
+                        " have one " + member);
         }
     }
 }
@@ -53,46 +55,46 @@ void checkNames(const JsonObject& object, const Things& things, Name name, const
 std::string readHash(JsonObject& object) {
     std::string hash = object.requiredText("hash");
     if (!host::isBookHash(hash)) {
-        object.complain("expected pairs of hexadecimal digits, in lower case, as \"hash\"");
+        object.fail("expected pairs of hexadecimal digits, in lower case, as \"hash\"");
     }
     return hash;
 }
 
-host::NoteRecord readNote(const Json::Value& json, const std::string& place,
-                          const std::filesystem::path& folder) {
+Note readNote(const Json::Value& json, const std::string& place,
+              const std::filesystem::path& folder) {
     JsonObject object(json, place);
-    SourceNote note;
-    note.timestamp = object.integer("timestamp").value_or(0);
+    Note note;
+    note.time = object.integer("timestamp").value_or(0);
     note.uuid = object.requiredText("uuid");
     note.page = object.number("page");
     note.color = object.text("color");
     note.text = object.text("text");
     note.comment = object.text("comment");
-    note.image = object.file("image", folder).value_or("");
-    object.complainAboutUnknownMembers();
-    return noteRecord(std::move(note));
+    note.picture = object.file("image", folder).value_or("");
+    object.requireNoOtherMembers();
+    return note;
 }
 
-std::vector<host::NoteRecord> readNotes(JsonObject& book, const std::string& place,
-                                        const std::filesystem::path& folder) {
-    std::vector<host::NoteRecord> notes;
+std::vector<Note> readNotes(JsonObject& book, const std::string& place,
+                            const std::filesystem::path& folder) {
+    std::vector<Note> notes;
     for (const Json::Value& note : book.array("notes")) {
         const std::string notePlace = numbered(place + ", note ", notes.size() + 1);
         notes.push_back(readNote(note, notePlace, folder));
     }
-    const auto uuid = [](const host::NoteRecord& note) -> const auto& { return note.uuid; };
+    const auto uuid = [](const Note& note) -> const auto& { return note.uuid; };
     checkNames(book, notes, uuid, "notes ", "uuid");
     return notes;
 }
 
-SourceBook readBook(const Json::Value& json, const std::string& place,
-                    const std::filesystem::path& folder) {
+IncomingBook readBook(const Json::Value& json, const std::string& place,
+                      const std::filesystem::path& folder) {
     JsonObject object(json, place);
-    SourceBook book;
-    book.record = {readHash(object), object.text("title"), object.text("path"), {}};
-    book.author = object.text("author");
-    book.record.notes = readNotes(object, place, folder);
-    object.complainAboutUnknownMembers();
+    IncomingBook book;
+    book.book = {readHash(object), object.text("title"), object.text("author"),
+                 object.text("path")};
+    book.notes = readNotes(object, place, folder);
+    object.requireNoOtherMembers();
     return book;
 }
 
@@ -108,16 +110,18 @@ SourceContent readDeviceFile(const std::string& path) {
     const Json::Value json = parse(readFile(path), path);
     JsonObject object(json, path);
     SourceContent content;
-    content.knownBooks = host::KnownBooks::Correct;
+    content.onKnownBook = host::OnKnownBook::Overwrite;
     for (const Json::Value& book : object.array("books")) {
         const std::string place = numbered(path + ": book ", content.books.size() + 1);
         content.books.push_back(readBook(book, place, folder));
     }
-    const auto hash = [](const SourceBook& book) -> const auto& {
-        return book.record.fastHash;
+    const auto hash = [](const IncomingBook& book) -> const auto& {
+        return book.book.hash;
     };
     checkNames(object, content.books, hash, "books ", "hash");
     content.styleSheet = object.file("style_sheet", folder);
-    object.complainAboutUnknownMembers();
+    object.requireNoOtherMembers();
     return content;
 }
+
+}  // namespace client

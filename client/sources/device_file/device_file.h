@@ -1,15 +1,19 @@
-// The file that describes a device's content: its books, their notes and the style sheet.
+// A device file: books, their notes and a style sheet, as JSON.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-#include "client/sources/source.h"
+#include "client/sources/content/source_content.h"
 
-// Whether it is a JSON object.
+namespace client {
+
+// Returns whether it is a JSON object.
 bool isDeviceFile(std::string_view start);
 
-// Reads also the pictures and the style sheet that the file names, which it finds relative
-// to its own folder. Anything missing, misspelt, of the wrong type or there twice is a
-// Complaint that says where.
+// Also reads the pictures and the style sheet that the file names, relative to its own
+// folder. Throws UserError, which names the place, for anything that is missing, misspelt,
+// of the wrong type or there twice.
 SourceContent readDeviceFile(const std::string& path);
+
+}  // namespace client

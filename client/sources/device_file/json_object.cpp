@@ -6,17 +6,19 @@
 #include "client/files/whole_file.h"
 #include "client/text/one_line.h"
 
+namespace client {
+
 JsonObject::JsonObject(const Json::Value& value, std::string place)
     : value_(value), place_(std::move(place)) {
     if (!value_.isObject()) {
-        complain("expected an object");
+        fail("expected an object");
     }
 }
 
 std::string JsonObject::requiredText(const std::string& name) {
     std::string result = text(name);
     if (result.empty()) {
-        complain("\"" + name + "\" is missing or empty");
+        fail("\"" + name + "\" is missing or empty");
     }
     return result;
 }
@@ -50,15 +52,15 @@ std::optional<std::string> JsonObject::file(const std::string& name,
     }
     try {
         return readFile(folder / path);
-    } catch (const Complaint& error) {
-        complain(error.what());
+    } catch (const UserError& error) {
+        fail(error.what());
     }
 }
 
-void JsonObject::complainAboutUnknownMembers() const {
+void JsonObject::requireNoOtherMembers() const {
     for (const std::string& name : value_.getMemberNames()) {
         if (known_.count(name) == 0) {
-            complain("\"" + oneLine(name) + "\": unknown member");
+            fail("\"" + oneLine(name) + "\": unknown member");
         }
     }
 }
@@ -73,11 +75,13 @@ const Json::Value* JsonObject::find(const std::string& name, Json::ValueType typ
                          : type == Json::intValue ? member->isInt64()
                                                   : member->type() == type;
     if (!matches) {
-        complain("\"" + name + "\" has the wrong type");
+        fail("\"" + name + "\" has the wrong type");
     }
     return member;
 }
 
-void JsonObject::complain(const std::string& what) const {
-    throw Complaint(place_ + ": " + what);
+void JsonObject::fail(const std::string& what) const {
+    throw UserError(place_ + ": " + what);
 }
+
+}  // namespace client

@@ -8,11 +8,13 @@
 #include <set>
 #include <string>
 
-// Throws a Complaint that names the place for a member of the wrong type, for a required
+namespace client {
+
+// Throws a UserError that names the place for a member of the wrong type, for a required
 // one that is missing and, at the end, for a member that no getter has read.
 class JsonObject {
 public:
-    // `place` says where the object is in the file, for complaints ("book 2, note 5").
+    // `place` says where the object is in the file, for messages ("book 2, note 5").
     // `value` must outlive this object.
     JsonObject(const Json::Value& value, std::string place);
 
@@ -22,15 +24,15 @@ public:
     std::optional<long long> integer(const std::string& name);
     const Json::Value& array(const std::string& name);
 
-    // The content of the file that the member names, relative to `folder`; nothing when the
-    // member is missing or empty.
+    // Returns the content of the file that the member names, relative to `folder`; nullopt
+    // if the member is missing or empty.
     std::optional<std::string> file(const std::string& name,
                                     const std::filesystem::path& folder);
 
-    [[noreturn]] void complain(const std::string& what) const;
+    [[noreturn]] void fail(const std::string& what) const;
 
-    // To be called when everything has been asked for.
-    void complainAboutUnknownMembers() const;
+    // Call it after all getters.
+    void requireNoOtherMembers() const;
 
 private:
     const Json::Value* find(const std::string& name, Json::ValueType type);
@@ -39,3 +41,5 @@ private:
     std::string place_;
     std::set<std::string> known_;
 };
+
+}  // namespace client

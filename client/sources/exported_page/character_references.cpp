@@ -1,20 +1,22 @@
 #include "client/sources/exported_page/character_references.h"
 
 #include <libxml/HTMLparser.h>
-
 #include <utf8proc.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 
+#include "client/text/affixes.h"
+#include "client/text/numbers.h"
+
+namespace client {
 namespace {
 
 constexpr std::size_t kLongestName = 32;
 
-// What stands between "&" and ";"; 0 when it names no character.
+// Returns the character that the text between "&" and ";" names, or 0.
 std::uint32_t characterNamed(std::string_view name) {
-    if (name.substr(0, 1) != "#") {
+    if (!startsWith(name, "#")) {
         const std::string text(name);
         const auto* entity =
             htmlEntityLookup(reinterpret_cast<const xmlChar*>(text.c_str()));
@@ -22,11 +24,7 @@ std::uint32_t characterNamed(std::string_view name) {
     }
     const bool isHexadecimal = name.size() > 1 && (name[1] == 'x' || name[1] == 'X');
     name.remove_prefix(isHexadecimal ? 2 : 1);
-    std::uint32_t character = 0;
-    const char* const end = name.data() + name.size();
-    const auto parsed =
-        std::from_chars(name.data(), end, character, isHexadecimal ? 16 : 10);
-    return parsed.ec == std::errc() && parsed.ptr == end ? character : 0;
+    return parseNumber<std::uint32_t>(name, isHexadecimal ? 16 : 10).value_or(0);
 }
 
 bool appendCharacter(std::uint32_t character, std::string& text) {
@@ -61,3 +59,5 @@ std::string withoutReferences(std::string_view text) {
     }
     return result;
 }
+
+}  // namespace client

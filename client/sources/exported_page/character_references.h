@@ -4,5 +4,9 @@
 #include <string>
 #include <string_view>
 
-// The text with each reference replaced by its character; what is none stays.
+namespace client {
+
+// Returns the text with each reference replaced by its character; all else stays.
 std::string withoutReferences(std::string_view text);
+
+}  // namespace client

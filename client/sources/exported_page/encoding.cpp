@@ -8,8 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "client/text/affixes.h"
 #include "text/utf8.h"
 
+namespace client {
 namespace {
 
 class Converter {
@@ -26,7 +28,7 @@ public:
 
     bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
-    // Nothing when the text is cut, or not of the encoding.
+    // Returns nullopt if the text is cut, or not of the encoding.
     std::optional<std::string> converted(std::string& text);
 
 private:
@@ -64,16 +66,12 @@ std::string encodingNamedIn(std::string_view html) {
     return {};
 }
 
-bool hasPrefix(const std::string& text, std::string_view prefix) {
-    return text.compare(0, prefix.size(), prefix) == 0;
-}
-
 }  // namespace
 
 std::string htmlAsUtf8(std::string html) {
     constexpr std::string_view kByteOrderMark = "\ufeff";
     std::string encoding;
-    if (hasPrefix(html, "\xff\xfe") || hasPrefix(html, "\xfe\xff")) {
+    if (startsWith(html, "\xff\xfe") || startsWith(html, "\xfe\xff")) {
         encoding = "UTF-16";
     } else if (!host::isUtf8(html)) {
         encoding = encodingNamedIn(html);
@@ -81,5 +79,7 @@ std::string htmlAsUtf8(std::string html) {
     if (Converter converter(encoding); !encoding.empty() && converter.isOpen()) {
         html = converter.converted(html).value_or(html);
     }
-    return hasPrefix(html, kByteOrderMark) ? html.substr(kByteOrderMark.size()) : html;
+    return std::string(withoutPrefix(html, kByteOrderMark));
 }
+
+}  // namespace client

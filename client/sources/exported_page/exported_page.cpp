@@ -11,14 +11,16 @@
 #include "client/sources/content/book_shelf.h"
 #include "client/sources/exported_page/encoding.h"
 #include "client/sources/exported_page/visible_page.h"
+#include "client/text/ascii.h"
 #include "client/text/iso_time.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
 #include "store/book_hash.h"
 
+namespace client {
 namespace {
 
-// The heading's local time, in seconds since the Unix epoch; 0 when it has none.
+// Returns the heading's local time, in seconds since the Unix epoch; 0 if it has none.
 std::int64_t timeIn(const std::string& date) {
     const auto time = parseIsoTime(date);
     if (!time) {
@@ -45,30 +47,21 @@ Heading parseHeading(const std::string& text) {
     return {text.substr(0, kDateLength), text.substr(kDateLength + 3)};
 }
 
-std::string lowered(std::string hash) {
-    std::transform(hash.begin(), hash.end(), hash.begin(), [](char digit) {
-        return digit >= 'A' && digit <= 'F' ? static_cast<char>(digit - 'A' + 'a') : digit;
-    });
-    return hash;
+// A page of a device whose hashes have another form gets one as other sources do.
+ShelvedBook& bookOf(const VisiblePage& page, const std::string& title, BookShelf& shelf) {
+    const std::string hash = asciiLowered(page.bookHash);
+    return host::isBookHash(hash) ? shelf.book(hash, title, page.author)
+                                  : shelf.book(title, page.author);
 }
 
-// A page of a device whose hashes are others gets one as other sources do.
-std::string hashOf(const VisiblePage& page, const std::string& title) {
-    const std::string hash = lowered(page.bookHash);
-    return host::isBookHash(hash) ? hash : derivedName({title, page.author});
-}
-
-std::vector<SourceBook> visibleBook(VisiblePage& page, SkippedRecords& skipped) {
+std::vector<IncomingBook> visibleBook(VisiblePage& page, SkippedRecords& skipped) {
     const Heading heading = parseHeading(page.heading);
     BookShelf shelf;
-    const std::size_t book =
-        shelf.bookNamed(hashOf(page, heading.title), heading.title, page.author);
-    for (SourceNote& note : page.notes) {
-        note.timestamp = timeIn(heading.date);
-        if (note.uuid.empty()) {
-            note.uuid = derivedName({shelf.hashOf(book), note.text, note.comment});
-        }
-        shelf.add(book, std::move(note));
+    ShelvedBook& book = bookOf(page, heading.title, shelf);
+    for (Note& note : page.notes) {
+        note.time = timeIn(heading.date);
+        const Identity identity = {note.text, note.comment};
+        book.add(std::move(note), identity);
     }
     for (const std::string& uuid : page.unreadable) {
         skipped.add("the picture of the note " + uuid + " is not in the page");
@@ -76,14 +69,17 @@ std::vector<SourceBook> visibleBook(VisiblePage& page, SkippedRecords& skipped) 
     return shelf.take();
 }
 
-// Nothing when there is no dump, or none that this platform can read.
-std::vector<SourceBook> recordedBooks(const std::string& path, const VisiblePage& page,
-                                      SkippedRecords& skipped) {
-    std::vector<SourceBook> books;
+// Returns no book if there is no dump, or none that this platform can read.
+std::vector<IncomingBook> recordedBooks(const std::string& path, const VisiblePage& page,
+                                        SkippedRecords& skipped) {
+    std::vector<IncomingBook> books;
     try {
         for (host::BookRecord& record : host::readDump(path)) {
-            const bool isOfPage = record.fastHash == lowered(page.bookHash);
-            books.push_back({std::move(record), isOfPage ? page.author : ""});
+            const bool isOfPage = record.fastHash == asciiLowered(page.bookHash);
+            books.push_back(
+                {{record.fastHash, record.title, isOfPage ? page.author : "", record.path},
+                 {},
+                 std::move(record.notes)});
         }
     } catch (const host::DumpError& error) {
         if (error.result != host::kNoDump) {
@@ -110,10 +106,12 @@ SourceContent readExportedPage(const std::string& path) {
     SourceContent content;
     content.books = recordedBooks(path, page, content.skipped);
     if (content.books.empty() && page.heading.empty() && page.notes.empty()) {
-        throw Complaint(path + ": neither a dump nor a note can be read in it");
+        throw UserError(path + ": neither a dump nor a note can be read in it");
     }
     if (content.books.empty()) {
         content.books = visibleBook(page, content.skipped);
     }
     return content;
 }
+
+}  // namespace client

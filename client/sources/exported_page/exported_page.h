@@ -1,13 +1,17 @@
-// A page that this library exported, on this device or another one, perhaps saved again by
-// another program.
+// A page that this library exported, here or on a device, perhaps saved again by
+// another commandLine.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-#include "client/sources/source.h"
+#include "client/sources/content/source_content.h"
+
+namespace client {
 
 bool isExportedPage(std::string_view start);
 
-// The records of the page's dump, or what the page shows when that cannot be read.
+// Reads the records of the page's dump, or the visible page if there is no such dump.
 SourceContent readExportedPage(const std::string& path);
+
+}  // namespace client

@@ -3,23 +3,14 @@
 #include <algorithm>
 
 #include "client/sources/exported_page/character_references.h"
+#include "client/text/affixes.h"
+#include "client/text/ascii.h"
 
+namespace client {
 namespace {
 
 constexpr std::string_view kSpaces = " \t\r\n\f";
-constexpr std::size_t kMostAttributes = 100;  // the rest of a tag's are left out
-
-char lower(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool isLetter(char letter) { return lower(letter) >= 'a' && lower(letter) <= 'z'; }
-
-std::string lowered(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), lower);
-    return result;
-}
+constexpr std::size_t kMaxAttributes = 100;  // of a tag; further ones are ignored
 
 std::string_view takeUntil(std::string_view& text, std::string_view ends) {
     const std::size_t length = std::min(text.find_first_of(ends), text.size());
@@ -30,7 +21,8 @@ std::string_view takeUntil(std::string_view& text, std::string_view ends) {
 
 bool startsTag(std::string_view text) {
     return text.size() > 1 && text[0] == '<' &&
-           (isLetter(text[1]) || (text[1] == '/' && text.size() > 2 && isLetter(text[2])));
+           (isAsciiLetter(text[1]) ||
+            (text[1] == '/' && text.size() > 2 && isAsciiLetter(text[2])));
 }
 
 bool startsUnseen(std::string_view text) {
@@ -53,7 +45,7 @@ std::string HtmlToken::attribute(std::string_view name) const {
 
 bool HtmlTokens::next(HtmlToken& token) {
     while (startsUnseen(rest_)) {
-        skipPast(rest_.substr(0, 4) == "<!--" ? "-->" : ">");
+        skipPast(startsWith(rest_, "<!--") ? "-->" : ">");
     }
     token = {};
     if (rest_.empty()) {
@@ -81,7 +73,7 @@ void HtmlTokens::readTag(HtmlToken& token) {
     const bool isEnd = rest_[1] == '/';
     rest_.remove_prefix(isEnd ? 2 : 1);
     token.kind = isEnd ? HtmlToken::Kind::End : HtmlToken::Kind::Start;
-    token.text = lowered(takeUntil(rest_, " \t\r\n\f/>"));
+    token.text = asciiLowered(takeUntil(rest_, " \t\r\n\f/>"));
     readAttributes(token);
     if (!isEnd && (token.text == "script" || token.text == "style")) {
         skipContent(token.text);
@@ -100,8 +92,8 @@ void HtmlTokens::readAttributes(HtmlToken& token) {
         const std::string_view name(first.data(),
                                     1 + takeUntil(rest_, " \t\r\n\f/>=").size());
         const std::string_view value = readValue();
-        if (token.attributes.size() < kMostAttributes) {
-            token.attributes.emplace_back(lowered(name), value);
+        if (token.attributes.size() < kMaxAttributes) {
+            token.attributes.emplace_back(asciiLowered(name), value);
         }
     }
 }
@@ -131,9 +123,11 @@ void HtmlTokens::skipPast(std::string_view end) {
 void HtmlTokens::skipContent(const std::string& element) {
     while (!rest_.empty()) {
         skipPast("</");
-        if (lowered(rest_.substr(0, element.size())) == element) {
+        if (asciiLowered(rest_.substr(0, element.size())) == element) {
             skipPast(">");
             return;
         }
     }
 }
+
+}  // namespace client

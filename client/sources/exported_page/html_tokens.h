@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+namespace client {
+
 struct HtmlToken {
     enum class Kind { Text, Start, End };
 
@@ -39,3 +41,5 @@ private:
 
     std::string_view rest_;
 };
+
+}  // namespace client

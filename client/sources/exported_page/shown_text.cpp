@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace client {
+
 void ShownText::add(std::string_view text) {
     constexpr std::string_view kSpaces = " \t\r\n";
     while (!text.empty()) {
@@ -38,3 +40,5 @@ std::string ShownText::take() {
     end("");
     return std::exchange(text_, {});
 }
+
+}  // namespace client

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace client {
+
 // Where a program has broken and indented lines, the white space with a line break in it is
 // one space, or nothing at the ends of a line. All other white space stays.
 class ShownText {
@@ -23,3 +25,5 @@ private:
     std::string space_;  // not known yet whether it counts
     bool isAtStart_ = true;
 };
+
+}  // namespace client

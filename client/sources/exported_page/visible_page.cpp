@@ -1,23 +1,21 @@
 #include "client/sources/exported_page/visible_page.h"
 
-#include <charconv>
 #include <optional>
 #include <utility>
 
 #include "client/sources/exported_page/html_tokens.h"
 #include "client/sources/exported_page/shown_text.h"
+#include "client/text/affixes.h"
+#include "client/text/numbers.h"
 #include "dump/format.h"
 #include "text/base64.h"
 
+namespace client {
 namespace {
 
 using Kind = HtmlToken::Kind;
 
-bool hasPrefix(std::string_view text, std::string_view prefix) {
-    return text.substr(0, prefix.size()) == prefix;
-}
-
-// Of "bookmark bm-color-NAME".
+// Returns NAME of "bookmark bm-color-NAME".
 std::string colorIn(const std::string& blockClass) {
     constexpr std::string_view kPrefix = "bm-color-";
     const std::size_t at = blockClass.find(kPrefix);
@@ -27,11 +25,8 @@ std::string colorIn(const std::string& blockClass) {
 }
 
 std::optional<double> pageLabelled(const std::string& label) {
-    int page = 0;
-    const char* const end = label.data() + label.size();
-    const auto parsed = std::from_chars(label.data(), end, page);
-    return parsed.ec == std::errc() && parsed.ptr == end ? std::optional<double>(page)
-                                                         : std::nullopt;
+    const auto page = parseNumber<int>(label);
+    return page ? std::optional<double>(*page) : std::nullopt;
 }
 
 // Goes through the page. A note lasts until the next one begins.
@@ -106,9 +101,9 @@ void Reader::end(const HtmlToken& tag) {
 
 void Reader::startBlock(const HtmlToken& tag) {
     const std::string blockClass = tag.attribute("class");
-    if (hasPrefix(blockClass, "bookmark ") && tag.hasAttribute("id")) {
+    if (startsWith(blockClass, "bookmark ") && tag.hasAttribute("id")) {
         finish();
-        SourceNote& note = page_.notes.emplace_back();
+        Note& note = page_.notes.emplace_back();
         note.uuid = tag.attribute("id");
         note.color = colorIn(blockClass);
     } else if (blockClass == "bm-text" && isInNote()) {
@@ -136,7 +131,7 @@ void Reader::takePicture(const std::string& source) {
         at == std::string::npos ? "-"
                                 : std::string_view(source).substr(at + kEncoding.size());
     if (auto picture = host::decodeBase64(base64)) {
-        page_.notes.back().image = std::move(*picture);
+        page_.notes.back().picture = std::move(*picture);
     } else {
         page_.unreadable.push_back(page_.notes.back().uuid);
     }
@@ -156,7 +151,7 @@ void Reader::finish() {
     } else if (target == Target::Author) {
         page_.author = text;
     } else if (target != Target::None) {
-        SourceNote& note = page_.notes.back();
+        Note& note = page_.notes.back();
         if (target == Target::Page) {
             note.page = pageLabelled(text);
         } else {
@@ -170,3 +165,5 @@ void Reader::finish() {
 }  // namespace
 
 VisiblePage readVisiblePage(std::string_view html) { return Reader().read(html); }
+
+}  // namespace client

@@ -1,4 +1,4 @@
-// What an exported page shows.
+// The visible part of an exported page.
 #pragma once
 
 #include <cstddef>
@@ -8,13 +8,18 @@
 
 #include "client/collection/note.h"
 
+namespace client {
+
 struct VisiblePage {
     std::string heading = {};   // date and title
     std::string author = {};    // empty: the page names none
-    std::string bookHash = {};  // as its dump says; empty when it has none
-    std::vector<SourceNote> notes = {};
-    std::vector<std::string> unreadable = {};  // uuids of notes whose picture is none
+    std::string bookHash = {};  // as its dump says; empty if it has none
+    std::vector<Note> notes = {};
+    std::vector<std::string> unreadable = {};  // uuids of notes with a damaged picture
 };
 
-// Reads HTML in UTF-8. Line breaks that a program put into a text to indent it are none.
+// Reads HTML in UTF-8. Line breaks that a program put into a text to indent it do not
+// count.
 VisiblePage readVisiblePage(std::string_view html);
+
+}  // namespace client

@@ -2,6 +2,7 @@
 
 #include <set>
 
+namespace client {
 namespace {
 
 std::set<std::string> columnsOf(SQLite::Database& database, const std::string& table) {
@@ -14,7 +15,24 @@ std::set<std::string> columnsOf(SQLite::Database& database, const std::string& t
     return names;
 }
 
-// The columns in the order of `wanted`, and nothing for those that the table lacks.
+struct TextColumn {
+    const char* name;
+    std::string KoboBookmark::*text;
+};
+
+constexpr TextColumn kTextColumns[] = {{"BookmarkID", &KoboBookmark::id},
+                                       {"VolumeID", &KoboBookmark::volume},
+                                       {"ContentID", &KoboBookmark::chapter},
+                                       {"Text", &KoboBookmark::text},
+                                       {"Annotation", &KoboBookmark::annotation},
+                                       {"DateCreated", &KoboBookmark::created},
+                                       {"DateModified", &KoboBookmark::modified},
+                                       {"Hidden", &KoboBookmark::hidden},
+                                       {"UUID", &KoboBookmark::uuid},
+                                       {"Type", &KoboBookmark::type},
+                                       {"Color", &KoboBookmark::color}};
+
+// Returns a query for these columns, with NULL for those that the table lacks.
 std::string selection(SQLite::Database& database, const std::string& table,
                       const std::vector<const char*>& wanted) {
     const std::set<std::string> columns = columnsOf(database, table);
@@ -27,25 +45,27 @@ std::string selection(SQLite::Database& database, const std::string& table,
     return text + " FROM " + table;
 }
 
+std::string bookmarkQuery(SQLite::Database& database) {
+    std::vector<const char*> names;
+    for (const TextColumn& column : kTextColumns) {
+        names.push_back(column.name);
+    }
+    names.push_back("ChapterProgress");
+    return selection(database, "Bookmark", names);
+}
+
 }  // namespace
 
 std::vector<KoboBookmark> readBookmarks(SQLite::Database& database) {
-    SQLite::Statement rows(
-        database, selection(database, "Bookmark",
-                            {"BookmarkID", "VolumeID", "ContentID", "Text", "Annotation",
-                             "DateCreated", "DateModified", "Hidden", "UUID", "Type",
-                             "Color", "ChapterProgress"}));
+    SQLite::Statement rows(database, bookmarkQuery(database));
     std::vector<KoboBookmark> bookmarks;
     while (rows.executeStep()) {
         KoboBookmark& bookmark = bookmarks.emplace_back();
-        int column = 0;
-        for (std::string* text :
-             {&bookmark.id, &bookmark.volume, &bookmark.chapter, &bookmark.text,
-              &bookmark.annotation, &bookmark.created, &bookmark.modified, &bookmark.hidden,
-              &bookmark.uuid, &bookmark.type, &bookmark.color}) {
-            *text = rows.getColumn(column++).getString();
+        int index = 0;
+        for (const TextColumn& column : kTextColumns) {
+            bookmark.*column.text = rows.getColumn(index++).getString();
         }
-        bookmark.progress = rows.getColumn(column).getDouble();
+        bookmark.progress = rows.getColumn(index).getDouble();
     }
     return bookmarks;
 }
@@ -63,3 +83,5 @@ KoboContents readContents(SQLite::Database& database) {
     }
     return contents;
 }
+
+}  // namespace client

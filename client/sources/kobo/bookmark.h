@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace client {
+
 struct KoboBookmark {
     std::string id;
     std::string volume;   // identifier of the book
@@ -23,15 +25,17 @@ struct KoboBookmark {
     std::string color;
 };
 
-// All of them, in no order. Columns that older firmware lacks are empty.
+// Returns all of them, in no order. Columns that older firmware lacks are empty.
 std::vector<KoboBookmark> readBookmarks(SQLite::Database& database);
 
 struct KoboContent {
     std::string title;
     std::string author;
-    std::int64_t place = 0;  // of a chapter within its book
+    std::int64_t index = 0;  // of a chapter within its book
 };
 
-// The books and chapters, by identifier.
+// Books and chapters, by identifier.
 using KoboContents = std::unordered_map<std::string, KoboContent>;
 KoboContents readContents(SQLite::Database& database);
+
+}  // namespace client

@@ -12,7 +12,11 @@
 #include "client/files/whole_file.h"
 #include "client/sources/content/book_shelf.h"
 #include "client/sources/kobo/bookmark.h"
+#include "client/text/affixes.h"
 #include "client/text/iso_time.h"
+#include "client/text/percent_encoding.h"
+
+namespace client {
 
 namespace fs = std::filesystem;
 
@@ -20,37 +24,32 @@ namespace {
 
 // SQLite would take some characters of a path for parts of the URI.
 std::string uriOf(const std::string& path) {
-    constexpr char kDigits[] = "0123456789ABCDEF";
-    std::string uri = "file:";
-    for (const char byte : path) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (byte == '%' || byte == '?' || byte == '#') {
-            uri.append({'%', kDigits[code >> 4U], kDigits[code & 15U]});
-        } else {
-            uri += byte;
-        }
-    }
-    return uri + "?mode=ro&immutable=1";
+    return "file:" +
+           percentEncoded(path,
+                          [](unsigned char byte) {
+                              return byte != '%' && byte != '?' && byte != '#';
+                          }) +
+           "?mode=ro&immutable=1";
 }
 
 // The database comes from elsewhere: its schema must not do anything by itself.
 void distrust(SQLite::Database& database) {
-    constexpr int kMostBytes = 64 << 20;  // of one value
+    constexpr int kMaxBytes = 64 << 20;  // of one value
     sqlite3* const handle = database.getHandle();
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kMostBytes);
+    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kMaxBytes);
 }
 
-void complainUnlessKobo(SQLite::Database& database, const std::string& path) {
+void requireKoboTables(SQLite::Database& database, const std::string& path) {
     SQLite::Statement tables(database,
                              "SELECT count(*) FROM sqlite_master WHERE type = 'table' AND "
                              "rootpage > 0 AND name IN ('Bookmark', 'content')");
     tables.executeStep();
     if (tables.getColumn(0).getInt() != 2) {
-        throw Complaint(path +
-                        " is no database of a Kobo reader: one has the tables Bookmark "
-                        "and content.");
+        throw UserError(path +
+                        " is not the database of a Kobo reader, which has the tables "
+                        "Bookmark and content.");
     }
 }
 
@@ -71,15 +70,12 @@ std::string colorOf(const KoboBookmark& bookmark) {
     return isKnown ? kNames[color[0] - '0'] : "";
 }
 
-std::string trimmed(const std::string& text) {
-    constexpr const char* kSpaces = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(kSpaces);
-    return first == std::string::npos
-               ? ""
-               : text.substr(first, text.find_last_not_of(kSpaces) - first + 1);
+std::string withoutSpaces(const std::string& text) {
+    constexpr std::string_view kSpaces[] = {" ", "\t", "\r", "\n"};
+    return std::string(trimmed(text, kSpaces));
 }
 
-// Of what was written by hand; empty when it is not there.
+// Returns the picture of handwriting; empty if it is not there.
 std::string pictureOf(const KoboBookmark& bookmark, const fs::path& database) {
     constexpr const char* kOfNames =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
@@ -104,8 +100,8 @@ public:
 
 private:
     std::int64_t chapterOf(const KoboBookmark& bookmark) const;
-    std::size_t bookOf(const KoboBookmark& bookmark);
-    void take(const KoboBookmark& bookmark);
+    ShelvedBook& bookOf(const KoboBookmark& bookmark);
+    void addNote(const KoboBookmark& bookmark);
 
     const std::string path_;
     const KoboContents contents_;
@@ -119,46 +115,43 @@ std::int64_t Reader::chapterOf(const KoboBookmark& bookmark) const {
     if (chapter == contents_.end()) {
         chapter = contents_.find(bookmark.chapter.substr(0, bookmark.chapter.find('#')));
     }
-    return chapter == contents_.end() ? 0 : chapter->second.place;
+    return chapter == contents_.end() ? 0 : chapter->second.index;
 }
 
 // A book that the database does not describe is called after its file.
-std::size_t Reader::bookOf(const KoboBookmark& bookmark) {
+ShelvedBook& Reader::bookOf(const KoboBookmark& bookmark) {
     const auto book = contents_.find(bookmark.volume);
     const bool hasTitle = book != contents_.end() && !book->second.title.empty();
-    return hasTitle ? shelf_.bookOf(book->second.title, book->second.author)
-                    : shelf_.bookOf(fs::path(bookmark.volume).filename().string(), "");
+    return hasTitle ? shelf_.book(book->second.title, book->second.author)
+                    : shelf_.book(fs::path(bookmark.volume).filename().string(), "");
 }
 
-void Reader::take(const KoboBookmark& bookmark) {
-    const std::size_t book = bookOf(bookmark);
-    SourceNote note;
+void Reader::addNote(const KoboBookmark& bookmark) {
+    Note note;
     note.uuid = bookmark.uuid.empty() ? bookmark.id : bookmark.uuid;
-    if (note.uuid.empty()) {
-        note.uuid = derivedName(
-            {shelf_.hashOf(book), bookmark.type, bookmark.chapter, bookmark.created});
-    }
     note.color = colorOf(bookmark);
-    note.text = trimmed(bookmark.text);
-    note.comment = trimmed(bookmark.annotation);
-    note.image = pictureOf(bookmark, path_);
-    note.timestamp = timeOf(bookmark);
-    shelf_.add(book, std::move(note));
+    note.text = withoutSpaces(bookmark.text);
+    note.comment = withoutSpaces(bookmark.annotation);
+    note.picture = pictureOf(bookmark, path_);
+    note.time = timeOf(bookmark);
+    bookOf(bookmark).add(std::move(note),
+                         {bookmark.type, bookmark.chapter, bookmark.created});
 }
 
 SourceContent Reader::read() {
     SourceContent content;
-    const auto place = [this](const KoboBookmark& bookmark) {
+    const auto position = [this](const KoboBookmark& bookmark) {
         return std::tuple(chapterOf(bookmark), bookmark.progress);
     };
-    std::stable_sort(
-        bookmarks_.begin(), bookmarks_.end(),
-        [&](const KoboBookmark& a, const KoboBookmark& b) { return place(a) < place(b); });
+    std::stable_sort(bookmarks_.begin(), bookmarks_.end(),
+                     [&](const KoboBookmark& a, const KoboBookmark& b) {
+                         return position(a) < position(b);
+                     });
     for (const KoboBookmark& bookmark : bookmarks_) {
         if (bookmark.volume.empty()) {
             content.skipped.add("the bookmark " + bookmark.id + " names no book");
         } else if (!isHidden(bookmark)) {
-            take(bookmark);
+            addNote(bookmark);
         }
     }
     content.books = shelf_.take();
@@ -176,7 +169,7 @@ SourceContent readKoboDatabase(const std::string& path) {
     try {
         SQLite::Database database(uriOf(path), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
         distrust(database);
-        complainUnlessKobo(database, path);
+        requireKoboTables(database, path);
         SourceContent content = Reader(database, path).read();
         std::error_code failure;
         if (const std::string log = path + "-wal";
@@ -189,6 +182,8 @@ SourceContent readKoboDatabase(const std::string& path) {
         if (error.getErrorCode() == SQLITE_NOMEM) {
             throw std::bad_alloc();
         }
-        throw Complaint(path + ": " + error.what());
+        throw UserError(path + ": " + error.what());
     }
 }
+
+}  // namespace client

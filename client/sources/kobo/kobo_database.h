@@ -4,10 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "client/sources/source.h"
+#include "client/sources/content/source_content.h"
 
-// Whether it is an SQLite database.
+namespace client {
+
+// Returns whether it is an SQLite database.
 bool isKoboDatabase(std::string_view start);
 
-// Writes nothing, neither to the database nor beside it. Complains about other databases.
+// Writes nothing, neither to the database nor beside it. Throws UserError for other
+// databases.
 SourceContent readKoboDatabase(const std::string& path);
+
+}  // namespace client

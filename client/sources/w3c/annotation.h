@@ -7,10 +7,14 @@
 #include "client/collection/note.h"
 #include "client/sources/w3c/json.h"
 
+namespace client {
+
 struct Annotation {
-    std::string source;  // what it annotates, by its own account; empty: it does not say
-    SourceNote note;     // the uuid is empty when the annotation has none
+    std::string source;  // the URI of what it annotates; may be empty
+    Note note;           // the uuid is empty if the annotation has none
 };
 
-// Nothing when the value is no annotation.
+// Returns nullopt if the value is not an annotation.
 std::optional<Annotation> parseAnnotation(const JsonValue& json);
+
+}  // namespace client

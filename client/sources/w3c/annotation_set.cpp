@@ -11,13 +11,20 @@
 #include "client/files/whole_file.h"
 #include "client/sources/content/book_shelf.h"
 #include "client/sources/w3c/annotation.h"
+#include "client/text/affixes.h"
 
+namespace client {
 namespace {
+
+constexpr std::string_view kByteOrderMark = "\ufeff";
 
 // Stops at the first member of the outermost object that only an annotation set has.
 class Recogniser : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Recogniser> {
 public:
-    bool StartObject() { return ++depth_ > 0; }
+    bool StartObject() {
+        ++depth_;
+        return true;
+    }
     bool EndObject(rapidjson::SizeType /*members*/) { return --depth_ > 0; }
     bool StartArray() { return depth_++ > 0; }
     bool EndArray(rapidjson::SizeType /*elements*/) { return --depth_ > 0; }
@@ -34,18 +41,13 @@ private:
     bool found_ = false;
 };
 
-std::string_view withoutMark(std::string_view text) {
-    constexpr std::string_view kByteOrderMark = "\ufeff";
-    const bool isMarked = text.substr(0, kByteOrderMark.size()) == kByteOrderMark;
-    return text.substr(isMarked ? kByteOrderMark.size() : 0);
-}
-
 JsonDocument parse(std::string& text, const std::string& path) {
     JsonDocument json;
-    char* const start = text.data() + (text.size() - withoutMark(text).size());
+    char* const start =
+        text.data() + (text.size() - withoutPrefix(text, kByteOrderMark).size());
     json.ParseInsitu<rapidjson::kParseIterativeFlag>(start);
     if (json.HasParseError()) {
-        throw Complaint(path + " is not JSON: byte " +
+        throw UserError(path + " is not JSON: byte " +
                         std::to_string(json.GetErrorOffset()) + ": " +
                         rapidjson::GetParseError_En(json.GetParseError()));
     }
@@ -64,7 +66,7 @@ std::string creatorsOf(const JsonValue& about) {
     return names;
 }
 
-// The first of these that the set has.
+// Returns the first of these that the set has.
 std::string titleOf(const JsonValue& set) {
     const JsonValue& about = memberOf(set, "about");
     for (const JsonValue* title : {&memberOf(about, "dc:title"), &memberOf(about, "title"),
@@ -76,25 +78,61 @@ std::string titleOf(const JsonValue& set) {
     return {};
 }
 
-// The annotations, also those of a collection's first page.
+// Returns the annotations, also those of a collection's first page.
 std::vector<const JsonValue*> itemsOf(const JsonValue& set, const std::string& path) {
     const JsonValue& items = memberOf(set, "items");
     const JsonValue& ofFirstPage = memberOf(memberOf(set, "first"), "items");
     if (!items.IsArray() && !ofFirstPage.IsArray()) {
-        throw Complaint(path + ": \"items\" is missing or no array");
+        throw UserError(path + ": \"items\" is missing or not an array");
     }
     return elementsOf(items.IsArray() ? items : ofFirstPage);
 }
 
-// A name for the annotation that has none, of what stays the same when it is edited.
-std::string uuidOf(const std::string& book, const SourceNote& note) {
-    return derivedName({book, note.text, std::to_string(note.timestamp)});
+// Reads the items of a set onto a shelf.
+class Reader {
+public:
+    Reader(const JsonValue& set, const std::string& path)
+        : title_(titleOf(set)),
+          author_(creatorsOf(memberOf(set, "about"))),
+          fileName_(std::filesystem::path(path).stem().string()) {}
+
+    SourceContent read(const std::vector<const JsonValue*>& items);
+
+private:
+    void addAnnotation(Annotation annotation);
+
+    const std::string title_;
+    const std::string author_;
+    const std::string fileName_;
+    BookShelf shelf_;
+};
+
+SourceContent Reader::read(const std::vector<const JsonValue*>& items) {
+    SourceContent content;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (auto annotation = parseAnnotation(*items[i])) {
+            addAnnotation(std::move(*annotation));
+        } else {
+            content.skipped.add("items[" + std::to_string(i) + "]: no target");
+        }
+    }
+    content.books = shelf_.take();
+    return content;
+}
+
+void Reader::addAnnotation(Annotation annotation) {
+    const std::string& title = !title_.empty()             ? title_
+                               : annotation.source.empty() ? fileName_
+                                                           : annotation.source;
+    // Of the note, that stays the same when it is edited.
+    const Identity identity = {annotation.note.text, std::to_string(annotation.note.time)};
+    shelf_.book(title, author_).add(std::move(annotation.note), identity);
 }
 
 }  // namespace
 
 bool isAnnotationSet(std::string_view start) {
-    const std::string_view text = withoutMark(start);
+    const std::string_view text = withoutPrefix(start, kByteOrderMark);
     rapidjson::MemoryStream stream(text.data(), text.size());
     Recogniser recogniser;
     host::JsonReader().Parse<rapidjson::kParseIterativeFlag>(stream, recogniser);
@@ -104,30 +142,7 @@ bool isAnnotationSet(std::string_view start) {
 SourceContent readAnnotationSet(const std::string& path) {
     std::string text = readFile(path);
     const JsonDocument set = parse(text, path);
-    const std::string title = titleOf(set);
-    const std::string author = creatorsOf(memberOf(set, "about"));
-    const std::string stem = std::filesystem::path(path).stem().string();
-    SourceContent content;
-    BookShelf shelf;
-    std::size_t number = 0;
-    for (const JsonValue* item : itemsOf(set, path)) {
-        auto annotation = parseAnnotation(*item);
-        if (!annotation) {
-            content.skipped.add("items[" + std::to_string(number) + "]: no target");
-        } else {
-            const std::string& source = annotation->source;
-            const std::size_t book = shelf.bookOf(!title.empty()   ? title
-                                                  : source.empty() ? stem
-                                                                   : source,
-                                                  author);
-            SourceNote& note = annotation->note;
-            if (note.uuid.empty()) {
-                note.uuid = uuidOf(shelf.hashOf(book), note);
-            }
-            shelf.add(book, std::move(note));
-        }
-        ++number;
-    }
-    content.books = shelf.take();
-    return content;
+    return Reader(set, path).read(itemsOf(set, path));
 }
+
+}  // namespace client

@@ -5,9 +5,13 @@
 #include <string>
 #include <string_view>
 
-#include "client/sources/source.h"
+#include "client/sources/content/source_content.h"
+
+namespace client {
 
 bool isAnnotationSet(std::string_view start);
 
 // Annotations without a target are skipped.
 SourceContent readAnnotationSet(const std::string& path);
+
+}  // namespace client

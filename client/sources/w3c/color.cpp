@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <string_view>
 
+#include "client/text/numbers.h"
+
+namespace client {
 namespace {
 
 struct Color {
@@ -34,16 +37,18 @@ int distance(int one, int other) {
 }  // namespace
 
 std::string colorNamed(const std::string& text) {
-    int value = 0;
-    const char* const end = text.data() + text.size();
-    if (text.size() != 7 || text[0] != '#' ||
-        std::from_chars(text.data() + 1, end, value, 16).ptr != end || value < 0) {
+    const auto value = text.size() == 7 && text[0] == '#'
+                           ? parseNumber<unsigned>(std::string_view(text).substr(1), 16)
+                           : std::nullopt;
+    if (!value) {
         return text;
     }
-    return std::min_element(kColors.begin(), kColors.end(),
-                            [value](const Color& one, const Color& other) {
-                                return distance(one.value, value) <
-                                       distance(other.value, value);
-                            })
+    return std::min_element(
+               kColors.begin(), kColors.end(),
+               [color = static_cast<int>(*value)](const Color& one, const Color& other) {
+                   return distance(one.value, color) < distance(other.value, color);
+               })
         ->name;
 }
+
+}  // namespace client

@@ -3,5 +3,9 @@
 
 #include <string>
 
-// Of "#rrggbb" the name of the nearest colour that has one; any other text stays.
+namespace client {
+
+// Returns for "#rrggbb" the name of the nearest colour that has one, else the text.
 std::string colorNamed(const std::string& text);
+
+}  // namespace client

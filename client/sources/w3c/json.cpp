@@ -1,5 +1,6 @@
 #include "client/sources/w3c/json.h"
 
+namespace client {
 namespace {
 
 const JsonValue kNull;
@@ -42,3 +43,5 @@ std::string textOf(const JsonValue& value) {
                ? text(value.MemberBegin()->value)
                : std::string();
 }
+
+}  // namespace client

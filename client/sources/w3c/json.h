@@ -1,4 +1,4 @@
-// Values of JSON-LD, where one thing may stand for a list of it.
+// Values of JSON-LD, where one value may stand for a list of one.
 #pragma once
 
 #include <rapidjson/document.h>
@@ -8,17 +8,22 @@
 
 #include "dump/json_sax.h"
 
+namespace client {
+
 using JsonDocument =
     rapidjson::GenericDocument<rapidjson::UTF8<>,
                                rapidjson::MemoryPoolAllocator<host::ThrowingAllocator>,
                                host::ThrowingAllocator>;
 using JsonValue = JsonDocument::ValueType;
 
-// The member of an object; null when it has none, and when the value is no object.
+// Returns the member of an object; null if there is none, or if the value is not an object.
 const JsonValue& memberOf(const JsonValue& value, const char* name);
 
-// The elements of an array; of anything else the value itself, and of null nothing.
+// Returns the elements of an array; the value itself if it is not an array, none if it is
+// null.
 std::vector<const JsonValue*> elementsOf(const JsonValue& value);
 
-// A text, also when it stands under its language; empty for anything else.
+// Returns a text, also one under the name of its language; empty for any other value.
 std::string textOf(const JsonValue& value);
+
+}  // namespace client

@@ -1,4 +1,4 @@
-// Where the device keeps its databases and the style sheet of exported notes.
+// The device's databases, the style sheet of exported notes, and their folder.
 #pragma once
 
 #ifndef NOTES_EXPORT_DEVICE_ROOT
@@ -15,5 +15,6 @@ inline constexpr const char* kLibraryDatabasePath =
     NOTES_EXPORT_DEVICE_ROOT "/system/config/library.db";
 inline constexpr const char* kNoteStyleSheetPath =
     NOTES_EXPORT_DEVICE_ROOT "/system/reader/notes.css";
+inline constexpr const char* kNotesDirectory = NOTES_EXPORT_DEVICE_ROOT "/Notes";
 
 }  // namespace host

@@ -41,8 +41,6 @@ LibraryStore::LibraryStore(const std::string& path)
     : connection_(std::make_unique<Connection>(path, kSchema)) {}
 
 LibraryStore::~LibraryStore() = default;
-LibraryStore::LibraryStore(LibraryStore&&) noexcept = default;
-LibraryStore& LibraryStore::operator=(LibraryStore&&) noexcept = default;
 
 bool LibraryStore::isAt(const std::string& path) const {
     return std::filesystem::absolute(path) == connection_->file() &&
@@ -50,11 +48,11 @@ bool LibraryStore::isAt(const std::string& path) const {
 }
 
 void LibraryStore::putBook(const LibraryBook& book) {
-    putBooks({book}, KnownBooks::Correct);
+    putBooks({book}, OnKnownBook::Overwrite);
 }
 
-void LibraryStore::putBooks(const std::vector<LibraryBook>& books, KnownBooks known) {
-    const char* put = known == KnownBooks::Correct ? kPutBook : kCompleteBook;
+void LibraryStore::putBooks(const std::vector<LibraryBook>& books, OnKnownBook known) {
+    const char* put = known == OnKnownBook::Overwrite ? kPutBook : kCompleteBook;
     connection_->write([&] {
         for (const LibraryBook& book : books) {
             connection_->query(put, Blob{book.fastHash}, book.title, book.author, book.path)

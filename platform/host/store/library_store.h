@@ -27,8 +27,8 @@ public:
     // Opens the database at `path`, creating it, and the directories to it, when missing.
     explicit LibraryStore(const std::string& path);
     ~LibraryStore();
-    LibraryStore(LibraryStore&& other) noexcept;
-    LibraryStore& operator=(LibraryStore&& other) noexcept;
+    LibraryStore(const LibraryStore&) = delete;
+    LibraryStore& operator=(const LibraryStore&) = delete;
 
     // Whether this is the database that opening `path` would give now.
     bool isAt(const std::string& path) const;
@@ -38,7 +38,7 @@ public:
 
     // Adds all these in one transaction; what is known of those that are there changes as
     // `known` says.
-    void putBooks(const std::vector<LibraryBook>& books, KnownBooks known);
+    void putBooks(const std::vector<LibraryBook>& books, OnKnownBook known);
 
     std::optional<std::int64_t> findBook(const std::string& fastHash);  // raw bytes
     std::optional<LibraryBook> book(std::int64_t id);

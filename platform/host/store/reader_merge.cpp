@@ -27,11 +27,11 @@ constexpr const char* kFindOtherTag =
     "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
 
 // Several tags in one statement take a quarter less time than one after the other.
-constexpr std::size_t kMostTagsAtOnce = 8;
+constexpr std::size_t kMaxTagsAtOnce = 8;
 
 const char* mergeTagsStatement(std::size_t tags) {
     static const auto statements = [] {
-        std::array<std::string, kMostTagsAtOnce> all;
+        std::array<std::string, kMaxTagsAtOnce> all;
         std::string rows = "(?, ?, ?, ?, ?)";
         for (std::string& statement : all) {
             statement = "INSERT INTO tags (note_id, tag, text, json, timestamp) VALUES " +
@@ -71,7 +71,7 @@ int ReaderStore::merge(const std::vector<BookRecord>& books) {
     return merged;
 }
 
-LoadResult ReaderStore::load(const std::vector<BookRecord>& books, KnownBooks known) {
+LoadResult ReaderStore::load(const std::vector<BookRecord>& books, OnKnownBook known) {
     LoadResult result;
     connection_->write([&] {
         for (const BookRecord& book : books) {
@@ -81,9 +81,9 @@ LoadResult ReaderStore::load(const std::vector<BookRecord>& books, KnownBooks kn
     return result;
 }
 
-void ReaderStore::loadBook(const BookRecord& book, KnownBooks known, LoadResult& result) {
+void ReaderStore::loadBook(const BookRecord& book, OnKnownBook known, LoadResult& result) {
     const std::int64_t bookId = mergeBook(book);
-    const char* update = known == KnownBooks::Correct ? kCorrectBook : kCompleteBook;
+    const char* update = known == OnKnownBook::Overwrite ? kCorrectBook : kCompleteBook;
     connection_->query(update, book.fastHash, book.title, book.path).run();
     for (const NoteRecord& incoming : book.notes) {
         const Merged merged = mergeNote(bookId, incoming);
@@ -115,8 +115,8 @@ std::int64_t ReaderStore::findNote(std::int64_t bookId, const std::string& uuid)
 
 std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) {
     std::size_t taken = 0;
-    for (std::size_t first = 0; first < note.tags.size(); first += kMostTagsAtOnce) {
-        const std::size_t end = std::min(first + kMostTagsAtOnce, note.tags.size());
+    for (std::size_t first = 0; first < note.tags.size(); first += kMaxTagsAtOnce) {
+        const std::size_t end = std::min(first + kMaxTagsAtOnce, note.tags.size());
         Query statement = connection_->query(mergeTagsStatement(end - first));
         for (std::size_t place = first; place < end; ++place) {
             const TagRecord& tag = note.tags[place];

@@ -77,10 +77,8 @@ ReaderStore::ReaderStore(const std::string& path)
     : connection_(std::make_unique<Connection>(path, kSchema)) {}
 
 ReaderStore::~ReaderStore() = default;
-ReaderStore::ReaderStore(ReaderStore&&) noexcept = default;
-ReaderStore& ReaderStore::operator=(ReaderStore&&) noexcept = default;
 
-void ReaderStore::followFile() {
+void ReaderStore::reopenIfReplaced() {
     if (connection_->isReplaced()) {
         connection_ = std::make_unique<Connection>(connection_->file(), kSchema);
     }

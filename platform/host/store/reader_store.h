@@ -42,12 +42,12 @@ public:
     // Opens the database at `path`, creating it, and the directories to it, when missing.
     explicit ReaderStore(const std::string& path);
     ~ReaderStore();
-    ReaderStore(ReaderStore&& other) noexcept;
-    ReaderStore& operator=(ReaderStore&& other) noexcept;
+    ReaderStore(const ReaderStore&) = delete;
+    ReaderStore& operator=(const ReaderStore&) = delete;
 
     // Opens the database again when its file was replaced. Row identifiers of the old file
     // are not valid in the new one.
-    void followFile();
+    void reopenIfReplaced();
 
     // All books, by fast hash.
     std::vector<BookEntry> books();
@@ -83,11 +83,11 @@ public:
     // The same, but a known book gets the title and path of its record as `known` says.
     // Tells of each note that has a tag whose text or JSON remains another than its
     // record's.
-    LoadResult load(const std::vector<BookRecord>& books, KnownBooks known);
+    LoadResult load(const std::vector<BookRecord>& books, OnKnownBook known);
 
 private:
     std::int64_t mergeBook(const BookRecord& book);
-    void loadBook(const BookRecord& book, KnownBooks known, LoadResult& result);
+    void loadBook(const BookRecord& book, OnKnownBook known, LoadResult& result);
     struct Merged {
         bool changed;   // the note, in any way
         bool complete;  // every tag was taken over

@@ -34,6 +34,6 @@ struct BookRecord {
 
 // What incoming records do to the title, author and path of a book that a database has:
 // replace all of them, or fill in those that are empty.
-enum class KnownBooks { Correct, Complete };
+enum class OnKnownBook { Overwrite, FillEmpty };
 
 }  // namespace host

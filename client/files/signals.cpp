@@ -1,13 +1,14 @@
-#include "client/files/cleanup_on_signal.h"
+#include "client/files/signals.h"
 
 #include <atomic>
 
+namespace client {
 namespace {
 
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-std::atomic<const Leftover*> registered{nullptr};
-static_assert(std::atomic<const Leftover*>::is_always_lock_free);
+std::atomic<void (*)()> registered{nullptr};
+static_assert(decltype(registered)::is_always_lock_free);
 
 sigset_t endingSignals() {
     sigset_t result;
@@ -18,19 +19,17 @@ sigset_t endingSignals() {
     return result;
 }
 
-extern "C" void removeLeftover(int signal) {
-    if (const Leftover* leftover = registered) {
-        leftover->remove();
-    }
-    static_cast<void>(
-        raise(signal));  // with its default action again, once this handler has returned
+extern "C" void cleanUpAndDie(int signal) {
+    registered.load()();
+    // With its default action again, once this handler has returned.
+    static_cast<void>(raise(signal));
 }
 
 void handle(int signal) {
     struct sigaction action = {};
     sigaction(signal, nullptr, &action);
     if (action.sa_handler == SIG_DFL) {
-        action.sa_handler = removeLeftover;
+        action.sa_handler = cleanUpAndDie;
         action.sa_mask = endingSignals();
         action.sa_flags = static_cast<int>(SA_RESETHAND);
         sigaction(signal, &action, nullptr);
@@ -39,16 +38,18 @@ void handle(int signal) {
 
 }  // namespace
 
-SignalsHeld::SignalsHeld() {
+SignalBlock::SignalBlock() {
     const sigset_t signals = endingSignals();
     pthread_sigmask(SIG_BLOCK, &signals, &before_);
 }
 
-SignalsHeld::~SignalsHeld() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+SignalBlock::~SignalBlock() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
 
-void removeOnSignal(const Leftover* leftover) {
-    registered = leftover;
+void cleanUpOnSignal(void (*cleanUp)()) {
+    registered = cleanUp;
     for (const int signal : kSignals) {
         handle(signal);
     }
 }
+
+}  // namespace client

@@ -1,4 +1,4 @@
-#include "store/notes_ahead.h"
+#include "store/note_prefetch.h"
 
 #include <utility>
 
@@ -19,13 +19,13 @@ std::size_t sizeOf(const std::optional<NoteRecord>& note) {
 
 }  // namespace
 
-void NotesAhead::expect(std::vector<std::int64_t> ids) {
+void NotePrefetch::expect(std::vector<std::int64_t> ids) {
     notes_.clear();
     ids_ = std::move(ids);
     next_ = 0;
 }
 
-std::optional<NoteRecord> NotesAhead::take(ReaderStore& store, std::int64_t id) {
+std::optional<NoteRecord> NotePrefetch::take(ReaderStore& store, std::int64_t id) {
     if (next_ == ids_.size() || ids_[next_] != id) {
         return store.note(id);
     }
@@ -38,7 +38,7 @@ std::optional<NoteRecord> NotesAhead::take(ReaderStore& store, std::int64_t id) 
     return note;
 }
 
-void NotesAhead::read(ReaderStore& store) {
+void NotePrefetch::read(ReaderStore& store) {
     store.inReadTransaction([&] {
         std::size_t size = 0;
         for (std::size_t place = next_; place < ids_.size() && size < kMaxSize; ++place) {

@@ -14,7 +14,7 @@ namespace host {
 // Serves notes in the order of a list of identifiers. A database that is locked for each
 // note takes twice as long to read; it is locked here for as many as a fixed amount of
 // memory holds. Each note is handed out once, so that who asks again gets it as it is then.
-class NotesAhead {
+class NotePrefetch {
 public:
     // Forgets the notes that were read, and expects to be asked for these.
     void expect(std::vector<std::int64_t> ids);

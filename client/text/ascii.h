@@ -1,0 +1,27 @@
+// Letters and digits of ASCII, in every locale.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace client {
+
+inline bool isAsciiDigit(char byte) { return byte >= '0' && byte <= '9'; }
+
+inline char asciiLowered(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
+inline std::string asciiLowered(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(),
+                   [](char byte) { return asciiLowered(byte); });
+    return result;
+}
+
+inline bool isAsciiLetter(char byte) {
+    return asciiLowered(byte) >= 'a' && asciiLowered(byte) <= 'z';
+}
+
+}  // namespace client
