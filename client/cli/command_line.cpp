@@ -2,7 +2,28 @@
 
 #include <utility>
 
+#include "client/cli/examples.h"
+#include "client/cli/usage_errors.h"
+
 namespace client {
+namespace {
+
+void addAll(CommandLine& commandLine) {
+    commandLine.parser.require_subcommand(1);
+    commandLine.parser.failure_message(usageError);
+    commandLine.parser.set_version_flag("--version", "notes-export " NOTES_EXPORT_VERSION);
+    commandLine.parser
+        .add_option("-C", commandLine.folder,
+                    "The folder that holds the collection (default: this folder)")
+        ->type_name("DIR");
+    addFileCommands(commandLine);
+    addListCommands(commandLine);
+    addExportCommands(commandLine);
+    // Last, as commands take over the one there is.
+    commandLine.parser.footer(examples::kAll);
+}
+
+}  // namespace
 
 CLI::App& addCommand(CommandLine& commandLine, const char* name, const char* description,
                      CollectionNeed need, std::function<void()> action) {
@@ -28,6 +49,23 @@ CLI::Validator callersPath() {
         return std::string();
     };
     return {resolve, ""};
+}
+
+int runCommandLine(int argc, const char* const* argv) {
+    CommandLine commandLine;
+    addAll(commandLine);
+    CLI::App& parser = commandLine.parser;
+    try {
+        parser.parse(argc, argv);
+    } catch (const CLI::RequiredError& error) {
+        // For an unknown command, the parser reports only that a known one is missing.
+        const std::vector<std::string> unknown = parser.remaining();
+        parser.exit(unknown.empty() ? CLI::Error(error) : unknownWords(unknown));
+        return 2;
+    } catch (const CLI::ParseError& error) {
+        return parser.exit(error) == 0 ? 0 : 2;
+    }
+    return 0;
 }
 
 }  // namespace client

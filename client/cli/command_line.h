@@ -35,4 +35,8 @@ CLI::Option& addBook(CLI::App& command, std::vector<std::string>& books);
 // Returns the transformation of a path that stays relative to the caller's own folder.
 CLI::Validator callersPath();
 
+// Runs the command that the arguments name. Returns 0, or 2 when they are not understood,
+// which has been explained on standard error then. Throws what the command throws.
+int runCommandLine(int argc, const char* const* argv);
+
 }  // namespace client

@@ -12,7 +12,8 @@ namespace {
 using Request = std::shared_ptr<ExportRequest>;
 
 void addDirectory(CLI::App& command, std::string& directory) {
-    command.add_option("--dir", directory, "Folder for the pages (default: the collection's)")
+    command
+        .add_option("--dir", directory, "Folder for the pages (default: the collection's)")
         ->type_name("DIR")
         ->transform(callersPath());
 }

@@ -11,12 +11,12 @@ namespace {
 
 void addLoad(CommandLine& commandLine) {
     const auto request = std::make_shared<LoadRequest>();
-    CLI::App& loading =
-        addCommand(commandLine, "load", "Put the books and notes of files into the collection",
-                   CollectionNeed::MayBeEmpty, [&commandLine, request] {
-                       request->displayRoot = commandLine.folder;
-                       load(*request);
-                   });
+    CLI::App& loading = addCommand(commandLine, "load",
+                                   "Put the books and notes of files into the collection",
+                                   CollectionNeed::MayBeEmpty, [&commandLine, request] {
+                                       request->displayRoot = commandLine.folder;
+                                       load(*request);
+                                   });
     loading.add_option("FILE", request->files, "Files of any kind that notes come in")
         ->transform(callersPath())
         ->required();

@@ -7,10 +7,10 @@
 #include <new>
 #include <system_error>
 
-#include "client/cli/run_command_line.h"
+#include "client/cli/command_line.h"
 #include "client/commands/batch.h"
 #include "client/error.h"
-#include "client/terminal/error_text.h"
+#include "client/terminal/terminal.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "client/cli/usage_errors.h"
 
-#include "client/terminal/error_text.h"
+#include "client/terminal/terminal.h"
 #include "client/text/affixes.h"
+#include "client/text/control_characters.h"
 #include "client/text/iso_time.h"
 #include "client/text/numbers.h"
-#include "client/text/one_line.h"
 
 namespace client {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "client/terminal/error_text.h"
 #include "client/terminal/progress_bar.h"
+#include "client/terminal/terminal.h"
 
 namespace client {
 

@@ -4,14 +4,14 @@
 #include <iostream>
 #include <utility>
 
-#include "client/collection/book_search.h"
+#include "client/collection/books.h"
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
 #include "client/error.h"
 #include "client/pages/exporter.h"
 #include "client/pages/note_selection.h"
 #include "client/pages/page_export.h"
-#include "client/text/one_line.h"
+#include "client/text/control_characters.h"
 
 namespace client {
 namespace {

@@ -2,8 +2,7 @@
 #include <set>
 #include <utility>
 
-#include "client/collection/book_details.h"
-#include "client/collection/book_search.h"
+#include "client/collection/books.h"
 #include "client/collection/note_reader.h"
 #include "client/commands/commands.h"
 #include "client/error.h"

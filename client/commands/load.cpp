@@ -5,8 +5,8 @@
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
 #include "client/sources/source.h"
+#include "client/text/control_characters.h"
 #include "client/text/first_few.h"
-#include "client/text/one_line.h"
 
 namespace client {
 namespace {

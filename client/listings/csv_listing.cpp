@@ -3,7 +3,6 @@
 
 #include "client/listings/csv_cell.h"
 #include "client/listings/listing.h"
-#include "client/listings/note_text.h"
 
 namespace client {
 namespace {

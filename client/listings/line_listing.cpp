@@ -1,8 +1,7 @@
 // For people: one line for each, its fields separated by tabs.
 #include "client/listings/listing.h"
-#include "client/listings/note_text.h"
 #include "client/terminal/terminal.h"
-#include "client/text/one_line.h"
+#include "client/text/control_characters.h"
 
 namespace client {
 namespace {

@@ -7,6 +7,8 @@
 
 #include "client/collection/book.h"
 #include "client/collection/note.h"
+#include "client/text/iso_time.h"
+#include "client/text/numbers.h"
 
 namespace client {
 
@@ -65,5 +67,13 @@ extern const ListingFormat kMarkdownFormat;
 
 inline constexpr const ListingFormat* kListingFormats[] = {&kLineFormat, &kJsonFormat,
                                                            &kCsvFormat, &kMarkdownFormat};
+
+inline std::string pageText(const Note& note) {
+    return note.page ? decimal(*note.page) : std::string();
+}
+
+inline std::string timeText(const Note& note) {
+    return note.time == 0 ? std::string() : isoTime(note.time);
+}
 
 }  // namespace client

@@ -2,10 +2,9 @@
 // those of several books are one without, as front matter has its place only at the start.
 #include "client/listings/listing.h"
 #include "client/listings/markdown_text.h"
-#include "client/listings/note_text.h"
 #include "client/listings/picture_folder.h"
+#include "client/text/control_characters.h"
 #include "client/text/line_breaks.h"
-#include "client/text/one_line.h"
 
 namespace client {
 namespace {

@@ -5,7 +5,6 @@
 
 #include "client/text/control_characters.h"
 #include "client/text/line_breaks.h"
-#include "client/text/one_line.h"
 
 namespace client {
 namespace {

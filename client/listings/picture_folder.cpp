@@ -10,7 +10,7 @@
 #include <system_error>
 
 #include "client/files/whole_file.h"
-#include "client/text/one_line.h"
+#include "client/text/control_characters.h"
 #include "client/text/percent_encoding.h"
 
 namespace client {

@@ -3,7 +3,10 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <sstream>
 #include <string_view>
+
+#include "client/text/control_characters.h"
 
 namespace client {
 namespace {
@@ -26,6 +29,16 @@ bool isColorful(int descriptor) {
 
 std::string bold(const std::string& text) {
     return isColorful(STDOUT_FILENO) ? "\033[1m" + text + "\033[0m" : text;
+}
+
+std::string errorText(const std::string& text) {
+    std::string result =
+        isColorful(STDERR_FILENO) ? "\033[1;31mnotes-export:\033[0m " : "notes-export: ";
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        result += oneLine(line) + '\n';
+    }
+    return result;
 }
 
 }  // namespace client

@@ -1,4 +1,4 @@
-// What a terminal is sent beyond plain text; a file or a pipe gets none of it.
+// Text as a terminal shows it; a file or a pipe gets plain text.
 #pragma once
 
 #include <string>
@@ -13,5 +13,9 @@ bool isColorful(int descriptor);
 
 // The text as standard output shows it in bold.
 std::string bold(const std::string& text);
+
+// Returns the text as standard error shows it: after the program's name, each line without
+// control characters, because paths and messages may hold any.
+std::string errorText(const std::string& text);
 
 }  // namespace client

@@ -49,4 +49,10 @@ std::string replaceControls(
     return result;
 }
 
+std::string oneLine(const std::string& text) {
+    return replaceControls(text, [](unsigned /*code*/, std::string_view /*character*/) {
+        return std::string(" ");
+    });
+}
+
 }  // namespace client

@@ -16,4 +16,8 @@ std::string replaceControls(
     std::string_view text,
     const std::function<std::string(unsigned code, std::string_view character)>& instead);
 
+// Returns the text as UTF-8, with a space for each character that a terminal obeys, and
+// U+FFFD for each byte that belongs to no character.
+std::string oneLine(const std::string& text);
+
 }  // namespace client

@@ -1,4 +1,4 @@
-// Points in time as ISO 8601 writes them.
+// The Gregorian calendar, and points in time as ISO 8601 writes them.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,15 @@
 #include <string_view>
 
 namespace client {
+
+struct Date {
+    std::int64_t year;
+    std::int64_t month;  // 1 to 12
+    std::int64_t day;    // 1 to 31
+};
+
+// Returns the days from 1 January 1970 to the date; nullopt if the calendar lacks it.
+std::optional<std::int64_t> daysSinceEpoch(const Date& date);
 
 // Returns the seconds since the Unix epoch of a date ("2026-03-07": its first second) or of
 // a date and time ("2026-03-07T09:05", with seconds or without, a space for the T): in UTC

@@ -29,4 +29,12 @@ std::optional<Number> parseNumber(std::string_view text, Form... form) {
                                                          : std::nullopt;
 }
 
+inline constexpr char kLowerHexDigits[] = "0123456789abcdef";
+inline constexpr char kUpperHexDigits[] = "0123456789ABCDEF";
+
+// Returns the two digits of the byte.
+inline std::string hexadecimal(unsigned char byte, const char* digits = kLowerHexDigits) {
+    return {digits[byte / 16], digits[byte % 16]};
+}
+
 }  // namespace client

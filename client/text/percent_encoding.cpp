@@ -1,7 +1,7 @@
 #include "client/text/percent_encoding.h"
 
 #include "client/text/ascii.h"
-#include "client/text/one_line.h"
+#include "client/text/control_characters.h"
 
 namespace client {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "client/text/hexadecimal.h"
+#include "client/text/numbers.h"
 
 namespace client {
 

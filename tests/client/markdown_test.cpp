@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "client/listings/markdown_text.h"
+#include "client/text/control_characters.h"
 #include "client/text/line_breaks.h"
-#include "client/text/one_line.h"
 #include "scratch_files.h"
 #include "text/utf8.h"
 

@@ -4,7 +4,6 @@
 #include <array>
 #include <iterator>
 
-#include "client/sources/clippings/details.h"
 #include "client/text/affixes.h"
 
 namespace client {

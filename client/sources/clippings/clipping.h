@@ -38,4 +38,8 @@ struct Clipping {
 // not a record.
 std::optional<Clipping> parseClipping(const std::vector<std::string_view>& lines);
 
+// Returns a clipping without title and text, and in an unknown language without kind;
+// nullopt if the line does not start with a dash.
+std::optional<Clipping> parseDetails(std::string_view line);
+
 }  // namespace client

@@ -3,10 +3,9 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "client/sources/clippings/matching.h"
-#include "client/sources/clippings/numbers.h"
+#include "client/sources/clippings/scanning.h"
 #include "client/sources/clippings/words.h"
-#include "client/text/calendar.h"
+#include "client/text/iso_time.h"
 
 namespace client {
 namespace {

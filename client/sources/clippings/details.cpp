@@ -1,12 +1,11 @@
-#include "client/sources/clippings/details.h"
+#include "client/sources/clippings/clipping.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "client/sources/clippings/date.h"
-#include "client/sources/clippings/matching.h"
-#include "client/sources/clippings/numbers.h"
+#include "client/sources/clippings/scanning.h"
 #include "client/sources/clippings/words.h"
 #include "client/text/affixes.h"
 #include "client/text/case_folding.h"

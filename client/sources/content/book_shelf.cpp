@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "client/text/hexadecimal.h"
+#include "client/text/numbers.h"
 
 namespace client {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "client/error.h"
 #include "client/files/whole_file.h"
-#include "client/text/one_line.h"
+#include "client/text/control_characters.h"
 
 namespace client {
 

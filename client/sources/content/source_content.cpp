@@ -1,7 +1,7 @@
-#include "client/sources/content/skipped_records.h"
+#include "client/sources/content/source_content.h"
 
+#include "client/text/control_characters.h"
 #include "client/text/first_few.h"
-#include "client/text/one_line.h"
 
 namespace client {
 

@@ -1,9 +1,10 @@
-// Finds the book that someone typed.
+// Finds the books of the collection.
 #pragma once
 
 #include <string>
 #include <vector>
 
+#include "client/collection/book.h"
 #include "store/reader_store.h"
 
 namespace client {
@@ -18,5 +19,7 @@ host::BookEntry findBook(const std::string& typed);
 
 // Throws UserError if the book's hash is not valid: it could be a path or an option.
 void requireHash(const host::BookEntry& book);
+
+std::vector<Book> detailsOf(const std::vector<host::BookEntry>& books);
 
 }  // namespace client

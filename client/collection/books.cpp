@@ -1,15 +1,18 @@
-#include "client/collection/book_search.h"
+#include "client/collection/books.h"
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 #include "client/error.h"
 #include "client/text/affixes.h"
 #include "client/text/case_folding.h"
+#include "client/text/control_characters.h"
 #include "client/text/first_few.h"
-#include "client/text/one_line.h"
 #include "store/book_hash.h"
 #include "store/database_paths.h"
+#include "store/library_store.h"
+#include "utilities/serialization_utils.h"
 
 namespace client {
 namespace {
@@ -64,6 +67,14 @@ std::vector<BookEntry> booksIn(host::ReaderStore& store) {
     return books;
 }
 
+std::string authorOf(const std::string& hash, host::LibraryStore& library) {
+    if (!host::isBookHash(hash)) {  // other text spells the bytes of some other book
+        return {};
+    }
+    const auto id = library.findBook(veloran::utilities::SerializationUtils::FromHex(hash));
+    return id ? library.book(*id).value_or(host::LibraryBook{}).author : std::string();
+}
+
 }  // namespace
 
 std::vector<BookEntry> allBooks() {
@@ -95,6 +106,16 @@ BookEntry findBook(const std::string& typed) {
     }
     requireHash(found[0]);
     return found[0];
+}
+
+std::vector<Book> detailsOf(const std::vector<host::BookEntry>& books) {
+    host::LibraryStore library(host::kLibraryDatabasePath);
+    std::vector<Book> details;
+    details.reserve(books.size());
+    for (const auto& [id, hash, title, path] : books) {
+        details.push_back({hash, title, authorOf(hash, library), path});
+    }
+    return details;
 }
 
 }  // namespace client

@@ -1,4 +1,4 @@
-#include "client/sources/clippings/numbers.h"
+#include "client/sources/clippings/scanning.h"
 
 #include <algorithm>
 #include <charconv>
