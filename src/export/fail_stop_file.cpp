@@ -2,6 +2,8 @@
 
 #include <locale>
 
+#include "export/file_path.h"
+
 namespace veloran {
 
 FailStopFilebuf::int_type FailStopFilebuf::overflow(int_type byte) {
@@ -19,9 +21,8 @@ std::streamsize FailStopFilebuf::xsputn(const char* bytes, std::streamsize count
 FailStopFile::FailStopFile(const std::string& path) : std::ostream(nullptr) {
     rdbuf(&buffer_);
     imbue(std::locale::classic());  // a global locale may convert bytes on their way out
-    // The system would open, and truncate, what stands before a zero byte.
-    const bool namesFile = path.find('\0') == std::string::npos;
-    if (!namesFile || buffer_.open(path, std::ios::out | std::ios::trunc) == nullptr) {
+    if (!namesFile(path) ||
+        buffer_.open(path, std::ios::out | std::ios::trunc) == nullptr) {
         setstate(failbit);
     }
 }

@@ -5,7 +5,8 @@
 
 namespace veloran {
 
-// The fast hash of the file at `path`; empty when it cannot be computed.
+// Returns the fast hash of the file at `path`, or an empty text if it cannot be computed.
+// `path` names a file (file_path.h).
 std::string hashOfFile(const std::string& path);
 
 // Marks the file with this fast hash as an exported document.

@@ -41,11 +41,20 @@ TEST_F(ExportedFile, FailureToCreateItChangesOnlyItsMark) {
     writeFile("Notes", "not a directory");
     EXPECT_EQ(joined(callsOfExport()), joined(expected));
     EXPECT_EQ(readFile("Notes"), "not a directory");
+}
 
+TEST_F(ExportedFile, PathWithZeroByteTouchesNoFile) {
+    loadSampleBook();
+    writeFile("Notes", "another file");
     Exporter exporter;
     exporter.setExportDir(std::string("Notes\0", 6));
     EXPECT_EQ(exporter.exportAll(), 0);
-    EXPECT_EQ(readFile("Notes"), "not a directory") << "what stands before a zero byte";
+    EXPECT_EQ(exporter.import_from_file(std::string("Notes\0", 6)), 0);
+    EXPECT_EQ(readFile("Notes"), "another file");
+    for (const std::string& call : script().calls) {
+        EXPECT_FALSE(startsWith(call, "FastBookHash")) << call;
+        EXPECT_FALSE(startsWith(call, "DbManager::SetFileProp")) << call;
+    }
 }
 
 // Limits the size of every file that this process writes.
