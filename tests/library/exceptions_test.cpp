@@ -1,4 +1,3 @@
-#include <functional>
 #include <stdexcept>
 
 #include "c_exporter.h"
@@ -33,6 +32,21 @@ protected:
         return failed;
     }
 
+    // Lets the first, the second, … platform call in `call` fail, until none does. Each
+    // time, `check` receives whether one did.
+    template <class Call, class Check>
+    void failEveryCall(Call call, Check check) {
+        bool failed = true;
+        for (int n = 1; failed; n++) {
+            SCOPED_TRACE("call " + std::to_string(n));
+            script().calls.clear();
+            failed = fails(n, call);
+            EXPECT_EQ(failed, made_ == n);
+            check(failed);
+            std::filesystem::remove_all("Notes");
+        }
+    }
+
     int made_ = 0;  // platform calls
 };
 
@@ -42,51 +56,58 @@ bool recordedOrder(void* /*userData*/, long long a, long long b) {
     return a % 12 < b % 12;
 }
 
-// Calls of the C interface that export, ask for a name, and create and free an exporter.
-TEST_P(PlatformExceptions, ReachTheCallerOfAnExportAndLeaveTheExporterUsable) {
+// The sample book, with its title in the reader database, so that every lookup is made.
+void loadBookOfReader() {
     loadSampleBook();
     veloran::utilities::Book book;
     std::swap(book.title, script().booksOfLibrary[kLibraryId].title);
     script().readerBooks[kBook] = {book};
-    const std::string whole = golden("full_export.html");
-    const CExporter exporter(kBook, "Notes");
-    const int open = script().openHandles;
-    const std::function<void()> calls[] = {
-        [] { CExporter(kBook, "Notes"); },
-        [&] { EXPECT_EQ(exporter.fileName(), kFile); },
-        [&] { EXPECT_EQ(exporter.exportNotes(recordedOrder), 0); },
-    };
-    std::string text;
-    for (const auto& call : calls) {
-        SCOPED_TRACE("function " + std::to_string(&call - calls));
-        bool failed = true;
-        for (int n = 1; failed; n++) {
-            std::filesystem::remove_all("Notes");
-            const std::string earlier = text;
-            script().calls.clear();
-            failed = fails(n, call);
-            text = withoutDates(readFile(kFile));
-            const bool begun = joined(script().calls).find("ImportExportDBV2") != text.npos;
-            EXPECT_EQ(text.empty(), !begun) << "titles are looked up before any writing";
-            EXPECT_TRUE(startsWith(whole, text) && startsWith(text, earlier)) << text;
-            EXPECT_EQ(failed, made_ == n) << "call " << n;
-            EXPECT_EQ(script().openHandles, open);
-
-            std::filesystem::remove_all("Notes");
-            EXPECT_EQ(exporter.exportNotes(recordedOrder), 0);
-            EXPECT_EQ(withoutDates(readFile(kFile)), whole) << "after call " << n;
-        }
-    }
-    EXPECT_EQ(text, whole);
 }
 
-TEST_P(PlatformExceptions, OfAnImportReachCppAndStandardOnesBecomeMinusOneInC) {
+TEST_P(PlatformExceptions, ExportThrowsAndLeavesPrefix) {
+    loadBookOfReader();
+    const std::string whole = golden("full_export.html");
+    const CExporter exporter(kBook, "Notes");
+    const auto exportNotes = [&] { EXPECT_EQ(exporter.exportNotes(recordedOrder), 0); };
+    const int open = script().openHandles;
+    std::string earlier;
+    failEveryCall(exportNotes, [&](bool failed) {
+        const std::string text = withoutDates(readFile(kFile));
+        const bool begun = joined(script().calls).find("ImportExportDBV2") != text.npos;
+        EXPECT_EQ(text.empty(), !begun) << "titles are looked up before any writing";
+        EXPECT_TRUE(startsWith(whole, text) && startsWith(text, earlier)) << text;
+        EXPECT_EQ(script().openHandles, open);
+        earlier = text;
+
+        std::filesystem::remove_all("Notes");
+        exportNotes();
+        EXPECT_EQ(withoutDates(readFile(kFile)), whole) << "the next export";
+        EXPECT_TRUE(failed || text == whole);
+    });
+}
+
+TEST_P(PlatformExceptions, NameQueryThrowsAndExporterStaysUsable) {
+    loadBookOfReader();
+    const CExporter exporter(kBook, "Notes");
+    const auto query = [&] { EXPECT_EQ(exporter.fileName(), kFile); };
+    const int open = script().openHandles;
+    failEveryCall(query, [&](bool) {
+        EXPECT_EQ(script().openHandles, open);
+        query();
+    });
+}
+
+TEST_P(PlatformExceptions, CreationThrowsAndLeavesNothingOpen) {
+    failEveryCall([] { CExporter(kBook, "Notes"); },
+                  [](bool) { EXPECT_EQ(script().openHandles, 0); });
+}
+
+TEST_P(PlatformExceptions, ImportThrowsInCppAndReturnsMinusOneInC) {
     writeFile("in.html", "");
     script().hashText = "abc123";
     script().importResult = 5;
     veloran::NotesExporter exporter;
     const CExporter cExporter(kBook, "Notes");
-    EXPECT_EQ(cExporter.importFile(nullptr), -1);
     for (int n = 1; n <= 5; n++) {
         SCOPED_TRACE("call " + std::to_string(n));
         EXPECT_TRUE(fails(n, [&] { exporter.import_from_file("in.html"); }));

@@ -89,9 +89,7 @@ ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool flag) {
 
 Note ReaderDbManager::getNote(const std::string& noteKey) {
     recordCall("ReaderDbManager::getNote", noteKey);
-    Note note = found(script().notes, noteKey);
-    script().fetchedRecords.insert(&note[Note::Tag::Uuid]);
-    return note;
+    return found(script().notes, noteKey);
 }
 
 }  // namespace veloran::utilities

@@ -45,11 +45,7 @@ std::string Note::getJsonTagElement(Tag tag, const std::string& key) const {
     return json ? json->get(key, "").asString() : "";
 }
 
-std::string Note::getColor() const {
-    script().copiedNotes += script().fetchedRecords.count(&(*this)[Tag::Uuid]) == 0 ? 1 : 0;
-    return textOf(*this, kColor, "getColor");
-}
-
+std::string Note::getColor() const { return textOf(*this, kColor, "getColor"); }
 std::string Note::getText() const { return textOf(*this, kText, "getText"); }
 std::string Note::getImage() const { return textOf(*this, kImage, "getImage"); }
 std::string Note::getNote() const { return textOf(*this, kComment, "getNote"); }

@@ -52,9 +52,7 @@ struct Script {
     std::vector<std::string> calls;
     std::function<void(const std::string& call)> onCall;
 
-    int openHandles = 0;                   // connections and databases
-    std::set<const void*> fetchedRecords;  // where getNote put what it fetched
-    int copiedNotes = 0;                   // notes that were rendered from elsewhere
+    int openHandles = 0;  // connections and databases
 };
 
 inline Script& script() {
