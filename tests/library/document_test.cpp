@@ -80,19 +80,74 @@ TEST_F(ExportedDocument, IsTheSameInEveryLocale) {
               golden("full_export.html"));
 }
 
-TEST_F(ExportedDocument, HasNoDumpWhenTheEngineFails) {
-    loadSampleBook();
-    script().exportSucceeds = false;
-    EXPECT_EQ(Exporter().exportAll(), 0);
-    EXPECT_EQ(readFile(kFile).find("<script"), std::string::npos);
+// The text without what begins at `from` and goes on to the end of `to`.
+std::string without(std::string text, const std::string& from, const std::string& to) {
+    const std::size_t start = text.find(from);
+    return text.erase(start, text.find(to, start) + to.size() - start);
 }
 
-TEST_F(ExportedDocument, ZeroByteCutsALineOfTheDump) {
+TEST_F(ExportedDocument, LeavesOutWhatIsMissing) {
+    const std::string author = "\n    <div class=\"bookmark bm-color-note\">\n      <span>";
+    const struct {
+        const char* name;
+        void (*remove)();
+        std::string from, to;  // the ends of what is left out
+    } rows[] = {
+        {"author", [] { script().booksOfLibrary[kLibraryId].author = ""; }, author,
+         "</div>"},
+        {"payload", [] { script().payload = ""; }, "\n    <script", "</script>"},
+        {"export", [] { script().exportSucceeds = false; }, "\n    <script", "</script>"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        script() = {};
+        std::filesystem::remove_all("Notes");
+        loadSampleBook();
+        row.remove();
+        EXPECT_EQ(Exporter().exportAll(), 0);
+        EXPECT_EQ(withoutDates(readFile(kFile)),
+                  without(golden("full_export.html"), row.from, row.to));
+    }
+}
+
+// The document's text after `from`, up to `to`.
+std::string between(const std::string& from, const std::string& to) {
+    const std::string document = readFile(kFile);
+    const std::size_t start = document.find(from) + from.size();
+    return document.substr(start, document.find(to, start) - start);
+}
+
+TEST_F(ExportedDocument, DumpIsBrokenIntoLines) {
+    const std::string line(72, 'a');
+    const struct {
+        const char* name;
+        std::string base64;
+        std::string lines;
+    } rows[] = {
+        {"empty", "", ""},
+        {"a line", line, line},
+        {"a line and more", line + "b", line + "\nb"},
+        {"two lines", line + line, line + "\n" + line},
+        {"zero bytes", line.substr(2) + std::string("b\0cd\0e", 6),
+         line.substr(2) + "b\ncd"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::filesystem::remove_all("Notes");
+        loadSampleBook();
+        script().base64 = row.base64;
+        EXPECT_EQ(Exporter().exportAll(), 0);
+        EXPECT_EQ(between("book_hash=\"626F6F6B\">", "\n  </head>\n"),
+                  row.lines + "</script>");
+    }
+}
+
+TEST_F(ExportedDocument, PictureWithoutBase64StaysElement) {
     loadSampleBook();
-    script().base64 = std::string(70, 'a') + std::string("b\0c", 3) + "d\0e";
+    script().base64 = "";
     EXPECT_EQ(Exporter().exportAll(), 0);
-    EXPECT_NE(readFile(kFile).find(">" + std::string(70, 'a') + "b\ncd</script>"),
-              std::string::npos);
+    EXPECT_EQ(between("<div class=\"bm-image\">", "\n    </div>"),
+              "\n        <img src=\"data:image/jpeg;base64,\"></img>\n      </div>");
 }
 
 TEST_F(ExportedDocument, HashIsFetchedAfterTheTypeOfTheDumpIsWritten) {
@@ -115,9 +170,7 @@ constexpr char kPath[] = NOTES_EXPORT_DEVICE_ROOT "/system/reader/notes.css";
 std::string exportedStyle() {
     std::filesystem::remove_all("Notes");
     EXPECT_EQ(Exporter().exportAll(), 0);
-    const std::string document = readFile(kFile), start = "  <style type=\"text/css\">";
-    const std::size_t at = document.find(start) + start.size();
-    return document.substr(at, document.find("</style>\n") - at);
+    return between("  <style type=\"text/css\">", "</style>\n");
 }
 
 TEST_F(ExportedDocument, StyleSheetIsCopiedUnescapedOrLeftEmpty) {

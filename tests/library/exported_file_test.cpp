@@ -33,6 +33,29 @@ TEST_F(ExportedFile, IsMarkedWithItsHashUnlessThatExceedsTheBuffer) {
     }
 }
 
+TEST_F(ExportedFile, IsCreatedRightAfterItsDirectories) {
+    loadSampleBook();
+    Calls before;  // that come while there is no file
+    script().onCall = [&](const std::string& call) {
+        if (!std::filesystem::exists(kFile)) {
+            before.push_back(call);
+        }
+    };
+    callsOfExport();
+    EXPECT_EQ(before.back(), "oa_buildpath(" + kFile + ")");
+}
+
+TEST_F(ExportedFile, ReplacesFileThatAppearsMeanwhile) {
+    loadSampleBook();
+    script().onCall = [](const std::string& call) {
+        if (startsWith(call, "oa_buildpath")) {
+            writeFile(kFile, std::string(10000, 'x'));
+        }
+    };
+    callsOfExport();
+    EXPECT_EQ(withoutDates(readFile(kFile)), golden("full_export.html"));
+}
+
 TEST_F(ExportedFile, FailureToCreateItChangesOnlyItsMark) {
     loadSampleBook();
     Calls expected = callsOfExport();

@@ -71,6 +71,18 @@ TEST_F(CInterface, RepeatedIdentifiersAreExportedOnceInTheCallersOrder) {
     EXPECT_EQ(renderedIds(), (Ids{13, 12, 11}));
 }
 
+TEST_F(CInterface, FreeingNullDoesNothing) {
+    free_notes_exporter(nullptr);
+    EXPECT_TRUE(script().calls.empty()) << joined(script().calls);
+}
+
+TEST_F(CInterface, NullImportPathReachesNoEngine) {
+    const CExporter exporter(kBook, "Notes");
+    script().calls.clear();
+    EXPECT_EQ(exporter.importFile(nullptr), -1);
+    EXPECT_TRUE(script().calls.empty()) << joined(script().calls);
+}
+
 TEST_F(CInterface, FileNameIsCutAtTheSizeOfTheBuffer) {
     const CExporter exporter(kBook, "Notes");
     const std::size_t length = kFile.size();

@@ -15,7 +15,7 @@ const std::function<void(Writer&)> kCalls[] = {
     [](Writer& w) { w.openElt("b").openElt("c").closeElt(); },
     [](Writer& w) { w.writeText("after"); },
     [](Writer& w) { w.closeElt(); },
-    [](Writer& w) { w.writeRaw(("<raw/>&" + Writer::encodeString("\">")).c_str()); },
+    [](Writer& w) { w.writeRaw(("<raw/>&" + Writer::encodeString("a\"b>c")).c_str()); },
     [](Writer& w) { w.openElt("d").writeText("").closeElt(); },
     [](Writer& w) { w.openElt("e").writeRaw("").closeElt(); },
     [](Writer& w) { w.openElt("f").write_escape(">"); },
@@ -23,7 +23,7 @@ const std::function<void(Writer&)> kCalls[] = {
 };
 constexpr char kMarkup[] =
     "<a x=\"1&amp;2\" y=\"\">&lt;b=&apos;c&apos; d=&quot;e&quot;&gt;&amp;;\n\x7f\xff\n  "
-    "<b>\n    <c></c>after\n  </b><raw/>&&quot;&gt;"
+    "<b>\n    <c></c>after\n  </b><raw/>&a&quot;b&gt;c"
     "\n  <d></d>\n  <e></e>\n  <f&gt;></f>\n</a>";
 
 TEST(Writer, IgnoresStreamFormattingAndStopsAfterAFailure) {
