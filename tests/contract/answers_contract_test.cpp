@@ -13,7 +13,7 @@
 using veloran::db::DbManager;
 using veloran::utilities::SerializationUtils;
 
-TEST_F(SeamContract, ReaderDatabaseFindsBooksByTheirHash) {
+TEST_F(SeamContract, ReaderDatabaseFindsBooksByHash) {
     ReaderDbManager manager;
     const auto books = manager.getBookByFastHash(kHash);
     ASSERT_FALSE(books.empty());
@@ -28,7 +28,7 @@ TEST_F(SeamContract, ReaderDatabaseFindsBooksByTheirHash) {
     EXPECT_TRUE(manager.getBookNotesHashUUIDs("ab", true).empty());
 }
 
-TEST_F(SeamContract, NotesComeInDatabaseOrderWithEverythingTheyHold) {
+TEST_F(SeamContract, NotesComeWholeInDatabaseOrder) {
     using Fields = std::vector<std::string>;
     const auto fields = [](const Note& note) {
         return Fields{note.uuid(),    note.getColor(), note.getText(),
@@ -49,7 +49,7 @@ TEST_F(SeamContract, NotesComeInDatabaseOrderWithEverythingTheyHold) {
     }
 }
 
-TEST_F(SeamContract, PositionNamesItsPageWithFractions) {
+TEST_F(SeamContract, PositionNamesPageWithFraction) {
     using Veloran::ReaderLib::extractPageFromnURI;
     double page = 0;
     EXPECT_TRUE(extractPageFromnURI(uriOfPage(12.75), page));
@@ -57,7 +57,7 @@ TEST_F(SeamContract, PositionNamesItsPageWithFractions) {
     EXPECT_FALSE(extractPageFromnURI("", page));
 }
 
-TEST_F(SeamContract, LibraryDatabaseAnswersForKnownAndUnknownBooks) {
+TEST_F(SeamContract, LibraryDatabaseFindsBooksByUid) {
     DbManager* library = DbManager::Instance();
     const long long id = library->GetBookIdByUid(1, SerializationUtils::FromHex(kHash));
     ASSERT_GE(id, 0);
@@ -74,7 +74,7 @@ TEST_F(SeamContract, LibraryDatabaseAnswersForKnownAndUnknownBooks) {
     EXPECT_EQ(none + nobody + library->GetBookLocalFilePath(kUnknown).string(), "");
 }
 
-TEST_F(SeamContract, FileOfAnyKindExistsAndAnUnusablePathDoesNot) {
+TEST_F(SeamContract, AnyKindOfFileExists) {
     using veloran::system::filesystem::IsFileExist;
     writeFile("file", "");
     std::filesystem::create_symlink("nowhere", "dangling");
@@ -85,14 +85,14 @@ TEST_F(SeamContract, FileOfAnyKindExistsAndAnUnusablePathDoesNot) {
     EXPECT_FALSE(IsFileExist(std::string(10000, 'x')) || IsFileExist({"file\0x", 6}));
 }
 
-TEST_F(SeamContract, FileNameFollowsTheLastSlash) {
+TEST_F(SeamContract, FileNameFollowsLastSlash) {
     using veloran::system::filesystem::GetFileNameFromPath;
     EXPECT_EQ(GetFileNameFromPath("/a/b.epub"), "b.epub");
     EXPECT_EQ(GetFileNameFromPath("a\\b"), "a\\b");
     EXPECT_EQ(GetFileNameFromPath("/a/") + GetFileNameFromPath(""), "");
 }
 
-TEST_F(SeamContract, BuildPathCreatesDirectoriesButNotTheFile) {
+TEST_F(SeamContract, BuildPathCreatesOnlyDirectories) {
     for (const char* path : {"a/b/file", "a/b/file", "file"}) {
         EXPECT_EQ(oa_buildpath(path), 0) << path;
     }
@@ -101,7 +101,7 @@ TEST_F(SeamContract, BuildPathCreatesDirectoriesButNotTheFile) {
     EXPECT_EQ(oa_buildpath("a/b/file/c/d"), -1);
 }
 
-TEST_F(SeamContract, HexadecimalOfEitherCaseIsReadAndBase64IsPadded) {
+TEST_F(SeamContract, HexIgnoresCaseAndBase64IsPadded) {
     EXPECT_EQ(SerializationUtils::FromHex("00ffAaBb7f"),
               std::string("\0\xff\xaa\xbb\x7f", 5));
     EXPECT_NO_THROW(SerializationUtils::FromHex("zz-1 \xff"));

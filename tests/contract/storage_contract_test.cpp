@@ -37,14 +37,14 @@ std::set<std::string> textsAfterImporting(const std::string& payload) {
 
 }  // namespace
 
-TEST_F(SeamContract, QueriesOfABrokenDatabaseThrow) {
+TEST_F(SeamContract, QueriesOfBrokenDatabaseThrow) {
     writeFile(readerDatabasePath(), std::string(4096, 'x'));
     ReaderDbManager manager;
     EXPECT_THROW(manager.getItemId(kHash), std::exception);
     EXPECT_THROW(manager.getNote("1"), std::exception);
 }
 
-TEST_F(SeamContract, ReplacedDatabaseFileIsUsedFromThenOn) {
+TEST_F(SeamContract, ReplacedDatabaseFileIsNoticed) {
     Engine engine;
     ReaderDbManager manager;
     EXPECT_EQ(manager.getItemId("bb"), -1);
@@ -64,7 +64,7 @@ TEST_F(SeamContract, ReplacedDatabaseFileIsUsedFromThenOn) {
     EXPECT_EQ(textsAfterImporting(payload), std::set<std::string>{"new"});
 }
 
-TEST_F(SeamContract, FilePropertyKeepsTheLastValueFromAnyThread) {
+TEST_F(SeamContract, FilePropertyIsKeptFromAnyThread) {
     constexpr DbManager::FileProp kProp{7};
     std::vector<std::thread> threads;
     for (const std::string hash : {"a", "b", "c", "d"}) {
@@ -85,7 +85,7 @@ TEST_F(SeamContract, FilePropertyKeepsTheLastValueFromAnyThread) {
     EXPECT_FALSE(DbManager::Instance()->SetFileProp("", kProp, "without a hash"));
 }
 
-TEST_F(SeamContract, FastHashDependsOnContentAndFitsItsBuffer) {
+TEST_F(SeamContract, FastHashFollowsContentAndFitsBuffer) {
     const std::string large(200000, 'x');
     writeFile("a", large);
     writeFile("b", large);
@@ -102,7 +102,7 @@ TEST_F(SeamContract, FastHashDependsOnContentAndFitsItsBuffer) {
     EXPECT_EQ(hashOf("missing") + hashOf("."), "");
 }
 
-TEST_F(SeamContract, RestrictedExportHoldsOnlyThoseNotes) {
+TEST_F(SeamContract, RestrictedExportHoldsOnlySelectedNotes) {
     const std::vector<Note> notes = notesOnDevice();
     Engine engine;
     const std::pair<std::set<unsigned long long>, std::set<std::string>> cases[] = {
@@ -119,7 +119,7 @@ TEST_F(SeamContract, RestrictedExportHoldsOnlyThoseNotes) {
     }
 }
 
-TEST_F(SeamContract, ExportAppendsAndFailsWithoutABook) {
+TEST_F(SeamContract, ExportAppendsAndFailsWithoutBook) {
     Engine engine;
     std::string payload, appended = "before";
     EXPECT_TRUE(engine->books_export(payload, {book_}));
@@ -129,7 +129,7 @@ TEST_F(SeamContract, ExportAppendsAndFailsWithoutABook) {
     EXPECT_FALSE(engine->books_export(payload, {kUnknown, ~0ULL}));
 }
 
-TEST_F(SeamContract, EngineUsesTheDatabaseOpenedLastOrFails) {
+TEST_F(SeamContract, EngineUsesDatabaseOpenedLast) {
     Veloran::ReaderLib::DataBase database;
     Veloran::ReaderLib::ImportExportDBV2 engine(&database, 10, 3);
     std::string payload;

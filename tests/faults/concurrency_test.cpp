@@ -40,7 +40,7 @@ constexpr std::size_t kSmallStack = 128 << 10;
 
 }  // namespace
 
-TEST_F(ConcurrentUse, ThreadWithASmallStackExportsAndImports) {
+TEST_F(ConcurrentUse, SmallStackThreadExportsAndImports) {
     const auto exportAndImport = [](void*) -> void* {
         const CExporter exporter(kBook, "Notes");
         EXPECT_GT(exporter.importFile(kDocument), 0);
@@ -57,7 +57,7 @@ TEST_F(ConcurrentUse, ThreadWithASmallStackExportsAndImports) {
     EXPECT_EQ(recordsOnDevice(), after_);
 }
 
-TEST_F(ConcurrentUse, ProcessesThatImportAtOnceLeaveTheRecordsOfAll) {
+TEST_F(ConcurrentUse, ParallelProcessesImportEveryRecord) {
     writeFile("other.html", otherDocument());
     std::filesystem::remove_all("mnt");
     for (const char* document : {kDocument, "other.html"}) {
@@ -80,7 +80,7 @@ TEST_F(ConcurrentUse, ProcessesThatImportAtOnceLeaveTheRecordsOfAll) {
     }
 }
 
-TEST_F(ConcurrentUse, ExportHoldsOneStateOfADatabaseThatChanges) {
+TEST_F(ConcurrentUse, ExportHoldsOneDatabaseState) {
     std::atomic<bool> ends = false;
     std::thread writer([&] {
         for (int time = 3; !ends; ++time) {
@@ -99,7 +99,7 @@ TEST_F(ConcurrentUse, ExportHoldsOneStateOfADatabaseThatChanges) {
     writer.join();
 }
 
-TEST_F(ConcurrentUse, ThreadsWithTheirOwnExportersDoNotDisturbEachOther) {
+TEST_F(ConcurrentUse, ThreadsWithOwnExportersStayIndependent) {
     std::vector<std::thread> threads;
     for (const char* directory : {"one", "two"}) {
         threads.emplace_back([directory] {

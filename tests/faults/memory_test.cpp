@@ -39,7 +39,7 @@ protected:
 
 }  // namespace
 
-TEST_P(OutOfMemory, ExportLeavesAPrefixThatIsNotMarked) {
+TEST_P(OutOfMemory, FailedExportLeavesUnmarkedPrefix) {
     const std::string readerDatabase = databaseBytes();
     const std::string libraryDatabase = readFile(host::kLibraryDatabasePath);
     const std::string name = veloran::NotesExporter().getExportedFileName(kBook);

@@ -12,7 +12,7 @@
 
 using Dump = OnEmptyDevice;
 
-TEST_F(Dump, ImportRestoresEveryRecordOnceInAnyOrder) {
+TEST_F(Dump, ImportRestoresEveryRecordOnce) {
     EXPECT_EQ(merge(sampleBooks()), 4);
     EXPECT_EQ(recordsOnDevice(), show(sampleBooks()));
     std::vector<host::BookRecord> books = sampleBooks();
@@ -36,7 +36,7 @@ TEST_F(Dump, ImportRestoresEveryRecordOnceInAnyOrder) {
     }
 }
 
-TEST_F(Dump, IsOneGzipMemberOfJsonWithoutTimeOrSystem) {
+TEST_F(Dump, IsOneGzipMemberOfJson) {
     merge({{"ab",
             "D\xc3\xbcne",
             "\xff",
@@ -60,7 +60,7 @@ TEST_F(Dump, IsOneGzipMemberOfJsonWithoutTimeOrSystem) {
               "{\"tag\":102,\"text_base64\":\"AA==\",\"timestamp\":7}]}]}]}");
 }
 
-TEST_F(Dump, CarriesMoreThanTenMegabytesOfPictures) {
+TEST_F(Dump, CarriesMegabytesOfPictures) {
     std::mt19937 random;
     std::string picture(1 << 20, '\0');  // of bytes that do not compress
     std::generate(picture.begin(), picture.end(),
@@ -78,7 +78,7 @@ TEST_F(Dump, CarriesMoreThanTenMegabytesOfPictures) {
     EXPECT_TRUE(recordsOnDevice() == show({book}));
 }
 
-TEST_F(Dump, BeyondALimitIsNeitherWrittenNorRead) {
+TEST_F(Dump, LimitsHoldForWritingAndReading) {
     merge(sampleBooks());
     const std::string payload = exported();
     const std::string lengthOfText = payload.substr(payload.size() - 4);
@@ -101,7 +101,7 @@ TEST_F(Dump, BeyondALimitIsNeitherWrittenNorRead) {
     }
 }
 
-TEST_F(Dump, InTwoPiecesIsRefused) {
+TEST_F(Dump, TrailingDataIsRefused) {
     merge(sampleBooks());
     const std::string payload = exported();
     EXPECT_THROW(host::readPayload({payload, "more"}), host::DumpError);

@@ -10,7 +10,7 @@
 #include "text/utf8.h"
 #include "utilities/note.h"
 
-TEST(PositionUri, PageIsReadFromTheQueryAlone) {
+TEST(PositionUri, PageComesFromQueryAlone) {
     const auto page = [](const std::string& uri) {
         double number = 0;
         const bool found = Veloran::ReaderLib::extractPageFromnURI(uri, number);
@@ -59,7 +59,7 @@ TEST(Utf8, InvalidSequenceIsFoundAtAnyPosition) {
     }
 }
 
-TEST(JsonElement, IsEmptyUnlessAnObjectHoldsAString) {
+TEST(JsonElement, IsEmptyUnlessObjectHoldsString) {
     using veloran::utilities::Note;
     const auto anchor = [](const std::string& json) {
         Note note;

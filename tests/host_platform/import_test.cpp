@@ -67,7 +67,7 @@ TEST_F(ImportedDocument, ExternalEntitiesAreNotFetched) {
     EXPECT_EQ(imported(start + "&dump;</script></html>"), host::kDumpDamaged);
 }
 
-TEST_F(ImportedDocument, IsReadInTimeProportionalToItsLength) {
+TEST_F(ImportedDocument, IsReadInLinearTime) {
     // '#' stands for a number that grows. The first document is the measure.
     const struct {
         const char *start, *unit, *refusal;
@@ -94,7 +94,7 @@ TEST_F(ImportedDocument, IsReadInTimeProportionalToItsLength) {
     }
 }
 
-TEST_F(ImportedDocument, InvalidBytesPrintNothingAndKeepTheErrorHandler) {
+TEST_F(ImportedDocument, InvalidBytesPrintNothing) {
     const auto handler = [](void* /*self*/, auto* /*error*/) {};
     const xmlStructuredErrorFunc own = handler;
     for (const xmlStructuredErrorFunc before : {xmlStructuredErrorFunc{}, own}) {
@@ -123,7 +123,7 @@ struct ShiftedBytes : std::codecvt<char, char, std::mbstate_t> {
     }
 };
 
-TEST_F(ImportedDocument, IsReadTheSameInEveryLocale) {
+TEST_F(ImportedDocument, IsReadAlikeInEveryLocale) {
     const std::string anchor = R"({"anchor":"book:/position?page=7","zoom":1.5})";
     merge({{"ab", "", "", {{"n", {{host::kAnchorTag, "", anchor, 7}}}}}});
     writeFile("export.html", documentOf(exported()));
@@ -142,7 +142,7 @@ TEST_F(ImportedDocument, IsReadTheSameInEveryLocale) {
     EXPECT_EQ(result, expected);
 }
 
-TEST_F(ImportedDocument, DamageLosesNothingOrLeavesTheDatabaseUnchanged) {
+TEST_F(ImportedDocument, DamagedFileIsRefusedOrReadWhole) {
     const std::vector<host::BookRecord> books = {
         {"ab", "T", "", {{"n", {{1, "n", {}, 7}, {101, "", R"({"anchor":"x"})", 8}}}}}};
     merge(books);
@@ -177,7 +177,7 @@ TEST_F(ImportedDocument, DamageLosesNothingOrLeavesTheDatabaseUnchanged) {
     EXPECT_TRUE(0 < refused && refused < damaged.size()) << refused;
 }
 
-TEST_F(Store, TimesAreClampedToTheRangeOfTheClock) {
+TEST_F(Store, TimesAreClampedToClockRange) {
     using Clock = std::numeric_limits<std::time_t>;
     using Stored = std::numeric_limits<std::int64_t>;
     const host::TagRecord last{1, "", {}, Stored::max()}, first{2, "", {}, Stored::min()};
@@ -187,7 +187,7 @@ TEST_F(Store, TimesAreClampedToTheRangeOfTheClock) {
     EXPECT_EQ(note[Note::Tag{2}].timestamp, Clock::min());
 }
 
-TEST_F(Store, UnreadableJsonIsKeptAsText) {
+TEST_F(Store, UnusedTagJsonStaysText) {
     const host::TagRecord position{host::kAnchorTag, "", R"({"anchor":"x"})", 1};
     const host::TagRecord other{999, "", R"({"anchor":"y"})", 1};
     merge({{"ab", "", "", {{"n", {position, other}}}}});
@@ -197,7 +197,7 @@ TEST_F(Store, UnreadableJsonIsKeptAsText) {
     EXPECT_NE(recordsOnDevice().find(*other.json), std::string::npos);
 }
 
-TEST_F(Store, FailuresNameTheFileAndTheCause) {
+TEST_F(Store, FailuresNameFileAndCause) {
     const std::string path = host::kReaderDatabasePath;
     host::ReaderStore store(path);
     EXPECT_THROW(store.merge({{"aa", "", "", {}}, {"ab", "", "", {{"", {}}}}}),
@@ -240,7 +240,7 @@ TEST_F(Store, FailuresNameTheFileAndTheCause) {
     EXPECT_EQ(failureOfReading(), path + ": unable to open database file");
 }
 
-TEST_F(Store, NotesThatAreReadAheadAreServedOnceAndForgottenWithTheirKeys) {
+TEST_F(Store, PrefetchedNoteIsReturnedOnce) {
     host::BookRecord book{"ab", "", "", {}};
     const auto mergeTexts = [&](char text, std::int64_t timestamp) {
         book.notes.clear();

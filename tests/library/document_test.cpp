@@ -8,7 +8,7 @@ namespace {
 
 using ExportedDocument = DeviceTest;
 
-TEST_F(ExportedDocument, IsCompleteOnDiskWhenItIsHashed) {
+TEST_F(ExportedDocument, IsCompleteBeforeItIsHashed) {
     loadSampleBook();
     std::string hashed;
     script().onCall = [&](const std::string& call) {
@@ -142,7 +142,7 @@ TEST_F(ExportedDocument, DumpIsBrokenIntoLines) {
     }
 }
 
-TEST_F(ExportedDocument, PictureWithoutBase64StaysElement) {
+TEST_F(ExportedDocument, EmptyPictureElementIsClosed) {
     loadSampleBook();
     script().base64 = "";
     EXPECT_EQ(Exporter().exportAll(), 0);
@@ -150,7 +150,7 @@ TEST_F(ExportedDocument, PictureWithoutBase64StaysElement) {
               "\n        <img src=\"data:image/jpeg;base64,\"></img>\n      </div>");
 }
 
-TEST_F(ExportedDocument, HashIsFetchedAfterTheTypeOfTheDumpIsWritten) {
+TEST_F(ExportedDocument, DumpTypePrecedesHashLookup) {
     loadSampleBook();
     script().itemIds[kBook] = -2;
     script().onCall = [](const std::string& call) {

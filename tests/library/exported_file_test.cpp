@@ -14,7 +14,7 @@ Calls callsOfExport() {
     return script().calls;
 }
 
-TEST_F(ExportedFile, IsMarkedWithItsHashUnlessThatExceedsTheBuffer) {
+TEST_F(ExportedFile, HashBeyondBufferIsIgnored) {
     const std::pair<int, std::size_t> cases[] = {
         // reported and trusted length
         {-1, 0}, {0, 0}, {1, 1}, {16, 16}, {256, 256}, {257, 0}, {1000, 0}};
@@ -33,7 +33,7 @@ TEST_F(ExportedFile, IsMarkedWithItsHashUnlessThatExceedsTheBuffer) {
     }
 }
 
-TEST_F(ExportedFile, IsCreatedRightAfterItsDirectories) {
+TEST_F(ExportedFile, IsOpenedBeforeTitleLookup) {
     loadSampleBook();
     Calls before;  // that come while there is no file
     script().onCall = [&](const std::string& call) {
@@ -45,7 +45,7 @@ TEST_F(ExportedFile, IsCreatedRightAfterItsDirectories) {
     EXPECT_EQ(before.back(), "oa_buildpath(" + kFile + ")");
 }
 
-TEST_F(ExportedFile, ReplacesFileThatAppearsMeanwhile) {
+TEST_F(ExportedFile, TruncatesFileThatAppearsMeanwhile) {
     loadSampleBook();
     script().onCall = [](const std::string& call) {
         if (startsWith(call, "oa_buildpath")) {
@@ -56,7 +56,7 @@ TEST_F(ExportedFile, ReplacesFileThatAppearsMeanwhile) {
     EXPECT_EQ(withoutDates(readFile(kFile)), golden("full_export.html"));
 }
 
-TEST_F(ExportedFile, FailureToCreateItChangesOnlyItsMark) {
+TEST_F(ExportedFile, CreationFailureChangesOnlyTheMark) {
     loadSampleBook();
     Calls expected = callsOfExport();
     expected.back() = "DbManager::SetFileProp(, 7, 2)";
@@ -66,7 +66,7 @@ TEST_F(ExportedFile, FailureToCreateItChangesOnlyItsMark) {
     EXPECT_EQ(readFile("Notes"), "not a directory");
 }
 
-TEST_F(ExportedFile, PathWithZeroByteTouchesNoFile) {
+TEST_F(ExportedFile, ZeroBytePathTouchesNoFile) {
     loadSampleBook();
     writeFile("Notes", "another file");
     Exporter exporter;
@@ -88,7 +88,7 @@ void limitFileSize(rlim_t bytes) {
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-TEST_F(ExportedFile, EndsWhereTheDiskGotFullEvenIfThereIsRoomLater) {
+TEST_F(ExportedFile, StopsAtFirstFailedWrite) {
     loadSampleBook();
     for (unsigned long long id = 100; id < 400; id++) {
         scripted::addNote(kBook, {id, "", "", std::string(2000, 'x'), "", "", "at 12.9"});

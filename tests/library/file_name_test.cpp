@@ -10,7 +10,7 @@ struct Name {
     std::string name;
 };
 
-TEST_F(FileName, KeepsHarmlessCharactersOfTheTitleAndCountsPastTakenNames) {
+TEST_F(FileName, KeepsSafeCharactersAndSkipsTakenNames) {
     std::string ascii, longTitle(300, 'x');
     for (char byte = 1; byte < 127; ++byte) {
         ascii += byte;

@@ -9,7 +9,7 @@ namespace {
 
 using CallOrder = DeviceTest;
 
-TEST_F(CallOrder, OfExportAndImportHasNotChanged) {
+TEST_F(CallOrder, MatchesGoldenFile) {
     loadSampleBook();
     {
         veloran::NotesExporter exporter;
@@ -26,20 +26,20 @@ TEST_F(CallOrder, OfExportAndImportHasNotChanged) {
     EXPECT_EQ(joined(calls), golden("calls.txt"));
 }
 
-TEST_F(CallOrder, UnknownBookEndsTheExportAfterOneLookup) {
+TEST_F(CallOrder, UnknownBookEndsExportAfterLookup) {
     Exporter exporter;
     EXPECT_EQ(exporter.exportAll(), -1);
     EXPECT_EQ(script().calls, Calls{"ReaderDbManager::getItemId(626f6f6b)"});
     EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
-TEST_F(CallOrder, FailedImportEndsAfterTheEngine) {
+TEST_F(CallOrder, FailedImportEndsAfterEngine) {
     for (const int result : {0, 5, -5}) {
         SCOPED_TRACE(result);
         Exporter exporter;
         script().importResult = result;
         EXPECT_EQ(exporter.import_from_file("in.html"), result);
-        EXPECT_EQ(script().calls.size(), result < 0 ? 2U : 3U) << joined(script().calls);
+        EXPECT_EQ(startsWith(script().calls.back(), "FastBookHash"), result >= 0);
     }
 }
 
@@ -47,7 +47,7 @@ struct CInterface : DeviceTest {
     CInterface() { loadSampleBook(); }
 };
 
-TEST_F(CInterface, NullArrayExportsEveryNoteToTheNamedFile) {
+TEST_F(CInterface, NullArrayExportsEveryNote) {
     const CExporter exporter(kBook, "./x//y/");
     const CExporter other(kBook, "other");
     EXPECT_EQ(exporter.fileName(), "./x//y//Dune  Sons.html");
@@ -58,7 +58,7 @@ TEST_F(CInterface, NullArrayExportsEveryNoteToTheNamedFile) {
     EXPECT_EQ(other.fileName(), "other/Dune  Sons.html");
 }
 
-TEST_F(CInterface, RepeatedIdentifiersAreExportedOnceInTheCallersOrder) {
+TEST_F(CInterface, RepeatedIdentifiersAreExportedOnce) {
     std::vector<std::pair<long long, long long>> seen;
     const auto before = [](void* userData, long long first, long long second) {
         static_cast<decltype(seen)*>(userData)->emplace_back(first, second);
@@ -83,7 +83,7 @@ TEST_F(CInterface, NullImportPathReachesNoEngine) {
     EXPECT_TRUE(script().calls.empty()) << joined(script().calls);
 }
 
-TEST_F(CInterface, FileNameIsCutAtTheSizeOfTheBuffer) {
+TEST_F(CInterface, FileNameIsCutAtBufferSize) {
     const CExporter exporter(kBook, "Notes");
     const std::size_t length = kFile.size();
     for (const std::size_t size :

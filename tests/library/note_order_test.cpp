@@ -76,7 +76,7 @@ TEST_F(NoteOrder, EqualNotesKeepOrderOfDatabase) {
     }
 }
 
-TEST_F(NoteOrder, OnlySelectedNotesAreAskedForAndRendered) {
+TEST_F(NoteOrder, OnlySelectedNotesAreRendered) {
     const std::pair<std::set<unsigned long long>, Ids> cases[] = {
         {{}, {5, 4, 3, 2, 1}}, {{2, 4}, {4, 2}}, {{4, 99}, {4}}, {{99}, {}}};
     loadPages({5, 4, 3, 2, 1});
@@ -110,7 +110,7 @@ TEST_F(Predicate, IsCopiedBeforeItIsCalled) {
     EXPECT_FALSE(before(1, 1)) << "the caller's own was asked";
 }
 
-TEST_F(Predicate, InconsistentAnswersStillWriteEveryNoteOnce) {
+TEST_F(Predicate, InconsistentAnswersWriteEveryNoteOnce) {
     const Before predicates[] = {
         [](auto, auto) { return true; },
         [](auto a, auto b) { return (b - a + 3) % 3 == 1; },  // a circle of three

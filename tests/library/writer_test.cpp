@@ -26,7 +26,7 @@ constexpr char kMarkup[] =
     "<b>\n    <c></c>after\n  </b><raw/>&a&quot;b&gt;c"
     "\n  <d></d>\n  <e></e>\n  <f&gt;></f>\n</a>";
 
-TEST(Writer, IgnoresStreamFormattingAndStopsAfterAFailure) {
+TEST(Writer, IgnoresFormattingAndStopsAfterFailure) {
     for (std::size_t failure = 0; failure <= std::size(kCalls); ++failure) {
         SCOPED_TRACE("failure before call " + std::to_string(failure));
         std::ostringstream stream;
@@ -47,7 +47,7 @@ TEST(Writer, IgnoresStreamFormattingAndStopsAfterAFailure) {
     }
 }
 
-TEST(Writer, WritesElementsOfAnyDepthAndTextsOfAnyLength) {
+TEST(Writer, WritesAnyDepthAndAnyLength) {
     const std::string runs = std::string(3000, 'x') + '&' + std::string(9000, 'y');
     const std::string escaped = std::string(3000, 'x') + "&amp;" + std::string(9000, 'y');
     std::ostringstream stream;
