@@ -24,6 +24,7 @@ struct Lookup {
     bool opensReaderDatabase;
 };
 
+// Library books hold title, author and path; reader books hold title and path.
 const Lookup kLookups[] = {
     {"library title", 0, {" D<e\n", "", "/x"}, {{"Other", ""}}, " D<e\n", false},
     {"library file", 0, {"", "", "/Books/a.epub"}, {{"Other", ""}}, "a.epub", false},

@@ -80,7 +80,7 @@ TEST_F(ExportedDocument, IsTheSameInEveryLocale) {
               golden("full_export.html"));
 }
 
-// The text without what begins at `from` and goes on to the end of `to`.
+// Returns the text without what begins at `from` and goes on to the end of `to`.
 std::string without(std::string text, const std::string& from, const std::string& to) {
     const std::size_t start = text.find(from);
     return text.erase(start, text.find(to, start) + to.size() - start);
@@ -110,7 +110,7 @@ TEST_F(ExportedDocument, LeavesOutWhatIsMissing) {
     }
 }
 
-// The document's text after `from`, up to `to`.
+// Returns the document's text after `from`, up to `to`.
 std::string between(const std::string& from, const std::string& to) {
     const std::string document = readFile(kFile);
     const std::size_t start = document.find(from) + from.size();

@@ -56,7 +56,8 @@ bool recordedOrder(void* /*userData*/, long long a, long long b) {
     return a % 12 < b % 12;
 }
 
-// The sample book, with its title in the reader database, so that every lookup is made.
+// Loads the sample book, with its title in the reader database, so that every lookup is
+// made.
 void loadBookOfReader() {
     loadSampleBook();
     veloran::utilities::Book book;

@@ -27,7 +27,7 @@ Ids ascendingIds(std::size_t count) {
     return ids;
 }
 
-// A book of notes without pages.
+// Makes a book of notes without pages.
 void loadIds(const Ids& ids) {
     script() = {};
     for (const unsigned long long id : ids) {

@@ -1,4 +1,4 @@
-// One note's text and page as they stand in the document.
+// The text and the page of a note in the document.
 #include <limits>
 #include <sstream>
 
@@ -9,7 +9,7 @@ namespace {
 using RenderedNote = DeviceTest;
 using Limits = std::numeric_limits<double>;
 
-// The markup of a note that has a text, or a page, and nothing else.
+// Returns the markup of a note with those fields, which have the identifier 1.
 std::string rendered(const scripted::NoteFields& fields) {
     scripted::addNote(kBook, fields);
     std::ostringstream stream;
