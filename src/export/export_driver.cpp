@@ -4,7 +4,6 @@
 #include "export/device_paths.h"
 #include "export/fail_stop_file.h"
 #include "export/file_mark.h"
-#include "export/file_path.h"
 #include "export/notes_exporter_impl.h"
 #include "oa_buildpath.h"
 
@@ -90,9 +89,7 @@ int NotesExporterImpl::export_bookmarks_to_html(const std::string& bookHash,
         writer.closeElt();
     }
     file.close();
-    if (namesFile(path)) {
-        markFile(hashOfFile(path));
-    }
+    markFile(hashOfFile(path));
     return 0;
 }
 

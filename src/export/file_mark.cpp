@@ -3,6 +3,7 @@
 #include <array>
 
 #include "db/db_manager.h"
+#include "export/file_path.h"
 #include "fast_book_hash.h"
 
 namespace veloran {
@@ -15,6 +16,9 @@ constexpr char kExportedDocument[] = "2";
 }  // namespace
 
 std::string hashOfFile(const std::string& path) {
+    if (!namesFile(path)) {
+        return {};
+    }
     std::array<char, 256> buffer{};
     constexpr int kCapacity = static_cast<int>(buffer.size());
     const int length = FastBookHash(path.c_str(), buffer.data(), kCapacity);

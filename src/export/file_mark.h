@@ -6,7 +6,6 @@
 namespace veloran {
 
 // Returns the fast hash of the file at `path`, or an empty text if it cannot be computed.
-// Only for a path that names a file (file_path.h).
 std::string hashOfFile(const std::string& path);
 
 // Marks the file with this fast hash as an exported document.

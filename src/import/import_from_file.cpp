@@ -1,6 +1,5 @@
 #include "export/dump_engine.h"
 #include "export/file_mark.h"
-#include "export/file_path.h"
 #include "export/notes_exporter_impl.h"
 #include "readerlib/import_export_db.h"
 
@@ -9,7 +8,7 @@ namespace veloran {
 int NotesExporterImpl::import_from_file(const std::string& path) {
     Veloran::ReaderLib::ImportExportDBV2 engine(&database_, kEngineLimit, kEngineMode);
     const int result = engine.books_import(path);
-    if (result < 0 || !namesFile(path)) {
+    if (result < 0) {
         return result;
     }
     const std::string hash = hashOfFile(path);
