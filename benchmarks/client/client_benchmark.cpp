@@ -74,9 +74,7 @@ double exportAll(std::size_t books) {
 double updateAll(std::size_t books) {
     exportAll(books);
     const Silence silence;
-    client::ExportRequest request = exportRequest();
-    request.target.update = true;
-    return secondsOf([&] { client::exportNotes(request); });
+    return secondsOf([] { client::exportNotes(exportRequest()); });
 }
 
 // Each book in an exporter of its own, as a program would that exports one book.

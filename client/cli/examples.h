@@ -8,7 +8,7 @@ namespace examples {
 inline constexpr const char* kAll = R"(Examples:
   notes-export -C reader load "My Clippings.txt" --pages Notes
   notes-export -C reader books
-  notes-export -C reader export --all --dir Notes
+  notes-export -C reader export --dir Notes
   notes-export -C other import Notes/Emma.html
 
 "notes-export COMMAND --help" explains a command. The full manual: "man notes-export")";
@@ -23,7 +23,7 @@ inline constexpr const char* kNotes = R"(Examples:
 
 inline constexpr const char* kExport = R"(Examples:
   notes-export -C reader export Emma --color yellow --order newest
-  notes-export -C reader export --all --update --dir Notes)";
+  notes-export -C reader export --dir Notes)";
 
 }  // namespace examples
 

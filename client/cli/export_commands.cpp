@@ -24,14 +24,14 @@ void addTarget(CLI::App& command, PageTarget& target) {
         ->type_name("FILE")
         ->transform(callersPath())
         ->excludes("--dir");
-    command.add_flag("--update", target.update, "Skip books whose page is up to date");
+    command
+        .add_flag("--new", target.isNew, "Write another page beside those that are there")
+        ->excludes("-o");
 }
 
 void requireBooks(const ExportRequest& request, const CLI::App& command) {
-    const bool all = command.count("--all") > 0;
-    if (request.books.empty() != all) {
-        throw CLI::ValidationError(all ? "--all excludes BOOK"
-                                       : "BOOK or --all is required");
+    if (!request.books.empty() && command.count("--all") > 0) {
+        throw CLI::ValidationError("--all excludes BOOK");
     }
     if (!request.target.file.empty() && request.books.size() != 1) {
         throw CLI::ValidationError("-o is for one BOOK");
@@ -52,12 +52,13 @@ CLI::App& addPageCommand(CommandLine& commandLine, const char* name,
 void addExport(CommandLine& commandLine) {
     const Request request = std::make_shared<ExportRequest>();
     CLI::App& exporting = addPageCommand(
-        commandLine, "export", "Export the notes of books and print the paths of the pages",
+        commandLine, "export", "Bring the pages of books up to date and print their paths",
         request, exportNotes);
     exporting.parse_complete_callback(
         [request, &exporting] { requireBooks(*request, exporting); });
     addBook(exporting, request->books).expected(1, -1)->required(false);
-    exporting.add_flag("--all", "Export every book");
+    exporting.add_flag("--all", "Export every book, as without BOOK");
+    exporting.add_flag("--update", "Replace older pages, as without this word");
     addFilter(exporting, request->filter);
     exporting
         .add_option("--order", request->order, "Order of the notes: page, id or newest")

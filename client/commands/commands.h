@@ -8,7 +8,7 @@
 
 #include "client/collection/note_filter.h"
 #include "client/listings/listing.h"
-#include "client/pages/page_target.h"
+#include "client/pages/page_export.h"
 
 namespace client {
 
@@ -20,7 +20,7 @@ struct LoadRequest {
 
 // Puts the books and notes of each file into the collection, then brings the pages of all
 // books up to date, also if some files have failed. Prints how many notes were added or
-// changed, with the file's name if there are several, and the path of each page written.
+// changed, with the file's name if there are several, and the path of each page.
 void load(const LoadRequest& request);
 
 // Prints every book, in lines its hash, title and author, separated by tabs.
@@ -44,12 +44,12 @@ struct ExportRequest {
     PageTarget target = {};
 };
 
-// Exports each book's notes and prints the path of each page that it writes.
+// Brings each book's page up to date and prints its path.
 void exportNotes(const ExportRequest& request);
 
-// Prints the path of the page that an export of the book would write; of the target, only
-// the directory counts.
-void printName(const std::string& book, const PageTarget& target);
+// Prints the path that an export of the book would write to; of the target, only the
+// directory counts.
+void printName(const std::string& typed, const PageTarget& target);
 
 // Imports each exported file. Prints the same as load.
 void importAll(const std::vector<std::string>& files);

@@ -1,6 +1,5 @@
 #include <unistd.h>
 
-#include <filesystem>
 #include <iostream>
 #include <utility>
 
@@ -8,7 +7,6 @@
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
 #include "client/error.h"
-#include "client/pages/exporter.h"
 #include "client/pages/note_selection.h"
 #include "client/pages/page_export.h"
 #include "client/text/control_characters.h"
@@ -19,17 +17,6 @@ namespace {
 // Programs get every byte; a terminal would obey some of them.
 std::string printable(const std::string& path) {
     return (isatty(STDOUT_FILENO) == 1 ? oneLine(path) : path) + '\n';
-}
-
-Outcome outcome(const ExportedPage& page) {
-    Outcome result{page.path.empty() ? "" : printable(page.path)};
-    if (!page.recordsError.empty()) {
-        result.message =
-            "The page carries no records that an import could read: " + page.recordsError +
-            '.';
-        result.failed = true;
-    }
-    return result;
 }
 
 class Command {
@@ -74,16 +61,18 @@ Outcome Command::exportBook(const host::BookEntry& book) {
         return {};
     }
     anySelected_ = true;
-    return outcome(pages_.write(book, std::move(notes)));
+    const ExportedPage page = pages_.write(book, std::move(notes));
+    return {printable(page.path), page.message, page.failed};
 }
 
 }  // namespace
 
 void exportNotes(const ExportRequest& request) { Command(request).run(); }
 
-void printName(const std::string& book, const PageTarget& target) {
-    const std::string path = Exporter(target.directory).fileName(findBook(book).fastHash);
-    std::cout << printable((std::filesystem::path(target.displayRoot) / path).string());
+void printName(const std::string& typed, const PageTarget& target) {
+    const host::BookEntry book = findBook(typed);
+    std::cout << printable(
+        PageExport(target).nextPath(book, selectNotes(book.fastHash, {}, "", false)));
 }
 
 }  // namespace client

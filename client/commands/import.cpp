@@ -2,8 +2,10 @@
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
 #include "client/error.h"
+#include "client/files/digest.h"
 #include "client/files/whole_file.h"
 #include "client/pages/exporter.h"
+#include "client/pages/written_files.h"
 #include "dump/import_result.h"
 #include "dump/reader.h"
 #include "store/database_paths.h"
@@ -47,9 +49,23 @@ std::vector<host::BookRecord> recordsIn(const std::string& file) {
     }
 }
 
+// Imported files are noted, so that an export never takes them for its own.
+void note(const std::string& file) {
+    try {
+        WrittenFiles().noteImported(contentDigest(file));
+    } catch (const std::runtime_error& error) {
+        throw UserError("The notes of " + file +
+                        " were imported, but the file could not be noted: " + error.what());
+    }
+}
+
 int callLibrary(const std::string& file) {
     const Exporter exporter;
-    return notes_exporter_import_from_file(exporter.handle(), file.c_str());
+    const int result = notes_exporter_import_from_file(exporter.handle(), file.c_str());
+    if (result >= 0) {
+        note(file);
+    }
+    return result;
 }
 
 // The number for a database that failed says no more; the store throws the cause.

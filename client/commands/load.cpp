@@ -45,7 +45,7 @@ void load(const LoadRequest& request) {
     const bool isLoaded = loadFiles(request.files);
     if (!request.pages.empty() && collectionExists()) {
         ExportRequest pages;
-        pages.target = {request.pages, "", true, request.displayRoot};
+        pages.target = {request.pages, "", false, request.displayRoot};
         exportNotes(pages);
     }
     requireDone(isLoaded);

@@ -1,21 +1,22 @@
-// Moves a finished file to its final name.
+// Moves a finished file to its final name, on the same file system.
 #pragma once
 
+#include <functional>
 #include <string>
-
-#include "files/file_identity.h"
 
 namespace client {
 
-// Moves the file `from` to `to`, on the same file system, in one step and without ever
-// replacing anything. Returns false if something stands at `to`. Throws UserError, which
-// calls the file `shown` and names the cause.
+// Moves the file `from` to `to` without ever replacing a file that holds anything. Returns
+// false if something stands at `to`. Throws UserError, which calls the file `displayPath`
+// and names the cause.
 bool moveIntoPlace(const std::string& from, const std::string& to,
-                   const std::string& shown);
+                   const std::string& displayPath);
 
-// Swaps the file `from` and the file `old` at `to`. Returns false, and leaves all as it
-// was, if `old` no longer stands there. Throws like moveIntoPlace.
-bool swapFiles(const std::string& from, const std::string& to,
-               const host::FileIdentity& old, const std::string& shown);
+// Puts the file `from` in the place of the one at `to`, with its mode. `isExpected` is
+// asked about the path of the file that came out; if it returns false, that file goes back,
+// and the result is false. The old file remains beside `from`. Throws like moveIntoPlace.
+bool replaceFile(const std::string& from, const std::string& to,
+                 const std::function<bool(const std::string&)>& isExpected,
+                 const std::string& displayPath);
 
 }  // namespace client

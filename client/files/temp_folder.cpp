@@ -1,17 +1,22 @@
 #include "client/files/temp_folder.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
 #include "client/error.h"
 #include "client/files/cause.h"
 #include "client/files/signals.h"
+#include "client/text/affixes.h"
 
 namespace client {
 
@@ -25,6 +30,26 @@ constexpr int kAttempts = 10;
 // The folder that a signal removes.
 std::atomic<const TempFolder*> current{nullptr};
 static_assert(decltype(current)::is_always_lock_free);
+
+constexpr const char* kNameStart = ".notes-export-";
+
+// Returns a descriptor that holds the folder's lock, or -1.
+int lockFolder(const std::string& path) {
+    const int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (folder != -1 && flock(folder, LOCK_EX | LOCK_NB) != 0) {
+        close(folder);
+        return -1;
+    }
+    return folder;
+}
+
+bool isOldAndOwn(int folder) {
+    constexpr std::int64_t kMinAge = 60;  // seconds: its owner may not have locked it yet
+    struct statx status = {};
+    return statx(folder, "", AT_EMPTY_PATH, STATX_UID | STATX_MTIME, &status) == 0 &&
+           status.stx_uid == geteuid() &&
+           status.stx_mtime.tv_sec + kMinAge < std::int64_t{std::time(nullptr)};
+}
 
 bool isFolder(const fs::path& path) {
     std::error_code failure;
@@ -60,6 +85,9 @@ TempFolder::~TempFolder() {
     std::error_code failure;
     fs::remove_all(path_, failure);
     remove();
+    if (lock_ != -1) {
+        close(lock_);
+    }
 }
 
 // A failure here makes the folder itself fail, for the same reason.
@@ -74,11 +102,12 @@ void TempFolder::makeParents(const std::string& parent) {
 }
 
 bool TempFolder::make(const std::string& parent) {
-    std::string name = parent + "/.notes-export-XXXXXX";
+    std::string name = parent + '/' + kNameStart + "XXXXXX";
     if (mkdtemp(name.data()) == nullptr) {
         return false;
     }
     path_ = name;
+    lock_ = lockFolder(path_);
     return true;
 }
 
@@ -98,6 +127,23 @@ void TempFolder::remove() const noexcept {
 void TempFolder::removeCurrent() {
     if (const TempFolder* folder = current) {
         folder->remove();
+    }
+}
+
+void TempFolder::removeLeftovers(const std::string& parent) {
+    std::error_code failure;
+    for (fs::directory_iterator entry(parent, failure), end; !failure && entry != end;
+         entry.increment(failure)) {
+        const std::string path = entry->path().string();
+        const bool isNamed = startsWith(entry->path().filename().string(), kNameStart);
+        const int folder = isNamed ? lockFolder(path) : -1;
+        if (folder != -1 && isOldAndOwn(folder)) {
+            std::error_code ignored;
+            fs::remove_all(path, ignored);
+        }
+        if (folder != -1) {
+            close(folder);
+        }
     }
 }
 

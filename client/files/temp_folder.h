@@ -1,4 +1,4 @@
-// A temporary folder, in which one file can be written without interference.
+// A temporary folder, in which files can be written without interference.
 #pragma once
 
 #include <string>
@@ -22,6 +22,10 @@ public:
     // Announces the file that is going to be written there.
     void expect(const std::string& file);
 
+    // Removes the temporary folders in `parent` whose owners were killed: they are this
+    // user's, older than a minute, and nobody holds their lock.
+    static void removeLeftovers(const std::string& parent);
+
 private:
     void makeParents(const std::string& parent);
     bool make(const std::string& parent);
@@ -31,6 +35,7 @@ private:
     std::vector<std::string> made_;  // the folders around it, outermost first
     std::string path_;
     std::string file_;
+    int lock_ = -1;  // a descriptor of the folder, which locks it while this object lives
 };
 
 }  // namespace client

@@ -1,5 +1,8 @@
 #include "client/pages/note_selection.h"
 
+#include <iomanip>
+#include <sstream>
+
 #include "client/collection/note_reader.h"
 #include "client/error.h"
 
@@ -21,12 +24,31 @@ notes_exporter_before orderNamed(const std::string& name) {
     return name == "id" ? byId : name == "newest" ? byNewest : nullptr;
 }
 
+std::string describe(const NoteFilter& filter, const std::string& order) {
+    std::ostringstream text;
+    text << (order == "page" ? "" : order);
+    for (const unsigned long long id : filter.ids) {
+        text << " id " << id;
+    }
+    for (const std::string& color : filter.colors) {
+        text << " color " << std::quoted(color);
+    }
+    if (filter.since) {
+        text << " since " << *filter.since;
+    }
+    if (filter.match) {
+        text << " match " << std::quoted(*filter.match);
+    }
+    return text.str();
+}
+
 }  // namespace
 
 NoteSelection selectNotes(const std::string& bookHash, const NoteFilter& filter,
                           const std::string& order, bool mustHaveIds) {
     NoteSelection selection;
     selection.before = orderNamed(order);
+    selection.description = describe(filter, order);
     if (filter.isEmpty() && selection.before != byNewest) {
         return selection;
     }

@@ -16,6 +16,7 @@ struct NoteSelection {
     std::set<unsigned long long> ids;  // of the notes; empty: all, unless `isEmpty`
     notes_exporter_before before = nullptr;
     std::unordered_map<long long, std::int64_t> times = {};  // `before` looks at them
+    std::string description = {};  // of the filter and the order, equal for equal ones
 };
 
 // Selects notes of one book. `order` is "id" or "newest", or else by page. With

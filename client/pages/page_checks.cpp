@@ -11,6 +11,8 @@
 
 #include "client/error.h"
 #include "client/files/cause.h"
+#include "client/files/whole_file.h"
+#include "dump/format.h"
 #include "dump/import_result.h"
 #include "dump/payload.h"
 #include "dump/reader.h"
@@ -30,7 +32,7 @@ bool endsWhole(const std::string& path) {
     return file && std::string(end) == kEnd;
 }
 
-// The second write tells why the first one was short.
+// The second write sets the cause for which the first one was short.
 bool writesBlock(int file) {
     constexpr std::array<char, 65536> kBlock = {};
     constexpr auto kSize = static_cast<ssize_t>(kBlock.size());
@@ -38,7 +40,7 @@ bool writesBlock(int file) {
            write(file, kBlock.data(), kBlock.size()) == kSize;
 }
 
-// What keeps a file at `path` from being made or from growing now; 0 when nothing does.
+// Returns the error that keeps a file at `path` from being made or from growing now, or 0.
 int obstacle(const std::string& path) {
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
     if (file == -1) {
@@ -56,7 +58,8 @@ bool holdsOnly(const std::vector<host::BookRecord>& books, const std::string& ha
 }
 
 // The library does not report why it got no records: the databases are read again.
-std::string whyRefused(const std::string& hash, const std::set<unsigned long long>& notes) {
+std::string findRefusal(const std::string& hash,
+                        const std::set<unsigned long long>& notes) {
     constexpr char kWasInUse[] = "the reader database was in use meanwhile; export again";
     try {
         host::ReaderStore store(host::kReaderDatabasePath);
@@ -73,25 +76,31 @@ std::string whyRefused(const std::string& hash, const std::set<unsigned long lon
 
 }  // namespace
 
-void requireWhole(const std::string& path, const std::string& shown) {
+void requireWhole(const std::string& path, const std::string& displayPath) {
     if (endsWhole(path)) {
         return;
     }
     const int error = obstacle(path);
     throw UserError(
-        "Could not write " + shown + ": " +
+        "Could not write " + displayPath + ": " +
         (error == 0 ? "the cause is gone; export again" : causeFor(path, error)) + '.');
 }
 
-std::string whyWithoutRecords(const std::string& path, const std::string& hash,
-                              const std::set<unsigned long long>& notes) {
+std::string findRecordsError(const std::string& path, const std::string& hash,
+                             const std::set<unsigned long long>& notes) {
     try {
         return holdsOnly(host::readDump(path), hash)
                    ? ""
                    : "the reader database was replaced meanwhile; export again";
     } catch (const host::DumpError& error) {
-        return error.result == host::kNoDump ? whyRefused(hash, notes) : error.what();
+        return error.result == host::kNoDump ? findRefusal(hash, notes) : error.what();
     }
+}
+
+bool namesBook(const std::string& path, const std::string& hash) {
+    const std::string dump =
+        std::string("<script type=\"") + host::kDumpMediaType + "\" book_hash=\"";
+    return readFile(path).find(dump + hash + "\">") != std::string::npos;
 }
 
 }  // namespace client

@@ -1,4 +1,4 @@
-// Looks at an exported page, of which the library reports nothing.
+// Checks of an exported page, of which the library reports nothing.
 #pragma once
 
 #include <set>
@@ -6,13 +6,16 @@
 
 namespace client {
 
-// Throws UserError when the page at `path` is not there or not whole; it calls the page
-// `shown` and tells the cause.
-void requireWhole(const std::string& path, const std::string& shown);
+// Throws UserError if the page at `path` is missing or not whole; it calls the page
+// `displayPath` and names the cause.
+void requireWhole(const std::string& path, const std::string& displayPath);
 
-// Why the page at `path` does not carry the records of the book with the hash `hash`; empty
-// when it does. `notes` are those that were exported, all when empty.
-std::string whyWithoutRecords(const std::string& path, const std::string& hash,
-                              const std::set<unsigned long long>& notes);
+// Returns why the page at `path` does not carry the records of the book with this hash;
+// empty if it does. `notes` are the identifiers of the exported notes, all if empty.
+std::string findRecordsError(const std::string& path, const std::string& hash,
+                             const std::set<unsigned long long>& notes);
+
+// Returns whether the page at `path` names the book with this hash as that of its records.
+bool namesBook(const std::string& path, const std::string& hash);
 
 }  // namespace client

@@ -2,22 +2,29 @@
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "client/error.h"
+#include "client/files/digest.h"
 #include "client/files/move_into_place.h"
 #include "client/pages/page_checks.h"
 #include "store/database_paths.h"
 
 namespace client {
+namespace {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-std::string directoryOf(const PageTarget& target) {
-    return target.file.empty() ? target.directory
-                               : fs::path(target.file).parent_path().string();
+// Follows links: the file is written where they lead.
+fs::path followLinks(fs::path path) {
+    constexpr int kMaxLinks = 40;
+    std::error_code failure;
+    for (int i = 0; i < kMaxLinks && fs::is_symlink(fs::symlink_status(path, failure));
+         ++i) {
+        path = path.parent_path() / fs::read_symlink(path, failure);
+    }
+    return path;
 }
 
 std::string nameOf(const std::string& path) { return fs::path(path).filename().string(); }
@@ -35,104 +42,139 @@ void callLibrary(const Exporter& exporter, const host::BookEntry& book,
 }  // namespace
 
 PageExport::PageExport(const PageTarget& target)
-    : target_(target), exporter_(directoryOf(target)), directory_(exporter_.directory()) {
+    : target_(target),
+      fileName_(followLinks(target.file).filename().string()),
+      exporter_(target.file.empty() ? target.directory
+                                    : followLinks(target.file).parent_path().string()),
+      directory_(exporter_.directory()),
+      places_(directory_) {
     requireStyleSheetFile();
-    if (target.update) {
-        olderPages_.emplace(directory_, target.file);
-    }
 }
 
-// Another update may write the page at the same time. Its page is then up to date, or is
-// the older page that this one replaces.
+// Another program may take the place meanwhile. If that was another update, its page is up
+// to date when the place is looked for again.
 ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
     constexpr int kAttempts = 10;
+    const WrittenFile wanted = describe(book, notes);
+    std::optional<Page> page;
     for (int i = 0; i < kAttempts; ++i) {
-        const auto match = olderPages_ ? find(book, notes) : OlderPages::Match();
-        if (match.isUpToDate) {
-            return {};
+        const PagePlace place = find(book, wanted);
+        if (place.ours && place.ours->inputs == wanted.inputs) {
+            return {displayPath(place.name)};
         }
-        if (auto page = writeInPlaceOf(match.older, book, notes)) {
-            return *page;
+        page = page ? page : render(book, notes);
+        if (auto result = publish(*page, place, wanted, stemOf(book))) {
+            return *result;
         }
     }
     throw UserError("The page of the book " + book.fastHash +
                     " keeps changing. Export it again.");
 }
 
-// The free name is found before the last look at the folder. If another update writes a
-// page after that look, the name is taken, and the page is judged again.
-OlderPages::Match PageExport::find(const host::BookEntry& book,
-                                   const NoteSelection& notes) {
-    auto match = olderPages_->find(book, notes.ids);
-    if (target_.file.empty() && !match.isUpToDate && !match.older) {
-        freeName_ = freeName(book);
-        olderPages_->lookAgain();
-        match = olderPages_->find(book, notes.ids);
-    }
-    return match;
+std::string PageExport::nextPath(const host::BookEntry& book, const NoteSelection& notes) {
+    return displayPath(find(book, describe(book, notes)).name);
+}
+
+WrittenFile PageExport::describe(const host::BookEntry& book, const NoteSelection& notes) {
+    Digest selection;
+    selection.add(notes.description);
+    return {book.fastHash, "html", selection.hexadecimal(),
+            inputs_.digest(book, notes.ids)};
+}
+
+PagePlace PageExport::find(const host::BookEntry& book, const WrittenFile& wanted) {
+    return !fileName_.empty() ? places_.findFile(fileName_, wanted, displayPath(fileName_))
+           : target_.isNew    ? places_.findFree(stemOf(book))
+                              : places_.find(stemOf(book), wanted);
+}
+
+// Below a file that is no folder, every name is free: the library adds no counter.
+std::string PageExport::stemOf(const host::BookEntry& book) {
+    exporter_.setDirectory("/dev/null");
+    const std::string name = nameOf(exporter_.fileName(book.fastHash));
+    return name.substr(0, name.rfind('.'));
 }
 
 // The library finds a free name and then opens it, replacing what came there in between:
 // it writes where nobody else does.
-std::optional<ExportedPage> PageExport::writeInPlaceOf(
-    const std::optional<OlderPages::Page>& older, const host::BookEntry& book,
-    NoteSelection& notes) {
-    TempFolder folder(directory_);
-    const std::string page = writeInto(folder, book, notes);
-    const std::string recordsError = whyWithoutRecords(page, book.fastHash, notes.ids);
-    if (!older) {
-        const auto path = publish(page, book);
-        return path ? std::optional(ExportedPage{displayPath(*path), recordsError})
-                    : std::nullopt;
+PageExport::Page PageExport::render(const host::BookEntry& book, NoteSelection& notes) {
+    if (!temp_) {
+        TempFolder::removeLeftovers(directory_);
+        temp_.emplace(directory_);
     }
-    if (!swapFiles(page, older->path, older->identity, displayPath(older->path))) {
+    exporter_.setDirectory(temp_->path());
+    const std::string path = exporter_.fileName(book.fastHash);
+    temp_->expect(path);
+    callLibrary(exporter_, book, notes);
+    requireWhole(path, displayPath(nameOf(path)));
+    return {path, contentDigest(path), findRecordsError(path, book.fastHash, notes.ids)};
+}
+
+// A page without its records never takes the place of one that has them. Where nothing can
+// be noted, nothing is replaced: nobody would know the new page again.
+std::optional<ExportedPage> PageExport::publish(const Page& page, PagePlace place,
+                                                WrittenFile wanted,
+                                                const std::string& stem) {
+    if (!page.recordsError.empty()) {
+        wanted.inputs = WrittenFile::kNoRecords;
+    }
+    if (place.ours && place.ours->hasRecords() && !wanted.hasRecords()) {
+        return resultOf(page, place);
+    }
+    wanted.name = place.name;
+    const std::string noteError = places_.tryNote(page.content, wanted);
+    if (!noteError.empty() && place.ours) {
+        place = places_.findFree(stem);
+    }
+    const bool isMoved = move(page, place);
+    places_.add(place.name);
+    if (!isMoved) {
         return std::nullopt;
     }
-    return ExportedPage{displayPath(older->path), recordsError};
+    ExportedPage result = resultOf(page, place);
+    if (!noteError.empty()) {
+        result.message += "The next export will not replace " + result.path +
+                          ", which could not be noted: " + noteError + '\n';
+    }
+    return result;
 }
 
-std::string PageExport::writeInto(TempFolder& folder, const host::BookEntry& book,
-                                  NoteSelection& notes) {
-    exporter_.setDirectory(folder.path());
-    std::string page = exporter_.fileName(book.fastHash);
-    folder.expect(page);
-    callLibrary(exporter_, book, notes);
-    requireWhole(page, displayPath(directory_ + "/" + nameOf(page)));
-    return page;
+bool PageExport::move(const Page& page, const PagePlace& place) {
+    const std::string path = directory_ + '/' + place.name;
+    if (!place.ours) {
+        return moveIntoPlace(page.path, path, displayPath(place.name));
+    }
+    const auto isUntouched = [&](const std::string& file) {
+        return contentDigest(file) == place.content;
+    };
+    const bool isDone = replaceFile(page.path, path, isUntouched, displayPath(place.name));
+    std::error_code ignored;
+    fs::remove(isDone ? page.path : "", ignored);
+    return isDone;
 }
 
-// The page's name is free there in most cases; the next one is asked for as long as others
-// take it.
-std::optional<std::string> PageExport::publish(const std::string& page,
-                                               const host::BookEntry& book) {
-    if (!target_.file.empty()) {
-        if (!moveIntoPlace(page, target_.file, displayPath(target_.file))) {
-            throw UserError(displayPath(target_.file) +
-                            " is there already, and stays as it is.");
-        }
-        return target_.file;
+ExportedPage PageExport::resultOf(const Page& page, const PagePlace& place) {
+    ExportedPage result{displayPath(place.name)};
+    if (!place.foreign.empty()) {
+        result.message = displayPath(place.foreign) +
+                         " is not as notes-export wrote it, and stays as it is.\n";
     }
-    if (olderPages_) {
-        return moveIntoPlace(page, freeName_, displayPath(freeName_))
-                   ? std::optional(freeName_)
-                   : std::nullopt;
+    if (!page.recordsError.empty()) {
+        result.message +=
+            (place.ours && place.ours->hasRecords()
+                 ? "The page stays as it is, because a new one would carry no records: "
+                 : "The page carries no records that an import could read: ") +
+            page.recordsError + ".\n";
+        result.failed = true;
     }
-    std::string path = directory_ + "/" + nameOf(page);
-    while (!moveIntoPlace(page, path, displayPath(path))) {
-        path = freeName(book);
-    }
-    return path;
-}
-
-// The exporter may still write into a folder that is gone.
-std::string PageExport::freeName(const host::BookEntry& book) {
-    exporter_.setDirectory(directory_);
-    return exporter_.fileName(book.fastHash);
+    return result;
 }
 
 // Returns the path as the caller of the client can use it.
-std::string PageExport::displayPath(const std::string& path) const {
-    return (fs::path(target_.displayRoot) / path).string();
+std::string PageExport::displayPath(const std::string& name) const {
+    return target_.file.empty()
+               ? (fs::path(target_.displayRoot) / directory_ / name).string()
+               : (fs::path(target_.displayRoot) / target_.file).string();
 }
 
 // The library would wait for a pipe without end, and read a device without end.
@@ -141,7 +183,8 @@ void PageExport::requireStyleSheetFile() const {
     std::error_code failure;
     const fs::file_status status = fs::status(path, failure);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        throw UserError("The style sheet " + displayPath(path) +
+        throw UserError("The style sheet " +
+                        (fs::path(target_.displayRoot) / path).string() +
                         " is not a file. Remove it, or put a file in its place.");
     }
 }

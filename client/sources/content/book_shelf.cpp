@@ -1,27 +1,20 @@
 #include "client/sources/content/book_shelf.h"
 
-#include <xxhash.h>
-
 #include <utility>
 
-#include "client/text/numbers.h"
+#include "client/files/digest.h"
 
 namespace client {
 namespace {
 
 // Returns hexadecimal digits that depend on the parts alone.
 std::string derivedId(const std::vector<std::string_view>& parts) {
-    std::string bytes;
+    Digest digest;
     for (const std::string_view part : parts) {
-        bytes.append(&part == parts.data() ? 0 : 1, '\0').append(part);
+        digest.add(std::string_view("\0", &part == parts.data() ? 0 : 1));
+        digest.add(part);
     }
-    XXH128_canonical_t hash;
-    XXH128_canonicalFromHash(&hash, XXH3_128bits(bytes.data(), bytes.size()));
-    std::string id;
-    for (const unsigned char byte : hash.digest) {
-        id += hexadecimal(byte);
-    }
-    return id;
+    return digest.hexadecimal();
 }
 
 std::string derivedUuid(const std::string& bookHash, const Identity& identity) {

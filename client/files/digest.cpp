@@ -1,0 +1,56 @@
+#include "client/files/digest.h"
+
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "client/text/affixes.h"
+#include "client/text/numbers.h"
+#include "files/input_file.h"
+
+namespace client {
+
+Digest::Digest() : state_(XXH3_createState(), XXH3_freeState) {
+    if (state_ == nullptr) {
+        throw std::bad_alloc();
+    }
+    XXH3_128bits_reset(state_.get());
+}
+
+void Digest::add(std::string_view bytes) {
+    XXH3_128bits_update(state_.get(), bytes.data(), bytes.size());
+}
+
+void Digest::addText(std::string_view text) {
+    add(std::to_string(text.size()) + ':');
+    add(text);
+}
+
+std::string Digest::hexadecimal() const {
+    XXH128_canonical_t hash;
+    XXH128_canonicalFromHash(&hash, XXH3_128bits_digest(state_.get()));
+    std::string digits;
+    for (const unsigned char byte : hash.digest) {
+        digits += client::hexadecimal(byte);
+    }
+    return digits;
+}
+
+std::string contentDigest(const std::string& path) {
+    constexpr std::string_view kByteOrderMark = "\ufeff";
+    host::InputFile file(path);
+    Digest digest;
+    std::vector<char> block(65536);
+    bool isStart = true;
+    while (const std::size_t size = file.read(block.data(), block.size())) {
+        const auto end = block.begin() + static_cast<std::ptrdiff_t>(size);
+        const auto kept = std::remove(block.begin(), end, '\r');
+        const std::string_view text(block.data(),
+                                    static_cast<std::size_t>(kept - block.begin()));
+        digest.add(isStart ? withoutPrefix(text, kByteOrderMark) : text);
+        isStart = false;
+    }
+    return digest.hexadecimal();
+}
+
+}  // namespace client

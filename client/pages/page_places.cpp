@@ -1,0 +1,94 @@
+#include "client/pages/page_places.h"
+
+#include <filesystem>
+#include <stdexcept>
+#include <utility>
+
+#include "client/error.h"
+#include "client/files/digest.h"
+#include "client/pages/page_checks.h"
+
+namespace client {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Returns the digest of a file's content; empty if the file is not regular or unreadable.
+std::string tryDigest(const std::string& path) {
+    std::error_code failure;
+    try {
+        return fs::is_regular_file(fs::symlink_status(path, failure)) ? contentDigest(path)
+                                                                      : "";
+    } catch (const std::runtime_error&) {
+        return {};
+    }
+}
+
+WrittenFile withInputs(WrittenFile file, const char* inputs) {
+    file.inputs = inputs;
+    return file;
+}
+
+}  // namespace
+
+PagePlace PagePlaces::find(const std::string& stem, const WrittenFile& wanted) {
+    PagePlace free = findFree(stem);
+    for (const std::string& name : names_.of(stem)) {
+        PagePlace place{name};
+        if (isOurs(place, wanted)) {
+            return place;
+        }
+        free.foreign = free.foreign.empty() ? place.foreign : free.foreign;
+    }
+    return free;
+}
+
+PagePlace PagePlaces::findFile(const std::string& name, const WrittenFile& wanted,
+                               const std::string& displayPath) {
+    PagePlace place{name};
+    std::error_code failure;
+    const bool isThere = fs::exists(fs::symlink_status(folder_ + '/' + name, failure));
+    if (isThere && !isOurs(place, wanted)) {
+        throw UserError(displayPath + " is there already, and stays as it is.");
+    }
+    return place;
+}
+
+bool PagePlaces::isOurs(PagePlace& place, const WrittenFile& wanted) {
+    place.content = tryDigest(folder_ + '/' + place.name);
+    auto note = place.content.empty() ? std::nullopt : noteOf(place, wanted);
+    if (!note) {
+        place.foreign = place.name;
+    } else if (note->isOfSame(wanted)) {
+        place.ours = std::move(note);
+    }
+    return place.ours.has_value();
+}
+
+// Version 1.1 noted nothing. An empty file may have been left where a name was taken.
+std::optional<WrittenFile> PagePlaces::noteOf(const PagePlace& place,
+                                              const WrittenFile& wanted) try {
+    const std::string path = folder_ + '/' + place.name;
+    if (auto note = written_.find(place.content, place.name)) {
+        return note;
+    }
+    if (place.content == Digest().hexadecimal()) {
+        return withInputs(wanted, WrittenFile::kNoRecords);
+    }
+    return written_.hasMarkAlone(place.content, path) && namesBook(path, wanted.book)
+               ? std::optional(withInputs(wanted, "1.1"))
+               : std::nullopt;
+} catch (const std::runtime_error&) {  // what cannot be looked up is not ours
+    return std::nullopt;
+}
+
+std::string PagePlaces::tryNote(const std::string& content, const WrittenFile& file) {
+    try {
+        written_.note(content, file);
+        return {};
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
+
+}  // namespace client

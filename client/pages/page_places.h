@@ -1,0 +1,49 @@
+// Finds the place for a page in its folder.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "client/pages/folder_names.h"
+#include "client/pages/written_files.h"
+
+namespace client {
+
+struct PagePlace {
+    std::string name;                                // of the file, in the folder
+    std::string content = {};                        // the digest of the file there
+    std::optional<WrittenFile> ours = std::nullopt;  // nullopt: nothing stands there
+    std::string foreign = {};  // a file in the way that is not as the client wrote it
+};
+
+class PagePlaces {
+public:
+    explicit PagePlaces(const std::string& folder) : folder_(folder), names_(folder) {}
+
+    // Returns the first of the names of this stem whose file is ours, of the same book,
+    // format and selection as `wanted`, and that nobody has changed; else a free name.
+    PagePlace find(const std::string& stem, const WrittenFile& wanted);
+
+    // Returns the place of the file `name`. Throws UserError, which calls it `displayPath`,
+    // if a file stands there that is not ours.
+    PagePlace findFile(const std::string& name, const WrittenFile& wanted,
+                       const std::string& displayPath);
+
+    PagePlace findFree(const std::string& stem) const { return {names_.firstFree(stem)}; }
+
+    // Adds a name that is taken by now.
+    void add(const std::string& name) { names_.add(name); }
+
+    // Notes the file before it is moved there. Returns the error, or an empty text.
+    std::string tryNote(const std::string& content, const WrittenFile& file);
+
+private:
+    bool isOurs(PagePlace& place, const WrittenFile& wanted);
+    std::optional<WrittenFile> noteOf(const PagePlace& place, const WrittenFile& wanted);
+
+    const std::string folder_;
+    FolderNames names_;
+    WrittenFiles written_;
+};
+
+}  // namespace client

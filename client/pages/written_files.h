@@ -1,0 +1,51 @@
+// The files that the client has written or imported, noted in the library database under
+// the digest of their content.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "store/library_store.h"
+
+namespace client {
+
+// What a file was made of. All but the name are digests, or words.
+struct WrittenFile {
+    static constexpr const char* kNoRecords = "none";
+
+    std::string book;       // hash
+    std::string format;     // such as "html"
+    std::string selection;  // of its notes, and their order
+    std::string inputs;     // all that it is made of, but for the date; or kNoRecords
+    std::string name = {};  // of the file, in its folder
+
+    bool hasRecords() const { return inputs != kNoRecords; }
+    bool isOfSame(const WrittenFile& other) const {
+        return book == other.book && format == other.format && selection == other.selection;
+    }
+};
+
+// Every failure is an exception of the std::runtime_error family.
+class WrittenFiles {
+public:
+    WrittenFiles();
+
+    // Returns the note of a file of this content and name; nullopt if there is none.
+    std::optional<WrittenFile> find(const std::string& content, const std::string& name);
+
+    void note(const std::string& content, const WrittenFile& file);
+
+    // Notes that files of this content were read, unless they are noted already.
+    void noteImported(const std::string& content);
+
+    // Returns whether version 1.1 may have written the file at `path`: it set the library's
+    // mark, and noted nothing.
+    bool hasMarkAlone(const std::string& content, const std::string& path);
+
+private:
+    std::string notes(const std::string& content);
+
+    host::LibraryStore library_;
+};
+
+}  // namespace client
