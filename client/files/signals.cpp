@@ -5,7 +5,7 @@
 namespace client {
 namespace {
 
-constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE, SIGXCPU};
 
 std::atomic<void (*)()> registered{nullptr};
 static_assert(decltype(registered)::is_always_lock_free);

@@ -1,4 +1,4 @@
-// The signals that end a program: SIGINT, SIGTERM, SIGHUP.
+// The signals that end a program, such as SIGINT, SIGTERM and SIGPIPE.
 #pragma once
 
 #include <csignal>
