@@ -14,7 +14,7 @@ void addAll(CommandLine& commandLine) {
     commandLine.parser.set_version_flag("--version", "notes-export " NOTES_EXPORT_VERSION);
     commandLine.parser
         .add_option("-C", commandLine.folder,
-                    "The folder that holds the collection (default: this folder)")
+                    "The folder that holds the collection (default: the working directory)")
         ->type_name("DIR");
     addFileCommands(commandLine);
     addListCommands(commandLine);

@@ -17,18 +17,18 @@ void addLoad(CommandLine& commandLine) {
                                        request->displayRoot = commandLine.folder;
                                        load(*request);
                                    });
-    loading.add_option("FILE", request->files, "Files of any kind that notes come in")
+    loading.add_option("FILE", request->files, "Files of any kind that can be loaded")
         ->transform(callersPath())
         ->required();
-    loading
-        .add_option("--pages", request->pages, "Then export the pages of all books there")
+    loading.add_option("--pages", request->pages, "Then export all books into this folder")
         ->type_name("DIR")
         ->transform(callersPath());
 }
 
 void addImport(CommandLine& commandLine) {
     const auto files = std::make_shared<std::vector<std::string>>();
-    addCommand(commandLine, "import", "Merge the notes that exported files carry",
+    addCommand(commandLine, "import",
+               "Merge the notes of exported files into the collection",
                CollectionNeed::MayBeEmpty, [files] { importAll(*files); })
         .add_option("FILE", *files, "The exported files")
         ->transform(callersPath())

@@ -11,7 +11,8 @@ namespace client {
 
 void addFilter(CLI::App& command, NoteFilter& filter) {
     command
-        .add_option("--note", filter.ids, "Only the note with this identifier, or these")
+        .add_option("--note", filter.ids,
+                    "Only the note with this identifier; may be repeated")
         ->type_name("ID")
         ->allow_extra_args(false)
         ->check(checkNoteId);
@@ -22,7 +23,7 @@ void addFilter(CLI::App& command, NoteFilter& filter) {
                 std::for_each(colors.begin(), colors.end(),
                               [&](const std::string& color) { filter.addColor(color); });
             },
-            "Only notes of this colour, or of these")
+            "Only notes of this colour; may be repeated")
         ->type_name("COLOR")
         ->allow_extra_args(false);
     command
@@ -35,7 +36,7 @@ void addFilter(CLI::App& command, NoteFilter& filter) {
     command
         .add_option_function<std::string>(
             "--match", [&filter](const std::string& text) { filter.setMatch(text); },
-            "Only notes with this text or comment")
+            "Only notes with this in their text or comment")
         ->type_name("TEXT")
         ->check(checkSearchText);
 }

@@ -28,7 +28,7 @@ void addFormat(CLI::App& command, const ListingFormat*& format) {
     command
         .add_option_function<std::string>(
             "--format", [&format](const std::string& name) { setFormat(format, name); },
-            "How to write the list (default: lines)")
+            "Format of the list (default: lines)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(formatNames()));
     command.add_flag_callback(
@@ -52,7 +52,7 @@ void addPictures(CLI::App& command, FolderForPictures& pictures) {
                 pictures = {folder, folder};
                 makeAbsolute(pictures.path);
             },
-            "With Markdown, write and show the pictures")
+            "With Markdown: write pictures into this folder and show them")
         ->type_name("DIR");
 }
 
@@ -69,7 +69,7 @@ void addNotes(CommandLine& commandLine) {
         addCommand(commandLine, "notes", "List notes: identifier, page, colour, text",
                    CollectionNeed::MustExist, [request] { listNotesAsAsked(*request); });
     notes.add_option("BOOK", request->books,
-                     "Hash, title or a start of one (default: all books)");
+                     "Hash or title of a book, or its start (default: all books)");
     addFormat(notes, request->format);
     addFilter(notes, request->filter);
     addPictures(notes, request->pictures);

@@ -1,7 +1,7 @@
-# Completes the command line of notes-export: commands, options, the hashes of the books on
-# the collection that -C names, and files.
+# Completes the command line of notes-export: commands, options, the hashes of the books in the
+# collection that -C names, and files.
 
-# The word as the shell would pass it on, but for variables.
+# Prints the word without quotes and with ~ expanded; variables stay.
 _notes_export_plain() {
     local word=${1/#'~/'/$HOME/}
     word=${word//\\/}
@@ -30,7 +30,7 @@ _notes_export_read_line() {
     done
 }
 
-# Prints the books' hashes, and beside them the titles where readline lists the choices.
+# Prints the hashes of the books, with their titles if readline lists the choices.
 _notes_export_books() {
     local program hash title
     program=$(_notes_export_plain "${COMP_WORDS[0]}")
@@ -43,7 +43,7 @@ _notes_export_books() {
     done
 }
 
-# What may stand where no option's value is wanted.
+# Prints the words that may come next if that is not the value of an option.
 _notes_export_words() {
     local -A options=([books]='--format --json' [load]='--pages'
         [notes]='--format --json --note --color --since --match --pictures'
