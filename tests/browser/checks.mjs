@@ -1,4 +1,4 @@
-// What must hold of every view of an exported page; each problem goes to `report`.
+// Checks of an exported page. Each calls `report` for every problem.
 import { isDeepStrictEqual } from 'node:util';
 import axe from 'axe-core';
 import * as facts from './page_facts.mjs';
@@ -41,7 +41,7 @@ export async function checkColors(page, report) {
     }
 }
 
-// What only the markup could mend, which says neither what language nor what picture it is.
+// Violations that only other markup could avoid: it names neither a language nor the content of a picture.
 const ofMarkup = new Set(['html-has-lang', 'image-alt', 'landmark-one-main', 'region']);
 
 export async function checkAccessibility(page, report) {
@@ -56,7 +56,7 @@ export async function checkAccessibility(page, report) {
 
 const startsRight = (text) => /^\P{L}*[\p{Script=Arabic}\p{Script=Hebrew}]/u.test(text);
 
-// Widths in pixels; handhelds lay a page out wider than their screen.
+// Width in pixels, and whether the device is a handheld, which lays a page out wider than its screen.
 const screens = [[1400, false], [820, false], [820, true], [390, false], [390, true]];
 
 export async function checkLayout(page, report) {

@@ -1,5 +1,4 @@
-// Loads a device file into a device of the host platform, exports its books, and says what each exported
-// page is to show.
+// Loads a device file into a collection, exports its books, and returns the expected content of each page.
 import { execFileSync } from 'node:child_process';
 import { mkdirSync, readFileSync, rmSync } from 'node:fs';
 import path from 'node:path';

@@ -1,5 +1,5 @@
-// What an opened page holds and shows. Every function here runs inside the page and sees
-// nothing of this file but itself.
+// Facts about an opened page. Every function runs inside the page, so that it cannot use the rest of
+// this file.
 
 export function content() {
     const text = (node) => (node.localName === 'br' ? '\n' : node.data);
@@ -30,7 +30,7 @@ export function showsDump() {
         document.documentElement.innerText.includes(dump.textContent.slice(0, 40));
 }
 
-// Every note's class and the bar at its side, in red, green and blue.
+// Returns the class of every note, and the colour of the bar at its side as red, green and blue.
 export function noteColors() {
     const barred = '.bm-page:only-child, .bm-text p, .bm-page + .bm-image, .bm-page + .bm-note p';
     const bar = (note) => getComputedStyle(note.querySelector(barred), '::before');
@@ -38,14 +38,14 @@ export function noteColors() {
         [note.className, bar(note).borderLeftColor.match(/[\d.]+/g).map(Number)]);
 }
 
-// What axe finds wrong, with the places.
+// Returns the rules of axe that the page violates, with the places.
 export async function violations() {
     const { violations } = await axe.run({ resultTypes: ['violations'] });
     return violations.map(({ id, nodes }) => [id, nodes.map(({ html }) => html)]);
 }
 
-// What leaves the page sideways, is cut off, lies on something else, or is shown too small for a
-// reader whose type has that many pixels.
+// Returns the elements that leave the page sideways, are cut off, overlap others, or are too small for
+// a reader whose type has that many pixels.
 export function misplaced(type) {
     const width = document.documentElement.clientWidth;
     const scale = Math.min(1, screen.width / width);
@@ -77,7 +77,7 @@ export function misplaced(type) {
     return problems;
 }
 
-// Every paragraph's text, with the room to the left and the right of its first letter, in ems.
+// Returns the text of every paragraph, with the space to the left and right of its first letter, in ems.
 export function firstLetters() {
     const room = (p) => {
         const range = document.createRange();

@@ -1,4 +1,4 @@
-// Pictures of exported pages as a phone, a tablet, a desktop and a printer show them.
+// Takes pictures of exported pages on a phone, a tablet, a desktop and a printer.
 import { execFileSync } from 'node:child_process';
 import { rmSync } from 'node:fs';
 import { pathToFileURL } from 'node:url';

@@ -1,5 +1,5 @@
-// Opens every exported page in Chromium, as the .html file that it is and as XHTML, and holds
-// it to what its device file says. With --screenshots: pictures of the sample's pages.
+// Opens every exported page in Chromium, as HTML and as XHTML, and compares it with its device file.
+// With --screenshots, also takes pictures of the sample's pages.
 import { copyFileSync } from 'node:fs';
 import { pathToFileURL } from 'node:url';
 import { chromium } from 'playwright-core';

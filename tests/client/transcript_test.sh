@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Plays a transcript in a folder with copies of FILE, and shows the difference when it goes
-# otherwise. After each command ("$ …") a transcript has the output, the errors ("! …"), and the
-# status unless that is 0 ("[…]"). Of a manual page, its literal blocks are the transcript.
+# Runs the commands of a transcript in a folder with copies of FILE, and prints the difference to
+# the transcript. After each command ("$ …"), a transcript has the output, the errors ("! …"), and
+# the status unless it is 0 ("[…]"). The transcript of a manual page is its literal blocks.
 #   transcript_test.sh TRANSCRIPT FILE...
 set -o pipefail
-export LC_ALL=C.UTF-8  # transcripts hold text of many scripts
+export LC_ALL=C.UTF-8  # transcripts contain text of many scripts
 
 play() {
     while IFS= read -r line; do

@@ -1,4 +1,4 @@
-"""One device in a folder, the client that works on it, and what it should hold."""
+"""A device in a folder, the client that works on it, and the expected content."""
 
 import json
 import os
@@ -15,7 +15,7 @@ CONFIG = "mnt/ext1/system/config"
 
 
 class Finding(Exception):
-    """Something does not hold."""
+    """A failed check."""
 
 
 def check(holds, *what):
@@ -34,18 +34,18 @@ class Device:
         self.books = {}
         self.database = os.path.join(folder, CONFIG, "books.db")
         self.pages = os.path.join(folder, "pages")
-        self.carried = {}  # by the path of each page in the folder of pages: its book
+        self.carried = {}  # the book in each page of the folder of pages, by path
         os.makedirs(self.pages)
 
     def updates(self, book):
-        """Whether an update has to write the book's page, and the pages that it may replace."""
+        """Returns whether an update must write the book's page, and the pages that it may replace."""
         pages = {path: books for path, books in self.carried.items() if book in books}
         now = self.books[book]
         replaceable = {path for path, books in pages.items() if model.includes(now, books[book])}
         return all(books[book] != now for books in pages.values()), replaceable
 
     def take_update(self, book, path):
-        """Notes that an update has printed this path, or none, for the book."""
+        """Records that an update printed this path (or None) for the book."""
         is_stale, replaceable = self.updates(book)
         check((path is not None) == is_stale, self.folder, book, "is stale:", is_stale, "printed:", path)
         if path is not None:
@@ -54,7 +54,7 @@ class Device:
             self.carried[path] = model.copy({book: self.books[book]})
 
     def load(self, books):
-        """Makes it hold these, and nothing else."""
+        """Makes these books the only content of the device."""
         titles = [{"hash": book, "title": title_of(book), "author": "A & B"} for book in books]
         path = os.path.join(self.folder, "device.json")
         with open(path, "w", encoding="utf-8") as file:
@@ -70,7 +70,7 @@ class Device:
         self.books = model.copy(books)
 
     def edit(self, change):
-        """Changes the database and what it should hold, as `change(connection, books)` does."""
+        """Changes the database and the expected content with `change(connection, books)`."""
         connection = sqlite3.connect(self.database)
         change(connection, self.books)
         connection.commit()
@@ -88,7 +88,7 @@ class Device:
         return subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, preexec_fn=apply)
 
     def run(self, *arguments, **options):
-        """Runs the client, and returns the lines that it printed."""
+        """Runs the client and returns the lines that it printed."""
         process = self.start(*arguments, **options)
         out, errors = process.communicate()
         check(process.returncode == 0, arguments, process.returncode, errors.decode())
@@ -100,8 +100,8 @@ class Device:
         check(found is None, self.folder, found)
 
     def verify_files(self):
-        """Nothing is there that nobody asked for, but for the journal of a client that was killed,
-        which SQLite removes with the next change."""
+        """Checks that the device has only expected files. A killed client may leave a journal, which
+        SQLite removes with the next change."""
         found = set()
         for folder, folders, files in os.walk(self.folder):
             found |= {os.path.relpath(os.path.join(folder, name), self.folder) for name in files}
@@ -112,7 +112,7 @@ class Device:
         check(found == wanted, self.folder, "has", sorted(found ^ wanted))
 
     def repair(self, was_killed):
-        """Uses both databases, which rolls back what was cut; removes what SIGKILL leaves."""
+        """Opens both databases, which rolls back cut changes, and removes the files that SIGKILL leaves."""
         self.run("books")
         for name in os.listdir(self.pages):
             if was_killed and name.startswith(".notes-export-"):
@@ -136,7 +136,7 @@ def delete_note(connection, book, uuid):
 
 
 def verify_page(client, path, books, scratch):
-    """The page is well-formed, shows each note, and carries just these records."""
+    """Checks that the page is well-formed, shows each note, and carries only these records."""
     shown = []
 
     def look(_, attributes):

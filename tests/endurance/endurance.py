@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""One night of use on three devices: edits, exports, imports, kills, full disks, two clients at
-once and a clock that jumps. After each round the databases, pages and files are as they should.
+"""Simulates a night of use on three devices: edits, exports, imports, kills, full disks, two
+clients at once and a clock that jumps. Checks the databases, pages and files after each round.
 
   endurance.py CLIENT FOLDER BOOKS SECONDS SEED
 """
@@ -18,7 +18,7 @@ import model
 from device import Device, check, delete_note, title_of, verify_page, write_note
 
 NOTES_OF_A_BOOK = 200  # at most; half of it on average
-MEMORY = (resource.RLIMIT_AS, 256 << 20)  # of a small machine
+MEMORY = (resource.RLIMIT_AS, 256 << 20)  # the limit of a small machine
 
 
 class Night:
@@ -32,7 +32,7 @@ class Night:
         self.devices = [Device(client, os.path.join(folder, name)) for name in ("one", "two", "three")]
         for share, device in zip((1, 2, 10), self.devices):
             device.load({book: everything[book] for book in list(everything)[::share]})
-        self.kept = []  # pages of any device with what they carry
+        self.kept = []  # pages of any device, with the books in them
         self.rounds = [self.edit, self.edit, self.export, self.update, self.imports, self.imports,
                        self.kill_import, self.kill_export, self.full_disk, self.together]
         self.counts = Counter()
@@ -66,7 +66,7 @@ class Night:
         verify_page(self.client, path, books, os.path.join(self.folder, "scratch"))
 
     def pictures(self):
-        """A book of 200 pictures of 300 KB, on a small machine."""
+        """Exports a book with 200 pictures of 300 KB on a small machine."""
         device = Device(self.client, os.path.join(self.folder, "pictures"))
         notes = self.new_notes(200)
         for note in notes.values():
@@ -76,7 +76,7 @@ class Night:
         self.verify(path, device.books)
         shutil.rmtree(device.folder)
 
-    # Each round gives the books that it may have changed on the device.
+    # Each round returns the books that it may have changed on the device.
 
     def edit(self, device):
         books = self.some_books(device, 6)
@@ -149,7 +149,7 @@ class Night:
         return list(books)
 
     def settle(self, device, books, is_done):
-        """The device holds all of the import or, unless that succeeded, nothing of it."""
+        """Expects all of the import on the device or, if the import failed, all or nothing."""
         before = {book: device.books[book] for book in books if book in device.books}
         found = model.read(device.database, books)
         if is_done or model.difference(before, found) is not None:
@@ -213,7 +213,7 @@ def main(client, folder, books, seconds, seed):
             if number % 100 == 0:
                 night.verify_all()
         night.verify_all()
-    except Exception:  # a page that is not well-formed is a finding, too
+    except Exception:  # also a page that is not well-formed
         print(f"round {number}, seed {seed}; see {folder}", file=sys.stderr)
         raise
     print(f"{number} rounds: " + ", ".join(f"{name} {count}" for name, count in sorted(night.counts.items())))

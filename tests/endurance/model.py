@@ -1,4 +1,4 @@
-"""What a device should hold: books of notes, each a dict of tags by number."""
+"""The expected content of a device: books of notes, each note a dict of tags by number."""
 
 import json
 import sqlite3
@@ -12,7 +12,7 @@ TEXTS = ["", "plain", "a < b & \"c\" > 'd' ]]> --> </p>", "two\nlines\r\n\u2028t
 
 
 class Clock:
-    """Gives every edit a time of its own, so that of two edits one is newer everywhere."""
+    """Gives each edit another time, so that one of two edits is newer on every device."""
 
     def __init__(self):
         self.time = 1700000000
@@ -40,7 +40,7 @@ def edit(random, clock, note, number):
 
 
 def merge(books, other):
-    """Takes over what is newer, as an import does."""
+    """Takes newer tags from `other`, as an import does."""
     for book_hash, notes in other.items():
         mine = books.setdefault(book_hash, {})
         for uuid, tags in notes.items():
@@ -51,7 +51,7 @@ def merge(books, other):
 
 
 def includes(notes, older):
-    """Whether each of the older tags is there, as it was or newer."""
+    """Returns whether `notes` have each of the older tags, unchanged or newer."""
     return all(
         uuid in notes and all(
             number in notes[uuid] and notes[uuid][number].timestamp >= tag.timestamp for number, tag in tags.items())
@@ -63,7 +63,7 @@ def copy(books):
 
 
 def read(database, only=None):
-    """What a reader database holds, or those of its books that are in `only`."""
+    """Returns the books of a reader database, or those in `only`."""
     connection = sqlite3.connect(f"file:{database}?mode=ro", uri=True)
     books = {}
     try:
@@ -86,7 +86,7 @@ def read(database, only=None):
 
 
 def difference(wanted, found):
-    """The first place where they differ; None when they do not."""
+    """Returns the first difference, or None."""
     for book in sorted(wanted.keys() | found.keys()):
         mine, theirs = wanted.get(book), found.get(book)
         if mine == theirs:

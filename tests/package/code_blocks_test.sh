@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
-# Compiles or runs the code blocks of a document, in order, in a scratch folder that looks like
-# the project's.
+# Compiles or runs the code blocks of a document, in order, in a scratch folder that has the
+# project's folders.
 #   code_blocks_test.sh DOCUMENT PROJECT CLIENT_FOLDER
 #
-# ```c, ```cpp, ```cmake, ```json   must be sound; a name after the language saves it as a file
-# ```sh                             is run, with the scratch folder as home
-# ```sh ci                          holds steps of .ci/run
-# ```text, ```xml                   is only looked at; the XML must be well-formed
+# ```c, ```cpp   must compile
+# ```json, ```xml   must be well-formed
+# ```sh   is run, with the scratch folder as home
+# ```sh ci   must be steps of .ci/run
+# ```cmake, ```text   are not checked
+#
+# A name after the language saves a block as a file.
 set -euo pipefail
 document=$1 project=$2
 export PATH=$3:$PATH
@@ -15,9 +18,9 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 export HOME=$scratch
 cd "$scratch"
-ln -s "$project"/{CMakeLists.txt,LICENSE,build,cmake,docs,examples,include,platform,src,tests,tools} .
+ln -s "$project"/{CMakeLists.txt,LICENSE,build,cmake,docs,examples,include,platform,src,tests,client} .
 
-# One file a block: "block.NUMBER.LANGUAGE.NAME".
+# Writes each block into a file: "block.NUMBER.LANGUAGE.NAME".
 awk '/^ *```[a-z]/ {
          indent = index($0, "`"); sub(/^ *```/, ""); out = sprintf("block.%02d.%s.%s", ++n, $1, $2)
          next

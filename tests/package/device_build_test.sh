@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the library for a device whose own header defines the note's members, with the
-# default device root: it must link, and hold the device's fixed paths.
+# Builds the library for a device whose own header defines the note's members, with the default
+# device root. The library must link and contain the device's fixed paths.
 #   device_build_test.sh PROJECT
 set -euo pipefail
 project=$1

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs into a scratch prefix, moves that elsewhere, and builds the C client against it, by
-# CMake's find_package and by pkg-config. Both must carry notes to another device.
+# Installs into a scratch prefix, moves that, and builds the C client with it, by CMake's
+# find_package and by pkg-config. Both clients must carry notes to another device.
 #   installed_library_test.sh BUILD_FOLDER EXAMPLE_FOLDER LIBDIR
 set -euo pipefail
 build=$1 example=$2 libdir=$3
@@ -14,7 +14,7 @@ prefix="$scratch/a moved prefix"
 test -L "$prefix/$libdir/libnotes_export.so"
 if grep -rF -e "$build" -e "$scratch" "$prefix/include" "$prefix/$libdir/cmake" \
     "$prefix/$libdir/pkgconfig"; then
-    exit 1  # a path of the place where it was built or installed first
+    exit 1  # it names the folder of the build or of the first installation
 fi
 
 cmake -S "$example" -B by_cmake -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
