@@ -19,10 +19,10 @@ struct Outcome {
     bool failed = false;
 };
 
-template <class Item, class Job>
-Outcome outcomeOf(const Item& item, Job job) {
+template <class Job>
+Outcome outcomeOf(Job job) {
     try {
-        return job(item);
+        return job();
     } catch (const std::bad_alloc&) {
         throw;
     } catch (const std::exception& error) {
@@ -30,21 +30,31 @@ Outcome outcomeOf(const Item& item, Job job) {
     }
 }
 
-// Runs `job`, which returns an Outcome, for each item; people at a terminal see `what`. A
-// failure is reported, and the others go on. Returns whether none failed.
+inline bool print(const Outcome& outcome) {
+    std::cout << outcome.result << std::flush;
+    if (!outcome.message.empty()) {
+        std::cerr << errorText(outcome.message);
+    }
+    return !outcome.failed;
+}
+
+// Runs `job`, which returns an Outcome, and prints it. Returns whether it has not failed.
+template <class Job>
+bool report(Job job) {
+    return print(outcomeOf(job));
+}
+
+// Reports `job` for each item; people at a terminal see `what`. Returns whether none
+// failed.
 template <class Item, class Job>
 bool runBatch(const char* what, const std::vector<Item>& items, Job job) {
     ProgressBar progress(what, items.size());
     bool allDone = true;
     for (const Item& item : items) {
         progress.next();
-        const Outcome outcome = outcomeOf(item, job);
+        const Outcome outcome = outcomeOf([&] { return job(item); });
         progress.erase();
-        std::cout << outcome.result << std::flush;
-        if (!outcome.message.empty()) {
-            std::cerr << errorText(outcome.message);
-        }
-        allDone = allDone && !outcome.failed;
+        allDone = print(outcome) && allDone;
     }
     return allDone;
 }

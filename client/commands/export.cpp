@@ -28,6 +28,7 @@ public:
 private:
     bool exportBooks();
     Outcome exportBook(const host::BookEntry& book);
+    Outcome publish();
 
     const ExportRequest& request_;
     PageExport pages_;
@@ -35,11 +36,12 @@ private:
 };
 
 void Command::run() {
-    const bool allDone = exportBooks();
-    if (allDone && !anySelected_) {
+    const bool isRendered = exportBooks();
+    const bool isPublished = report([this] { return publish(); });
+    if (isRendered && !anySelected_) {
         throw UserError("No note is selected, and nothing was exported.");
     }
-    requireDone(allDone);
+    requireDone(isRendered && isPublished);
 }
 
 bool Command::exportBooks() {
@@ -57,12 +59,21 @@ Outcome Command::exportBook(const host::BookEntry& book) {
     const bool isOnlyBook = request_.books.size() == 1;
     NoteSelection notes =
         selectNotes(book.fastHash, request_.filter, request_.order, isOnlyBook);
-    if (notes.isEmpty) {
-        return {};
+    if (!notes.isEmpty) {
+        anySelected_ = true;
+        pages_.add(book, std::move(notes));
     }
-    anySelected_ = true;
-    const ExportedPage page = pages_.write(book, std::move(notes));
-    return {printable(page.path), page.message, page.failed};
+    return pages_.isFull() ? publish() : Outcome();
+}
+
+Outcome Command::publish() {
+    Outcome outcome;
+    for (const ExportedPage& page : pages_.publish()) {
+        outcome.result += page.path.empty() ? "" : printable(page.path);
+        outcome.message += page.message;
+        outcome.failed = outcome.failed || page.failed;
+    }
+    return outcome;
 }
 
 }  // namespace

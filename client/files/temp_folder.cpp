@@ -113,11 +113,13 @@ bool TempFolder::make(const std::string& parent) {
 
 void TempFolder::expect(const std::string& file) {
     const SignalBlock block;
-    file_ = file;
+    files_.push_back(file);
 }
 
 void TempFolder::remove() const noexcept {
-    unlink(file_.c_str());
+    for (const std::string& file : files_) {
+        unlink(file.c_str());
+    }
     rmdir(path_.c_str());
     for (auto folder = made_.rbegin(); folder != made_.rend(); ++folder) {
         rmdir(folder->c_str());

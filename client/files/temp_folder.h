@@ -7,7 +7,7 @@
 namespace client {
 
 // A new folder within another one, on the same file system. Its destructor, and a signal
-// that ends the program, remove it with its file, and those folders around it that were
+// that ends the program, remove it with its files, and those folders around it that were
 // made for it and are still empty. One at a time.
 class TempFolder {
 public:
@@ -19,7 +19,7 @@ public:
 
     const std::string& path() const { return path_; }
 
-    // Announces the file that is going to be written there.
+    // Announces a file that is going to be written there.
     void expect(const std::string& file);
 
     // Removes the temporary folders in `parent` whose owners were killed: they are this
@@ -34,7 +34,7 @@ private:
 
     std::vector<std::string> made_;  // the folders around it, outermost first
     std::string path_;
-    std::string file_;
+    std::vector<std::string> files_;
     int lock_ = -1;  // a descriptor of the folder, which locks it while this object lives
 };
 

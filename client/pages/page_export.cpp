@@ -51,24 +51,33 @@ PageExport::PageExport(const PageTarget& target)
     requireStyleSheetFile();
 }
 
-// Another program may take the place meanwhile. If that was another update, its page is up
-// to date when the place is looked for again.
-ExportedPage PageExport::write(const host::BookEntry& book, NoteSelection notes) {
-    constexpr int kAttempts = 10;
-    const WrittenFile wanted = describe(book, notes);
-    std::optional<Page> page;
-    for (int i = 0; i < kAttempts; ++i) {
-        const PagePlace place = find(book, wanted);
-        if (place.ours && place.ours->inputs == wanted.inputs) {
-            return {displayPath(place.name)};
-        }
-        page = page ? page : render(book, notes);
-        if (auto result = publish(*page, place, wanted, stemOf(book))) {
-            return *result;
+void PageExport::add(const host::BookEntry& book, NoteSelection notes) {
+    WrittenFile wanted = describe(book, notes);
+    PagePlace place = find(book, wanted);
+    if (place.ours && place.ours->inputs == wanted.inputs) {
+        results_.push_back({displayPath(place.name)});
+        return;
+    }
+    Page page{results_.size(), book, std::move(wanted), std::move(place), "", "", ""};
+    render(page, notes);
+    places_.add(page.place.name);  // for this page
+    size_ += fs::file_size(page.path);
+    pending_.push_back(std::move(page));
+    results_.emplace_back();
+}
+
+std::vector<ExportedPage> PageExport::publish() {
+    note(pending_);
+    for (Page& page : pending_) {
+        try {
+            results_[page.index] = publish(page);
+        } catch (const UserError& error) {
+            results_[page.index] = {"", error.what(), true};
         }
     }
-    throw UserError("The page of the book " + book.fastHash +
-                    " keeps changing. Export it again.");
+    pending_.clear();
+    size_ = 0;
+    return std::exchange(results_, {});
 }
 
 std::string PageExport::nextPath(const host::BookEntry& book, const NoteSelection& notes) {
@@ -97,71 +106,88 @@ std::string PageExport::stemOf(const host::BookEntry& book) {
 
 // The library finds a free name and then opens it, replacing what came there in between:
 // it writes where nobody else does.
-PageExport::Page PageExport::render(const host::BookEntry& book, NoteSelection& notes) {
+void PageExport::render(Page& page, NoteSelection& notes) {
     if (!temp_) {
         TempFolder::removeLeftovers(directory_);
         temp_.emplace(directory_);
     }
     exporter_.setDirectory(temp_->path());
-    const std::string path = exporter_.fileName(book.fastHash);
-    temp_->expect(path);
-    callLibrary(exporter_, book, notes);
-    requireWhole(path, displayPath(nameOf(path)));
-    return {path, contentDigest(path), findRecordsError(path, book.fastHash, notes.ids)};
-}
-
-// A page without its records never takes the place of one that has them. Where nothing can
-// be noted, nothing is replaced: nobody would know the new page again.
-std::optional<ExportedPage> PageExport::publish(const Page& page, PagePlace place,
-                                                WrittenFile wanted,
-                                                const std::string& stem) {
+    page.path = exporter_.fileName(page.book.fastHash);
+    temp_->expect(page.path);
+    callLibrary(exporter_, page.book, notes);
+    requireWhole(page.path, displayPath(nameOf(page.path)));
+    page.content = contentDigest(page.path);
+    page.recordsError = findRecordsError(page.path, page.book.fastHash, notes.ids);
     if (!page.recordsError.empty()) {
-        wanted.inputs = WrittenFile::kNoRecords;
+        page.file.inputs = WrittenFile::kNoRecords;
     }
-    if (place.ours && place.ours->hasRecords() && !wanted.hasRecords()) {
-        return resultOf(page, place);
-    }
-    wanted.name = place.name;
-    const std::string noteError = places_.tryNote(page.content, wanted);
-    if (!noteError.empty() && place.ours) {
-        place = places_.findFree(stem);
-    }
-    const bool isMoved = move(page, place);
-    places_.add(place.name);
-    if (!isMoved) {
-        return std::nullopt;
-    }
-    ExportedPage result = resultOf(page, place);
-    if (!noteError.empty()) {
-        result.message += "The next export will not replace " + result.path +
-                          ", which could not be noted: " + noteError + '\n';
-    }
-    return result;
 }
 
-bool PageExport::move(const Page& page, const PagePlace& place) {
-    const std::string path = directory_ + '/' + place.name;
-    if (!place.ours) {
-        return moveIntoPlace(page.path, path, displayPath(place.name));
+// Where a page cannot be noted, nothing is replaced: nobody would know the new one again.
+void PageExport::note(std::vector<Page>& pages) {
+    std::vector<std::pair<std::string, WrittenFile>> files;
+    for (Page& page : pages) {
+        page.file.name = page.place.name;
+        files.emplace_back(page.content, page.file);
+    }
+    const std::string error = places_.tryNote(files);
+    for (Page& page : pages) {
+        page.noteError = error;
+        if (!error.empty() && page.place.ours) {
+            page.place = places_.findFree(stemOf(page.book));
+        }
+    }
+}
+
+// Another program may take the place meanwhile. If that was another update, its page is up
+// to date when the place is looked for again.
+ExportedPage PageExport::publish(Page& page) {
+    constexpr int kAttempts = 10;
+    for (int i = 0; i < kAttempts; ++i) {
+        if (page.keepsRecords() || move(page)) {
+            return resultOf(page);
+        }
+        places_.add(page.place.name);
+        page.place = find(page.book, page.file);
+        if (page.place.ours && page.place.ours->inputs == page.file.inputs) {
+            return {displayPath(page.place.name)};
+        }
+        std::vector<Page> again(1, std::move(page));
+        note(again);
+        page = std::move(again.front());
+    }
+    throw UserError("The page of the book " + page.book.fastHash +
+                    " keeps changing. Export it again.");
+}
+
+bool PageExport::move(const Page& page) {
+    const std::string& name = page.place.name;
+    const std::string path = directory_ + '/' + name;
+    if (!page.place.ours) {
+        return moveIntoPlace(page.path, path, displayPath(name));
     }
     const auto isUntouched = [&](const std::string& file) {
-        return contentDigest(file) == place.content;
+        return contentDigest(file) == page.place.content;
     };
-    const bool isDone = replaceFile(page.path, path, isUntouched, displayPath(place.name));
+    const bool isDone = replaceFile(page.path, path, isUntouched, displayPath(name));
     std::error_code ignored;
     fs::remove(isDone ? page.path : "", ignored);
     return isDone;
 }
 
-ExportedPage PageExport::resultOf(const Page& page, const PagePlace& place) {
-    ExportedPage result{displayPath(place.name)};
-    if (!place.foreign.empty()) {
-        result.message = displayPath(place.foreign) +
+ExportedPage PageExport::resultOf(const Page& page) const {
+    ExportedPage result{displayPath(page.place.name)};
+    if (!page.place.foreign.empty()) {
+        result.message = displayPath(page.place.foreign) +
                          " is not as notes-export wrote it, and stays as it is.\n";
+    }
+    if (!page.noteError.empty()) {
+        result.message += "The next export will not replace " + result.path +
+                          ", which could not be noted: " + page.noteError + '\n';
     }
     if (!page.recordsError.empty()) {
         result.message +=
-            (place.ours && place.ours->hasRecords()
+            (page.keepsRecords()
                  ? "The page stays as it is, because a new one would carry no records: "
                  : "The page carries no records that an import could read: ") +
             page.recordsError + ".\n";

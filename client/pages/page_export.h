@@ -2,8 +2,11 @@
 // the client has written and nobody has changed.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "client/files/temp_folder.h"
 #include "client/pages/exporter.h"
@@ -23,7 +26,7 @@ struct PageTarget {
 };
 
 struct ExportedPage {
-    std::string path;          // as it is printed
+    std::string path;          // as it is printed; empty if there is none
     std::string message = {};  // for standard error; empty if there is none
     bool failed = false;
 };
@@ -32,29 +35,49 @@ class PageExport {
 public:
     explicit PageExport(const PageTarget& target);
 
-    // Brings the page of the book with these notes up to date. Every failure is an
-    // exception that names the cause; nothing is written then.
-    ExportedPage write(const host::BookEntry& book, NoteSelection notes);
+    // Renders the page of the book with these notes, unless it is up to date. Throws an
+    // exception that names the cause of a failure.
+    void add(const host::BookEntry& book, NoteSelection notes);
 
-    // Returns the path that `write` would write to now, as it is printed.
+    // Returns whether so much is rendered that publish() is due.
+    bool isFull() const { return pending_.size() >= kMaxPages || size_ >= kMaxSize; }
+
+    // Moves the rendered pages to their places. Returns the results of all books since the
+    // last call, in their order.
+    std::vector<ExportedPage> publish();
+
+    // Returns the path that a page of these notes would be moved to now, as it is printed.
     std::string nextPath(const host::BookEntry& book, const NoteSelection& notes);
 
 private:
+    // Each commit to the database waits for the disk: pages are noted together.
+    static constexpr std::size_t kMaxPages = 50;
+    static constexpr std::uintmax_t kMaxSize = std::uintmax_t{64} << 20;
+
     struct Page {
+        std::size_t index;  // of its result
+        host::BookEntry book;
+        WrittenFile file;
+        PagePlace place;
         std::string path;
         std::string content;  // its digest
         std::string recordsError;
+        std::string noteError = {};
+
+        // Returns whether its place has a page with records, which this one lacks.
+        bool keepsRecords() const {
+            return place.ours && place.ours->hasRecords() && !recordsError.empty();
+        }
     };
 
     WrittenFile describe(const host::BookEntry& book, const NoteSelection& notes);
     PagePlace find(const host::BookEntry& book, const WrittenFile& wanted);
     std::string stemOf(const host::BookEntry& book);
-    Page render(const host::BookEntry& book, NoteSelection& notes);
-    // Returns nullopt, and moves nothing, if another program took the place.
-    std::optional<ExportedPage> publish(const Page& page, PagePlace place,
-                                        WrittenFile wanted, const std::string& stem);
-    bool move(const Page& page, const PagePlace& place);
-    ExportedPage resultOf(const Page& page, const PagePlace& place);
+    void render(Page& page, NoteSelection& notes);
+    void note(std::vector<Page>& pages);
+    ExportedPage publish(Page& page);
+    bool move(const Page& page);
+    ExportedPage resultOf(const Page& page) const;
     std::string displayPath(const std::string& name) const;
     void requireStyleSheetFile() const;
 
@@ -65,6 +88,9 @@ private:
     PageInputs inputs_;
     PagePlaces places_;
     std::optional<TempFolder> temp_;
+    std::vector<Page> pending_;
+    std::uintmax_t size_ = 0;  // of the pending pages, in bytes
+    std::vector<ExportedPage> results_;
 };
 
 }  // namespace client

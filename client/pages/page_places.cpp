@@ -82,9 +82,10 @@ std::optional<WrittenFile> PagePlaces::noteOf(const PagePlace& place,
     return std::nullopt;
 }
 
-std::string PagePlaces::tryNote(const std::string& content, const WrittenFile& file) {
+std::string PagePlaces::tryNote(
+    const std::vector<std::pair<std::string, WrittenFile>>& files) {
     try {
-        written_.note(content, file);
+        written_.note(files);
         return {};
     } catch (const std::runtime_error& error) {
         return error.what();

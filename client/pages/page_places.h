@@ -3,6 +3,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "client/pages/folder_names.h"
 #include "client/pages/written_files.h"
@@ -34,8 +36,9 @@ public:
     // Adds a name that is taken by now.
     void add(const std::string& name) { names_.add(name); }
 
-    // Notes the file before it is moved there. Returns the error, or an empty text.
-    std::string tryNote(const std::string& content, const WrittenFile& file);
+    // Notes files before they are moved, by the digest of their content. Returns the error,
+    // or an empty text.
+    std::string tryNote(const std::vector<std::pair<std::string, WrittenFile>>& files);
 
 private:
     bool isOurs(PagePlace& place, const WrittenFile& wanted);

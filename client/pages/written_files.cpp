@@ -51,6 +51,14 @@ void WrittenFiles::note(const std::string& content, const WrittenFile& file) {
     library_.setFileProp(content, kNotesProperty, known == kImported ? line : line + known);
 }
 
+void WrittenFiles::note(const std::vector<std::pair<std::string, WrittenFile>>& files) {
+    library_.inWriteTransaction([&] {
+        for (const auto& [content, file] : files) {
+            note(content, file);
+        }
+    });
+}
+
 void WrittenFiles::noteImported(const std::string& content) {
     if (notes(content).empty()) {
         library_.setFileProp(content, kNotesProperty, kImported);

@@ -4,6 +4,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "store/library_store.h"
 
@@ -33,7 +35,8 @@ public:
     // Returns the note of a file of this content and name; nullopt if there is none.
     std::optional<WrittenFile> find(const std::string& content, const std::string& name);
 
-    void note(const std::string& content, const WrittenFile& file);
+    // Notes these files, by the digest of their content, in one transaction.
+    void note(const std::vector<std::pair<std::string, WrittenFile>>& files);
 
     // Notes that files of this content were read, unless they are noted already.
     void noteImported(const std::string& content);
@@ -44,6 +47,7 @@ public:
 
 private:
     std::string notes(const std::string& content);
+    void note(const std::string& content, const WrittenFile& file);
 
     host::LibraryStore library_;
 };

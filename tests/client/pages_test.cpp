@@ -42,8 +42,9 @@ client::ExportedPage exportPage(const std::string& order = "",
                                 const client::NoteFilter& filter = {},
                                 client::PageTarget target = {"pages"}) {
     auto book = host::ReaderStore(host::kReaderDatabasePath).findBook("0a");
-    return client::PageExport(target).write(
-        *book, client::selectNotes("0a", filter, order, false));
+    client::PageExport pages(target);
+    pages.add(*book, client::selectNotes("0a", filter, order, false));
+    return pages.publish().at(0);
 }
 
 client::NoteFilter yellow() {

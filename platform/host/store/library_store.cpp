@@ -94,4 +94,8 @@ std::optional<std::string> LibraryStore::fileProp(const std::string& hash, int p
     return row.bytes(0);
 }
 
+void LibraryStore::inWriteTransaction(const std::function<void()>& work) {
+    connection_->write(work);
+}
+
 }  // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -46,6 +47,9 @@ public:
     // A property of the file with the fast hash `hash`, by number.
     void setFileProp(const std::string& hash, int prop, const std::string& value);
     std::optional<std::string> fileProp(const std::string& hash, int prop);
+
+    // Makes everything that `work` does through this object one transaction.
+    void inWriteTransaction(const std::function<void()>& work);
 
 private:
     std::unique_ptr<Connection> connection_;
