@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cases.h"
 #include "client/sources/clippings/clipping.h"
 #include "client/sources/clippings/passages.h"
 
@@ -21,74 +22,71 @@ std::string shownRecord(const std::vector<std::string_view>& lines) {
                     : "refused";
 }
 
-TEST(ClippingRecord, HasTitleAuthorAndText) {
-    constexpr const char* kDetails = "- Your Highlight on page 5";
+TEST(ClippingRecord, HasTitleAndAuthor) {
+    const NamedCase cases[] = {
+        {"author", "Emma (Jane Austen)", "Emma|Jane Austen|"},
+        {"nested parentheses", "Faust (1) (Goethe (Johann))", "Faust (1)|Goethe (Johann)|"},
+        {"several authors", "A (B, C;D, E)", "A|B, C;D, E|"},
+        {"full-width parentheses", "红楼梦（曹雪芹）", "红楼梦|曹雪芹|"},
+        {"author after a dash", "Emma - Jane Austen", "Emma - Jane Austen||"},
+        {"one parenthesis alone", "(Emma)", "(Emma)||"},
+        {"parenthesis that is not at the end", "Emma (1) b", "Emma (1) b||"},
+        {"parenthesis that does not open", "Emma :) b)", "Emma :) b)||"},
+        {"byte order mark and spaces", "\uFEFF Emma\u00A0(J) ", "Emma|J|"},
+        {"empty", "\uFEFF ", "refused"},
+    };
+    expectEach(cases, [](const std::string& line) {
+        return shownRecord({line, "\uFEFF- Page 5"});
+    });
+}
+
+TEST(ClippingRecord, HasTextAndKind) {
     const struct {
         const char* name;
-        std::vector<std::string_view> lines;
+        std::vector<std::string_view> text;
         const char* record;
     } rows[] = {
-        {"author", {"Emma (Jane Austen)", kDetails, "", "rich"}, "Emma|Jane Austen|rich"},
-        {"nested parentheses",
-         {"Faust (Teil 1) (Goethe (Johann))", kDetails},
-         "Faust (Teil 1)|Goethe (Johann)|"},
-        {"several authors", {"A (B, C;D, E)", kDetails}, "A|B, C;D, E|"},
-        {"full-width parentheses", {"红楼梦（曹雪芹）", kDetails}, "红楼梦|曹雪芹|"},
-        {"author after a dash", {"Emma - Jane Austen", kDetails}, "Emma - Jane Austen||"},
-        {"one parenthesis alone", {"(Emma)", kDetails}, "(Emma)||"},
-        {"parenthesis that is not at the end", {"Emma (1) b", kDetails}, "Emma (1) b||"},
-        {"parenthesis that does not open", {"Emma :) b)", kDetails}, "Emma :) b)||"},
-        {"byte order marks", {"\uFEFFEmma (J) ", "\uFEFF- Page 5"}, "Emma|J|"},
-        {"empty lines around the text",
-         {"E", kDetails, "", " a ", "", "\u3000b", "", " "},
-         "E||a\n\nb"},
+        {"empty lines", {"", " a ", "", "\u3000b", "", " "}, "E||a\n\nb"},
         {"message of a limit",
-         {"E", kDetails, "", " <You have reached the clipping limit for this item>"},
-         "E||<You have reached the clipping limit for this item>|limit"},
-        {"short text in angle brackets",
-         {"E", kDetails, "", "<b> bold </b>"},
-         "E||<b> bold </b>"},
-        {"address in angle brackets",
-         {"E", kDetails, "", "<https://example.org/>"},
-         "E||<https://example.org/>"},
-        {"no second line", {"Emma"}, "refused"},
-        {"empty title", {"\uFEFF ", kDetails}, "refused"},
-        {"second line without a dash", {"Emma", "On page 5", "", "rich"}, "refused"},
+         {"", " <You have reached the clipping limit>"},
+         "E||<You have reached the clipping limit>|limit"},
+        {"short text in angle brackets", {"<b> bold </b>"}, "E||<b> bold </b>"},
+        {"address", {"<https://example.org/>"}, "E||<https://example.org/>"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(shownRecord(row.lines), row.record) << row.name;
+        std::vector<std::string_view> lines = {"E", "- Sivu 9"};
+        lines.insert(lines.end(), row.text.begin(), row.text.end());
+        EXPECT_EQ(shownRecord(lines), row.record) << row.name;
+        EXPECT_EQ(client::parseClipping(lines)->kind, ClippingKind::Highlight);
     }
-}
-
-TEST(ClippingRecord, UnknownKindFollowsFromText) {
-    EXPECT_EQ(client::parseClipping({"E", "- Sivu 9", "", "a"})->kind,
-              ClippingKind::Highlight);
     EXPECT_EQ(client::parseClipping({"E", "- Sivu 9", ""})->kind, ClippingKind::Bookmark);
+    EXPECT_EQ(shownRecord({"E"}), "refused");
+    EXPECT_EQ(shownRecord({"E", "On page 5", "", "a"}), "refused");
 }
 
-Clipping clipping(ClippingKind kind, const std::string& text) {
-    Clipping result;
-    result.kind = kind;
-    result.note.text = text;
-    return result;
-}
-
-Clipping marked(ClippingRange location, const std::string& text,
+Clipping marked(std::int64_t first, std::int64_t last, const std::string& text,
                 ClippingKind kind = ClippingKind::Highlight) {
-    Clipping result = clipping(kind, text);
-    result.location = location;
-    return result;
+    Clipping clipping;
+    clipping.kind = kind;
+    clipping.location = ClippingRange{first, last};
+    clipping.note.text = text;
+    return clipping;
 }
 
-Clipping onPage(ClippingRange page, const std::string& text,
-                ClippingKind kind = ClippingKind::Highlight) {
-    Clipping result = clipping(kind, text);
-    result.page = page;
-    return result;
+Clipping noteAt(std::int64_t place, const std::string& text, std::int64_t time = 0) {
+    Clipping clipping = marked(place, place, text, ClippingKind::Note);
+    clipping.note.time = time;
+    return clipping;
 }
 
-Clipping noteAt(std::int64_t position, const std::string& text) {
-    return marked({position, position}, text, ClippingKind::Note);
+Clipping onPages(Clipping clipping) {
+    clipping.page.swap(clipping.location);
+    return clipping;
+}
+
+Clipping nowhere(Clipping clipping) {
+    clipping.location.reset();
+    return clipping;
 }
 
 // Returns the clippings that remain, each with the index whose identity it has.
@@ -105,36 +103,29 @@ std::string shownPassages(std::vector<Clipping> clippings) {
     return shown;
 }
 
+struct PassagesRow {
+    const char* name;
+    std::vector<Clipping> clippings;
+    const char* remaining;
+};
+
 TEST(Passages, LatestVersionTakesOverIdentity) {
-    const struct {
-        const char* name;
-        std::vector<Clipping> clippings;
-        const char* remaining;
-    } rows[] = {
-        {"from one start", {marked({10, 12}, "a"), marked({10, 14}, "a b")}, "0:a b/ "},
-        {"to one end", {marked({12, 14}, "b"), marked({10, 14}, "a b")}, "0:a b/ "},
-        {"the same again", {marked({10, 12}, "a"), marked({10, 12}, "a")}, "0:a/ "},
+    const Clipping whole = marked(10, 14, "a b c");
+    const PassagesRow rows[] = {
+        {"from one start", {marked(10, 12, "a"), whole}, "0:a b c/ "},
+        {"to one end", {marked(12, 14, "c"), whole}, "0:a b c/ "},
+        {"the same again", {whole, whole}, "0:a b c/ "},
         {"three versions",
-         {marked({10, 12}, "a"), marked({10, 13}, "a b"), marked({10, 14}, "a b c")},
+         {marked(10, 11, "a"), marked(10, 12, "a b"), whole},
          "0:a b c/ "},
-        {"inside, at neither end",
-         {marked({11, 13}, "b"), marked({10, 14}, "a b c")},
-         "0:b/ 1:a b c/ "},
-        {"other text", {marked({10, 12}, "x"), marked({10, 14}, "a b")}, "0:x/ 1:a b/ "},
-        {"shorter later", {marked({10, 14}, "a b"), marked({10, 12}, "a")}, "0:a b/ 1:a/ "},
-        {"on pages", {onPage({3, 3}, "a"), onPage({3, 4}, "a b")}, "0:a b/ "},
-        {"page and location",
-         {onPage({10, 10}, "a"), marked({10, 14}, "a b")},
-         "0:a/ 1:a b/ "},
-        {"article",
-         {marked({10, 12}, "a"), marked({10, 14}, "a b", ClippingKind::Article)},
-         "0:a b/ "},
-        {"bookmark",
-         {marked({10, 10}, "", ClippingKind::Bookmark), marked({10, 14}, "a b")},
-         "0:/ 1:a b/ "},
-        {"without a place",
-         {clipping(ClippingKind::Highlight, "a"), clipping(ClippingKind::Highlight, "a")},
-         "0:a/ 1:a/ "},
+        {"inside, at neither end", {marked(11, 13, "b"), whole}, "0:b/ 1:a b c/ "},
+        {"other text", {marked(10, 12, "x"), whole}, "0:x/ 1:a b c/ "},
+        {"shorter later", {whole, marked(10, 12, "a")}, "0:a b c/ 1:a/ "},
+        {"on pages", {onPages(marked(10, 12, "a")), onPages(whole)}, "0:a b c/ "},
+        {"page and location", {onPages(marked(10, 12, "a")), whole}, "0:a/ 1:a b c/ "},
+        {"article", {marked(10, 12, "a", ClippingKind::Article), whole}, "0:a b c/ "},
+        {"bookmark", {marked(10, 10, "", ClippingKind::Bookmark), whole}, "0:/ 1:a b c/ "},
+        {"without a place", {nowhere(whole), nowhere(whole)}, "0:a b c/ 1:a b c/ "},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(shownPassages(row.clippings), row.remaining) << row.name;
@@ -142,38 +133,30 @@ TEST(Passages, LatestVersionTakesOverIdentity) {
 }
 
 TEST(Passages, NoteBecomesCommentOfItsPassage) {
-    const Clipping a = marked({10, 14}, "a");
-    const struct {
-        const char* name;
-        std::vector<Clipping> clippings;
-        const char* remaining;
-    } rows[] = {
+    const Clipping a = marked(10, 14, "a");
+    const Clipping b = marked(12, 16, "b");
+    const Clipping n = noteAt(12, "n");
+    const PassagesRow rows[] = {
         {"at the start", {a, noteAt(10, "n")}, "0:a/n "},
         {"at the end", {a, noteAt(14, "n")}, "0:a/n "},
-        {"made before the passage", {noteAt(12, "n"), a}, "1:a/n "},
+        {"made before the passage", {n, a}, "1:a/n "},
         {"before the start", {a, noteAt(9, "n")}, "0:a/ 1:/n "},
         {"behind the end", {a, noteAt(15, "n")}, "0:a/ 1:/n "},
-        {"the passage marked last before it",
-         {a, marked({12, 16}, "b"), noteAt(13, "n"), marked({13, 13}, "c")},
+        {"of the one marked last before",
+         {a, b, n, marked(12, 12, "c")},
          "0:a/ 1:b/n 3:c/ "},
         {"passage that was marked again",
-         {marked({10, 11}, "a"), noteAt(11, "n"), marked({10, 14}, "a b")},
+         {marked(10, 11, "a"), n, marked(10, 14, "a b")},
          "0:a b/n "},
-        {"two remarks", {a, noteAt(12, "m"), noteAt(12, "n")}, "0:a/m\u2029n "},
-        {"remark that grew",
-         {a, noteAt(12, "m"), noteAt(12, "m and more")},
-         "0:a/m and more "},
+        {"two remarks", {a, noteAt(12, "m"), n}, "0:a/m\u2029n "},
+        {"remark that grew", {a, n, noteAt(12, "n and more")}, "0:a/n and more "},
         {"second remark that grew",
-         {a, noteAt(12, "m"), noteAt(12, "n"), noteAt(12, "n and more")},
+         {a, noteAt(12, "m"), n, noteAt(12, "n and more")},
          "0:a/m\u2029n and more "},
-        {"on pages",
-         {onPage({3, 4}, "a"), onPage({4, 4}, "n", ClippingKind::Note)},
-         "0:a/n "},
-        {"page and location", {onPage({3, 20}, "a"), noteAt(12, "n")}, "0:a/ 1:/n "},
-        {"bookmark",
-         {marked({12, 12}, "", ClippingKind::Bookmark), noteAt(12, "n")},
-         "0:/ 1:/n "},
-        {"without a place", {a, clipping(ClippingKind::Note, "n")}, "0:a/ 1:/n "},
+        {"on pages", {onPages(a), onPages(n)}, "0:a/n "},
+        {"page and location", {onPages(a), n}, "0:a/ 1:/n "},
+        {"bookmark", {marked(12, 12, "", ClippingKind::Bookmark), n}, "0:/ 1:/n "},
+        {"without a place", {a, nowhere(n)}, "0:a/ 1:/n "},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(shownPassages(row.clippings), row.remaining) << row.name;
@@ -181,9 +164,8 @@ TEST(Passages, NoteBecomesCommentOfItsPassage) {
 }
 
 TEST(Passages, CommentHasTimeOfLatestRemark) {
-    std::vector<Clipping> clippings = {marked({1, 9}, "a"), noteAt(2, "m"), noteAt(3, "n")};
-    clippings[1].note.time = 200;
-    clippings[2].note.time = 100;
+    std::vector<Clipping> clippings = {marked(1, 9, "a"), noteAt(2, "m", 200),
+                                       noteAt(3, "n", 100)};
     client::attachNotes(clippings);
     EXPECT_EQ(clippings[0].note.commentTime, 200);
 }

@@ -1,0 +1,61 @@
+// Device files, and files of no kind.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "cases.h"
+#include "sample_source.h"
+
+namespace {
+
+TEST(DeviceFile, FaultIsNamedWithItsPlace) {
+    const ScratchDirectory scratch;
+    const Case cases[] = {
+        {R"({"hash": "abc"})",
+         "sample: book 1: expected pairs of hexadecimal digits, in lower case, as "
+         "\"hash\""},
+        {R"({"hash": "ab"}, {})", "sample: book 2: \"hash\" is missing or empty"},
+        {R"({"hash": "ab", "title": null})",
+         "sample: book 1: \"title\" has the wrong type"},
+        {R"({"hash": "ab", "tilte": "x"})", "sample: book 1: \"tilte\": unknown member"},
+        {R"({"hash": "ab", "a\u001bb": 1})", "sample: book 1: \"a b\": unknown member"},
+        {R"({"hash": "ab"}, {"hash": "cd"}, {"hash": "ab"})",
+         "sample: books 1 and 3 have one hash"},
+        {R"("Emma")", "sample: book 1: expected an object"},
+        {R"({"hash": "ab", "notes": [{"uuid": 5}]})",
+         "sample: book 1, note 1: \"uuid\" has the wrong type"},
+        {R"({"hash": "ab", "notes": [{"uuid": "a", "page": "5"}]})",
+         "sample: book 1, note 1: \"page\" has the wrong type"},
+        {R"({"hash": "ab", "notes": [{"uuid": "a", "timestamp": 1.5}]})",
+         "sample: book 1, note 1: \"timestamp\" has the wrong type"},
+        {R"({"hash": "ab", "notes": [{"uuid": "a"}, {"uuid": "b"}, {"uuid": "a"}]})",
+         "sample: book 1: notes 1 and 3 have one uuid"},
+        {R"({"hash": "ab", "notes": [{"uuid": "a", "image": "b.jpg"}]})",
+         "sample: book 1, note 1: Cannot read b.jpg: No such file or directory"},
+    };
+    expectEach(cases, [](const std::string& books) {
+        return shownSample(R"({"books": [)" + books + "]}");
+    });
+    EXPECT_EQ(
+        shownSample("{} // all"),
+        "sample is not JSON that a device file may hold:\n* Line 1, Column 4\n  Extra "
+        "non-whitespace after JSON value.\n");
+}
+
+TEST(Source, UnknownFileIsRefused) {
+    const ScratchDirectory scratch;
+    const std::string message =
+        "sample is not a file that notes can be loaded from. Known kinds: an exported "
+        "page, "
+        "clippings, a Kobo reader's database, an annotation set, a device file.";
+    for (const char* content : {"", " \n", "[]", "p { margin: 0 }", "<html></html>",
+                                "Emma\n- Your Highlight on page 5\n\na\n", "PK\3\4"}) {
+        EXPECT_EQ(shownSample(content), message) << content;
+    }
+    std::filesystem::create_directory("folder");
+    EXPECT_THROW(client::readSource("folder"), client::UserError);
+    EXPECT_THROW(client::readSource("absent"), client::UserError);
+}
+
+}  // namespace

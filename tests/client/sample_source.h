@@ -1,0 +1,57 @@
+// Files that notes are loaded from, and what is read from them.
+#pragma once
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <string>
+
+#include "client/error.h"
+#include "client/listings/listing.h"
+#include "client/sources/source.h"
+#include "client/text/affixes.h"
+#include "scratch_files.h"
+
+// Writes the content into a file of the working directory, and reads it. SQL that creates
+// tables becomes a database.
+inline client::SourceContent readSample(const std::string& content) {
+    const bool isSql = client::startsWith(content, "CREATE TABLE");
+    writeFile("sample", isSql ? "" : content);
+    if (isSql) {
+        SQLite::Database("sample", SQLite::OPEN_READWRITE).exec(content);
+    }
+    return client::readSource("sample");
+}
+
+inline std::string show(const client::Note& note) {
+    return note.uuid + '|' + client::pageText(note) + '|' + note.color + '|' + note.text +
+           '|' + note.comment + '|' + note.picture + '|' + client::timeText(note);
+}
+
+// Returns a line for each note.
+inline std::string shownNotes(const std::string& content) {
+    std::string shown;
+    for (const client::IncomingBook& book : readSample(content).books) {
+        for (const client::Note& note : book.notes) {
+            shown += show(note) + '\n';
+        }
+    }
+    return shown;
+}
+
+// Returns a line for each book with its uuids and what was skipped, or the error instead.
+inline std::string shownSample(const std::string& content) {
+    std::string shown;
+    try {
+        const client::SourceContent source = readSample(content);
+        for (const auto& [book, notes, records] : source.books) {
+            shown += book.title + " by " + book.author + ':';
+            for (const client::Note& note : notes) {
+                shown += ' ' + note.uuid;
+            }
+            shown += '\n';
+        }
+        return shown + source.skipped.summary("it");
+    } catch (const client::UserError& error) {
+        return error.what();
+    }
+}
