@@ -1,6 +1,7 @@
 // Annotation sets, of the draft and of older collections.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 #include "cases.h"
@@ -56,7 +57,7 @@ TEST(AnnotationSet, NamesItsBook) {
         {R"("about": {"dc:title": "E", "dc:creator": "A"})", "E by A: i\n"},
         {R"("about": {"dc:title": "E", "dc:creator": ["A", {"name": "B"}, ""]})",
          "E by A; B: i\n"},
-        {R"("about": {"title": {"@value": "E"}, "creator": {"name": {"en": "A"}}})",
+        {R"("about": {"title": {"@language": "en", "@value": "E"}, "creator": {"name": {"en": "A"}}})",
          "E by A: i\n"},
         {R"("about": {"dc:title": {"de": "E", "en": "x"}}, "label": "L")", "E by : i\n"},
         {R"("about": {"dc:title": ""}, "label": "L")", "L by : i\n"},
@@ -83,22 +84,13 @@ TEST(AnnotationSet, FaultIsNamedWithItsPlace) {
 }
 
 TEST(AnnotationColor, BecomesNearestName) {
-    const Case cases[] = {
-        {"#ffe400", "yellow"},
-        {"#FE9B05", "orange"},
-        {"#d00000", "red"},
-        {"#ff80c0", "pink"},
-        {"#9050d0", "purple"},
-        {"#0000ff", "blue"},
-        {"#00ffff", "cyan"},
-        {"#00ff00", "green"},
-        {"#808080", "grey"},
-        {"mauve", "mauve"},
-        {"#ff0", "#ff0"},
-        {"#gggggg", "#gggggg"},
-        {"", ""},
-    };
-    expectEach(cases, client::colorNamed);
+    std::istringstream pairs(
+        "#ffe400 yellow #FE9B05 orange #d00000 red #ff80c0 pink #9050d0 purple #0000ff "
+        "blue "
+        "#00ffff cyan #00ff00 green #808080 grey mauve mauve #ff0 #ff0 #gggggg #gggggg");
+    for (std::string text, name; pairs >> text >> name;) {
+        EXPECT_EQ(client::colorNamed(text), name) << text;
+    }
 }
 
 }  // namespace

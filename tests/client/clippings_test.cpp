@@ -1,6 +1,7 @@
 // Records of a clippings file, and what those of a book have to do with each other.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,24 +42,22 @@ TEST(ClippingRecord, HasTitleAndAuthor) {
 }
 
 TEST(ClippingRecord, HasTextAndKind) {
-    const struct {
-        const char* name;
-        std::vector<std::string_view> text;
-        const char* record;
-    } rows[] = {
-        {"empty lines", {"", " a ", "", "\u3000b", "", " "}, "E||a\n\nb"},
-        {"message of a limit",
-         {"", " <You have reached the clipping limit>"},
+    const NamedCase cases[] = {
+        {"empty lines around and inside", " a  \n\n\u3000b\n \n", "E||a\n\nb"},
+        {"message of a limit", " <You have reached the clipping limit>",
          "E||<You have reached the clipping limit>|limit"},
-        {"short text in angle brackets", {"<b> bold </b>"}, "E||<b> bold </b>"},
-        {"address", {"<https://example.org/>"}, "E||<https://example.org/>"},
+        {"short text in angle brackets", "<b> bold </b>", "E||<b> bold </b>"},
+        {"address", "<https://example.org/>", "E||<https://example.org/>"},
     };
-    for (const auto& row : rows) {
-        std::vector<std::string_view> lines = {"E", "- Sivu 9"};
-        lines.insert(lines.end(), row.text.begin(), row.text.end());
-        EXPECT_EQ(shownRecord(lines), row.record) << row.name;
-        EXPECT_EQ(client::parseClipping(lines)->kind, ClippingKind::Highlight);
-    }
+    expectEach(cases, [](const std::string& text) {
+        std::vector<std::string_view> lines = {"E", "- Sivu 9", ""};
+        for (std::string_view rest = text; !rest.empty();) {
+            lines.push_back(rest.substr(0, rest.find('\n')));
+            rest.remove_prefix(std::min(lines.back().size() + 1, rest.size()));
+        }
+        return shownRecord(lines);
+    });
+    EXPECT_EQ(client::parseClipping({"E", "- Sivu 9", "a"})->kind, ClippingKind::Highlight);
     EXPECT_EQ(client::parseClipping({"E", "- Sivu 9", ""})->kind, ClippingKind::Bookmark);
     EXPECT_EQ(shownRecord({"E"}), "refused");
     EXPECT_EQ(shownRecord({"E", "On page 5", "", "a"}), "refused");
@@ -110,22 +109,20 @@ struct PassagesRow {
 };
 
 TEST(Passages, LatestVersionTakesOverIdentity) {
-    const Clipping whole = marked(10, 14, "a b c");
+    const Clipping whole = marked(10, 14, "abc");
     const PassagesRow rows[] = {
-        {"from one start", {marked(10, 12, "a"), whole}, "0:a b c/ "},
-        {"to one end", {marked(12, 14, "c"), whole}, "0:a b c/ "},
-        {"the same again", {whole, whole}, "0:a b c/ "},
-        {"three versions",
-         {marked(10, 11, "a"), marked(10, 12, "a b"), whole},
-         "0:a b c/ "},
-        {"inside, at neither end", {marked(11, 13, "b"), whole}, "0:b/ 1:a b c/ "},
-        {"other text", {marked(10, 12, "x"), whole}, "0:x/ 1:a b c/ "},
-        {"shorter later", {whole, marked(10, 12, "a")}, "0:a b c/ 1:a/ "},
-        {"on pages", {onPages(marked(10, 12, "a")), onPages(whole)}, "0:a b c/ "},
-        {"page and location", {onPages(marked(10, 12, "a")), whole}, "0:a/ 1:a b c/ "},
-        {"article", {marked(10, 12, "a", ClippingKind::Article), whole}, "0:a b c/ "},
-        {"bookmark", {marked(10, 10, "", ClippingKind::Bookmark), whole}, "0:/ 1:a b c/ "},
-        {"without a place", {nowhere(whole), nowhere(whole)}, "0:a b c/ 1:a b c/ "},
+        {"from one start", {marked(10, 12, "a"), whole}, "0:abc/ "},
+        {"to one end", {marked(12, 14, "c"), whole}, "0:abc/ "},
+        {"the same again", {whole, whole}, "0:abc/ "},
+        {"thrice", {marked(10, 11, "a"), marked(10, 12, "ab"), whole}, "0:abc/ "},
+        {"inside, at neither end", {marked(11, 13, "b"), whole}, "0:b/ 1:abc/ "},
+        {"other text", {marked(10, 12, "x"), whole}, "0:x/ 1:abc/ "},
+        {"shorter later", {whole, marked(10, 12, "a")}, "0:abc/ 1:a/ "},
+        {"on pages", {onPages(marked(10, 12, "a")), onPages(whole)}, "0:abc/ "},
+        {"page and location", {onPages(marked(10, 12, "a")), whole}, "0:a/ 1:abc/ "},
+        {"article", {marked(10, 12, "a", ClippingKind::Article), whole}, "0:abc/ "},
+        {"bookmark", {marked(10, 10, "", ClippingKind::Bookmark), whole}, "0:/ 1:abc/ "},
+        {"without a place", {nowhere(whole), nowhere(whole)}, "0:abc/ 1:abc/ "},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(shownPassages(row.clippings), row.remaining) << row.name;
@@ -135,26 +132,24 @@ TEST(Passages, LatestVersionTakesOverIdentity) {
 TEST(Passages, NoteBecomesCommentOfItsPassage) {
     const Clipping a = marked(10, 14, "a");
     const Clipping b = marked(12, 16, "b");
+    Clipping both = b;
+    both.page = ClippingRange{10, 14};
     const Clipping n = noteAt(12, "n");
+    const Clipping more = noteAt(12, "n, more");
     const PassagesRow rows[] = {
         {"at the start", {a, noteAt(10, "n")}, "0:a/n "},
         {"at the end", {a, noteAt(14, "n")}, "0:a/n "},
         {"made before the passage", {n, a}, "1:a/n "},
         {"before the start", {a, noteAt(9, "n")}, "0:a/ 1:/n "},
         {"behind the end", {a, noteAt(15, "n")}, "0:a/ 1:/n "},
-        {"of the one marked last before",
-         {a, b, n, marked(12, 12, "c")},
-         "0:a/ 1:b/n 3:c/ "},
-        {"passage that was marked again",
-         {marked(10, 11, "a"), n, marked(10, 14, "a b")},
-         "0:a b/n "},
+        {"latest before it", {a, b, n, marked(12, 12, "c")}, "0:a/ 1:b/n 3:c/ "},
+        {"marked again", {marked(10, 11, "a"), n, marked(10, 14, "ab")}, "0:ab/n "},
         {"two remarks", {a, noteAt(12, "m"), n}, "0:a/m\u2029n "},
-        {"remark that grew", {a, n, noteAt(12, "n and more")}, "0:a/n and more "},
-        {"second remark that grew",
-         {a, noteAt(12, "m"), n, noteAt(12, "n and more")},
-         "0:a/m\u2029n and more "},
+        {"remark that grew", {a, n, more}, "0:a/n, more "},
+        {"second one grew", {a, noteAt(12, "m"), n, more}, "0:a/m\u2029n, more "},
         {"on pages", {onPages(a), onPages(n)}, "0:a/n "},
         {"page and location", {onPages(a), n}, "0:a/ 1:/n "},
+        {"page of a passage with a location", {both, onPages(n)}, "0:b/ 1:/n "},
         {"bookmark", {marked(12, 12, "", ClippingKind::Bookmark), n}, "0:/ 1:/n "},
         {"without a place", {a, nowhere(n)}, "0:a/ 1:/n "},
     };

@@ -46,9 +46,9 @@ TEST(DeviceFile, FaultIsNamedWithItsPlace) {
 TEST(Source, UnknownFileIsRefused) {
     const ScratchDirectory scratch;
     const std::string message =
-        "sample is not a file that notes can be loaded from. Known kinds: an exported "
-        "page, "
-        "clippings, a Kobo reader's database, an annotation set, a device file.";
+        "sample is not a file that notes can be loaded from. Known kinds: an "
+        "exported page, clippings, a Kobo reader's database, an annotation set, a device "
+        "file.";
     for (const char* content : {"", " \n", "[]", "p { margin: 0 }", "<html></html>",
                                 "Emma\n- Your Highlight on page 5\n\na\n", "PK\3\4"}) {
         EXPECT_EQ(shownSample(content), message) << content;
