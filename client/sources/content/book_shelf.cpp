@@ -11,7 +11,7 @@ namespace {
 std::string derivedId(const std::vector<std::string_view>& parts) {
     Digest digest;
     for (const std::string_view part : parts) {
-        digest.add(std::string_view("\0", &part == parts.data() ? 0 : 1));
+        digest.add(std::string_view("\0", 1));
         digest.add(part);
     }
     return digest.hexadecimal();
