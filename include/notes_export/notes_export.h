@@ -5,20 +5,20 @@
  *
  * Conventions
  *
- * 1. A handle is opaque. new_notes_exporter makes it, free_notes_exporter ends it, and in
+ * 1. A handle is opaque. new_notes_exporter creates it, free_notes_exporter ends it, and in
  *    between it serves any number of calls in any order. Each handle has its own export
  *    directory; handles share nothing but the device's databases.
  * 2. Text is a sequence of bytes that ends with a zero byte, UTF-8 by convention. It is
  *    copied before the function returns: the caller keeps what it passed, and frees it.
  * 3. A pointer may be null only where its function says so.
  * 4. A book is named by its book hash: the fast hash of the book's file as hexadecimal
- *    text, the key under which the device's databases know the book.
+ *    text, which is the book's key in the device's databases.
  * 5. Every function does its whole work on the calling thread and starts no thread. One
  *    handle must not serve two calls at the same time; different handles may serve
  *    different threads. The library takes no lock of its own, but the device's databases
  *    make a call wait while another thread or process writes. How long is the platform's
- *    choice (the host platform, for desktops: at most 5 seconds for each query). Then
- *    the call fails as 7 says, or an export lacks its records as 6 says.
+ *    choice (the host platform, for desktops: at most 5 seconds for each query). After
+ *    that the call fails (7), or an export lacks its records (6).
  * 6. Failures to write the exported file are not reported: a full disk, a directory that
  *    cannot be written or a busy reader database gives the same result as success. To
  *    detect them, read the file that notes_exporter_get_exported_file_name named before
@@ -50,7 +50,7 @@
 #include <stddef.h>
 
 #if defined(__GNUC__)
-/** Marks what the shared object exports. */
+/** Marks a declaration that the shared object exports. */
 #define NOTES_EXPORT_API __attribute__((visibility("default")))
 #else
 #define NOTES_EXPORT_API
@@ -68,16 +68,16 @@ typedef struct notes_exporter notes_exporter;
 #endif
 
 /**
- * Whether the note with the database identifier `first` comes before the note with the
- * identifier `second` in the document. `user_data` is the pointer that was passed beside
- * the function. The answers should form a strict weak ordering; whatever else they are, the
- * document holds every note once, in some order. Called only while
- * notes_exporter_export_bookmarks_to_html runs, on its thread.
+ * Returns whether the note with the database identifier `first` comes before the note with
+ * the identifier `second` in the document. `user_data` is the pointer that was passed with
+ * the function. The results should form a strict weak ordering. Otherwise the order is
+ * unspecified, but each note is written once. Called only by
+ * notes_exporter_export_bookmarks_to_html, on its thread.
  */
 typedef bool (*notes_exporter_before)(void* user_data, long long first, long long second);
 
 /**
- * Makes an exporter and opens the reader database. The export directory starts as
+ * Creates an exporter and opens the reader database. The export directory starts as
  * "/mnt/ext1/Notes".
  *
  * @return the handle, owned by the caller until free_notes_exporter; never null. A database
@@ -87,8 +87,8 @@ NOTES_EXPORT_API notes_exporter* new_notes_exporter(void);
 
 /**
  * Sets the directory that receives exported files, for this handle's later exports and
- * file-name queries. It is taken as it stands: nothing is checked, added, removed or
- * created. A "/" is put between it and the file's name, so it should not end in one.
+ * file-name queries. The path is used unchanged, and is neither checked nor created. A "/"
+ * is put between it and the file's name, so it should not end in one.
  *
  * @param exporter the handle; not null
  * @param directory the directory's path; not null; empty means the root directory
@@ -100,35 +100,35 @@ NOTES_EXPORT_API void notes_exporter_set_export_dir(notes_exporter* exporter,
  * Writes notes of one book into a new XHTML file under the export directory, creating
  * missing directories, and marks the file in the device's library database. The file is
  * named after the book's title; a name that is taken when the export begins gets a counter.
- * What takes the name after that is truncated (convention 8).
+ * A file created there later is overwritten (convention 8).
  *
  * @param exporter the handle; not null
  * @param book_hash the book; not null
  * @param note_ids database identifiers of the notes to export, in any order; repeated ones
  * count once, unknown ones are ignored; may be null when `count` is 0
  * @param count number of elements of `note_ids`; 0 exports every note of the book
- * @param before the notes' order in the document; null orders them by page, those of one
- * page as the database has them; a note without a page counts as one of page 0
- * @param user_data handed to `before` unchanged, never dereferenced; may be null
+ * @param before the notes' order in the document; null orders them by page, notes of one
+ * page in the order of the database; a note without a page counts as on page 0
+ * @param user_data passed to `before` unchanged, never dereferenced; may be null
  *
- * @return -1 when the reader database does not know the book; nothing has been touched
- * then. Returns 0 in every other case, also when the file could not be written.
+ * @return -1 if the reader database does not have the book; nothing has been changed then.
+ * 0 otherwise, even if the file could not be written.
  */
 NOTES_EXPORT_API int notes_exporter_export_bookmarks_to_html(
     notes_exporter* exporter, const char* book_hash, const unsigned long long* note_ids,
     size_t count, notes_exporter_before before, void* user_data);
 
 /**
- * Tells the full path of the file that an export of the book would write now. Once that
- * export is done, the answer is another path, which is free again. Creates nothing.
+ * Writes the path that the next export of the book would use into `buffer`; after that
+ * export, a new one. Creates no file.
  *
  * @param exporter the handle; not null
  * @param buffer receives the path and its terminating zero byte; not null
  * @param size capacity of `buffer` in bytes. A path of `size` bytes or more fills the
- * buffer with its first `size` bytes and no zero byte; nothing tells that it was cut. 0
- * leaves the buffer untouched.
- * @param book_hash the book; not null. A book that no database knows gets its hash as the
- * name.
+ * buffer with its first `size` bytes and no zero byte; the cut is not reported. 0 leaves
+ * the buffer unchanged.
+ * @param book_hash the book; not null. A book in neither database is named after its
+ * hash.
  */
 NOTES_EXPORT_API void notes_exporter_get_exported_file_name(notes_exporter* exporter,
                                                             char* buffer, size_t size,
@@ -141,8 +141,8 @@ NOTES_EXPORT_API void notes_exporter_get_exported_file_name(notes_exporter* expo
  * @param exporter the handle; not null
  * @param path the exported file; null gives -1
  *
- * @return zero or more on success: the number that the device's import engine answers. A
- * negative number means failure: the engine's own, or -1 for an exception.
+ * @return zero or more on success: the result of the device's import engine. A negative
+ * number on failure: the engine's own, or -1 for an exception.
  */
 NOTES_EXPORT_API int notes_exporter_import_from_file(notes_exporter* exporter,
                                                      const char* path);

@@ -19,7 +19,7 @@ bool DataBase::open(std::string& path) {
     state->path = std::filesystem::absolute(path).string();
     try {
         state->current();
-    } catch (const std::runtime_error&) {  // the result says it; the file may be anything
+    } catch (const std::runtime_error&) {  // reported by the result
         return false;
     }
     return true;

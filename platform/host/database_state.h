@@ -1,4 +1,4 @@
-// What an open database handle holds.
+// The state of an open database handle.
 #pragma once
 
 #include <optional>
@@ -8,8 +8,8 @@
 #include "store/reader_store.h"
 
 struct SqliteCpp::DB::State {
-    // The database that is under the path now. Tries again to open one that could not be
-    // opened: it may have been busy for a moment only, and the handle lives for long.
+    // Returns the database that is at the path now. Retries an open that failed, because
+    // the database may only have been busy.
     host::ReaderStore& current() {
         if (store) {
             store->reopenIfReplaced();

@@ -13,8 +13,8 @@ namespace {
 
 constexpr int kFastHashUid = 1;
 
-// One connection for each thread: calls from several threads share nothing. It is opened
-// again when the file was replaced or the working directory has changed.
+// Returns the connection of this thread. Reopens it if the file was replaced or the working
+// directory has changed.
 host::LibraryStore& library() {
     struct Open {
         host::LibraryStore store{host::kLibraryDatabasePath};
@@ -22,13 +22,13 @@ host::LibraryStore& library() {
     };
     thread_local std::unique_ptr<Open> open;
     if (open != nullptr && open->process != getpid()) {
-        static_cast<void>(open.release());  // SQLite forbids to carry it across a fork
+        static_cast<void>(open.release());  // SQLite forbids its use after a fork
     }
     if (open != nullptr && open->store.isAt(host::kLibraryDatabasePath)) {
         return open->store;
     }
     open.reset();
-    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDelete): it misses that this is null now.
+    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDelete): false, it is null now.
     open = std::make_unique<Open>();
     return open->store;
     // NOLINTEND(clang-analyzer-cplusplus.NewDelete)
@@ -41,7 +41,7 @@ DbManager* DbManager::Instance() {
     return &instance;
 }
 
-// NOLINTBEGIN(readability-convert-member-functions-to-static): the seam has them so.
+// NOLINTBEGIN(readability-convert-member-functions-to-static): declared so in the seam.
 long long DbManager::GetBookIdByUid(int kind, const std::string& uid) {
     return kind == kFastHashUid ? library().findBook(uid).value_or(-1) : -1;
 }
@@ -66,7 +66,7 @@ bool DbManager::SetFileProp(const std::string& hash, FileProp prop,
     }
     try {
         library().setFileProp(hash, static_cast<int>(prop), value);
-    } catch (const std::runtime_error&) {  // the result says it
+    } catch (const std::runtime_error&) {  // reported by the result
         return false;
     }
     return true;

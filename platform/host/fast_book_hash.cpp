@@ -33,7 +33,7 @@ std::optional<XXH128_canonical_t> hashOfFile(const char* path) {
     try {
         host::InputFile file(path);
         return hashOf(file);
-    } catch (const std::runtime_error&) {  // the missing hash says it
+    } catch (const std::runtime_error&) {  // reported by the result
         return std::nullopt;
     }
 }

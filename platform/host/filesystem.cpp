@@ -7,11 +7,11 @@ namespace veloran::system::filesystem {
 
 bool IsFileExist(const std::string& path) {
     if (path.find('\0') != std::string::npos) {
-        return false;  // the system would look for what stands before it
+        return false;  // the system would look up the part before it
     }
     std::error_code failure;
     const auto status = std::filesystem::symlink_status(path, failure);
-    // A file dated after 2038 is too large for a status whose times have 32 bits.
+    // The status of a file dated after 2038 does not fit into times of 32 bits.
     return std::filesystem::exists(status) || failure == std::errc::value_too_large;
 }
 

@@ -1,4 +1,4 @@
-// What a note's tags say, member by member.
+// The members of Note that read its tags.
 #include "utilities/note.h"
 #include "store/note_tags.h"
 

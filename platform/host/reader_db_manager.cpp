@@ -33,15 +33,15 @@ Sqlite::Connection& connected(Sqlite& connection) {
     return *connection.handle();
 }
 
-// A note's key is its identifier in decimal; 0, which no note has, for any other text.
+// Returns the identifier in a note's key; 0, which no note has, if the key is not a number.
 std::int64_t noteIdOf(const std::string& key) {
     std::int64_t id = 0;
     const char* end = key.data() + key.size();
     return std::from_chars(key.data(), end, id).ptr == end ? id : 0;
 }
 
-// For the questions that start from a book hash. Those that start from an identifier stay
-// with the file that it came from.
+// Returns the store for queries by book hash. Queries by identifier use the file that the
+// identifier came from.
 host::ReaderStore& currentStore(Sqlite& connection) {
     host::ReaderStore& store = connected(connection).store;
     store.reopenIfReplaced();
@@ -57,7 +57,7 @@ std::time_t toTime(std::int64_t seconds) {
 void setTag(Note& note, host::TagRecord& record, host::NoteJson& json) {
     Note::Value& value = note.tags[Note::Tag{record.tag}];
     value.str = std::move(record.text);
-    // The JSON of other tags means nothing here, and may take a hundred times the memory of
+    // The JSON of other tags is not used; parsed, it may take a hundred times the memory of
     // its text.
     if (record.json && (record.tag == host::kAnchorTag || record.tag == host::kRangeTag)) {
         value.json = json.parse(*record.json);
@@ -65,7 +65,7 @@ void setTag(Note& note, host::TagRecord& record, host::NoteJson& json) {
     value.timestamp = toTime(record.timestamp);
 }
 
-// A note is known by its uuid even when it came without the tag that repeats it.
+// Adds the uuid tag if the note was stored without it.
 void setUuid(Note& note, const std::string& uuid) {
     const auto [tag, added] = note.tags.try_emplace(Note::Tag::Uuid);
     if (added) {

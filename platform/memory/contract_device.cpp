@@ -1,4 +1,4 @@
-// Shows the contract tests the device in memory.
+// Gives the contract tests access to the device in memory.
 #include "contract_device.h"
 
 #include "memory_device.h"

@@ -28,7 +28,7 @@ const StoredBook* findBook(const std::string& hash) {
 
 namespace {
 
-// A book is identified by its place in the device, from 1 on.
+// Returns the index of the book in the device, plus 1; -1 for null.
 long long idOf(const StoredBook* book) {
     return book == nullptr ? -1 : book - device().books.data() + 1;
 }
@@ -51,7 +51,7 @@ struct SqliteCpp::DB::State {};
 SqliteCpp::DB::DB() = default;
 SqliteCpp::DB::~DB() = default;
 
-// NOLINTBEGIN(readability-convert-member-functions-to-static): the seam has them so.
+// NOLINTBEGIN(readability-convert-member-functions-to-static): declared so in the seam.
 namespace Veloran::ReaderLib {
 
 bool DataBase::open(std::string& /*path*/) { return true; }
@@ -65,7 +65,7 @@ void ImportExportDBV2::set_export_bookmark_ids(const std::set<unsigned long long
     exportBookmarkIds_ = ids;
 }
 
-// This platform has no dump format of its own: it hands out the payload that it was given.
+// Returns the payload of the device, because this platform has no dump format.
 bool ImportExportDBV2::books_export(std::string& out,
                                     const std::set<unsigned long long>& /*books*/) {
     out += memory::device().payload;

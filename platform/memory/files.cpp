@@ -15,7 +15,7 @@
 
 namespace fs = std::filesystem;
 
-// FNV-1a of the size and of the first bytes: fast, not safe.
+// FNV-1a of the size and of the first bytes: fast, but not secure.
 int FastBookHash(const char* path, char* buffer, int size) {
     constexpr int kLength = 16;
     constexpr std::uint64_t kPrime = 0x100000001b3;
@@ -49,11 +49,11 @@ namespace veloran::system::filesystem {
 
 bool IsFileExist(const std::string& path) {
     if (path.find('\0') != std::string::npos) {
-        return false;  // the system would look for what stands before it
+        return false;  // the system would look up the part before it
     }
     std::error_code failure;
     const auto status = fs::symlink_status(path, failure);
-    // A file dated after 2038 is too large for a status whose times have 32 bits.
+    // The status of a file dated after 2038 does not fit into times of 32 bits.
     return fs::exists(status) || failure == std::errc::value_too_large;
 }
 
@@ -75,7 +75,7 @@ std::string SerializationUtils::FromHex(const std::string& hex) {
     return bytes;
 }
 
-// In pieces: OpenSSL counts bytes in an int.
+// Encodes in pieces, because OpenSSL takes sizes as int.
 std::string SerializationUtils::ToBase64(const std::string& bytes) {
     constexpr std::size_t kPiece = std::size_t{3} << 20;
     std::string text((bytes.size() + 2) / 3 * 4, '\0');

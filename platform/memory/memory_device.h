@@ -1,5 +1,4 @@
-// The device that the platform in memory answers from. Whoever fills it does so before
-// another thread uses it.
+// The data of the platform in memory. Fill it before another thread uses it.
 #pragma once
 
 #include <map>
@@ -28,11 +27,11 @@ struct StoredBook {
 
 struct Device {
     std::vector<StoredBook> books;
-    std::string payload = {};  // of every dump; empty: none
+    std::string payload = {};  // of every dump; empty if there is none
     std::map<std::string, std::map<int, std::string>> fileProps = {};  // by hash
 };
 
-// What it starts with.
+// Returns the initial device.
 Device deviceOfOneNote();
 
 inline Device& device() {
@@ -40,7 +39,7 @@ inline Device& device() {
     return instance;
 }
 
-// The book with this hash; null when there is none.
+// Returns the book with this hash; null if there is none.
 const StoredBook* findBook(const std::string& hash);
 
 }  // namespace memory

@@ -1,4 +1,4 @@
-// A note carries its identifiers only; everything else is looked up with them.
+// A note has only its identifiers; everything else is looked up with them.
 #include <charconv>
 #include <string_view>
 
@@ -12,14 +12,14 @@ using veloran::utilities::Note;
 
 namespace {
 
-// The places of the book and of the note, both from 1 on.
+// An identifier holds the indexes of the book and of the note, both plus 1.
 constexpr unsigned kBitsOfNote = 32;
 
 unsigned long long idOf(unsigned long long book, unsigned long long note) {
     return (book + 1) << kBitsOfNote | (note + 1);
 }
 
-// Null when there is none.
+// Returns null if there is none.
 const StoredNote* stored(unsigned long long id) {
     const auto book = static_cast<std::size_t>((id >> kBitsOfNote) - 1);
     const auto note = static_cast<std::size_t>((id & ((1ULL << kBitsOfNote) - 1)) - 1);
@@ -48,7 +48,7 @@ std::string Note::getText() const { return textOf(*this, &StoredNote::text); }
 std::string Note::getImage() const { return textOf(*this, &StoredNote::picture); }
 std::string Note::getNote() const { return textOf(*this, &StoredNote::comment); }
 
-// NOLINTBEGIN(readability-convert-member-functions-to-static): the seam has them so.
+// NOLINTBEGIN(readability-convert-member-functions-to-static): declared so in the seam.
 std::vector<std::pair<std::string, unsigned long long>>
 ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*/) {
     std::vector<std::pair<std::string, unsigned long long>> keys;
@@ -57,9 +57,9 @@ ReaderDbManager::getBookNotesHashUUIDs(const std::string& bookHash, bool /*flag*
         return keys;
     }
     keys.reserve(book->notes.size());
-    const auto place = static_cast<unsigned long long>(book - device().books.data());
+    const auto bookIndex = static_cast<unsigned long long>(book - device().books.data());
     for (std::size_t note = 0; note < book->notes.size(); ++note) {
-        const unsigned long long id = idOf(place, note);
+        const unsigned long long id = idOf(bookIndex, note);
         keys.emplace_back(std::to_string(id), id);
     }
     return keys;
@@ -83,7 +83,7 @@ Note ReaderDbManager::getNote(const std::string& noteKey) {
 
 }  // namespace veloran::utilities
 
-// "…?page=12.5" or "…&page=12.5&…".
+// Accepts "…?page=12.5" and "…&page=12.5&…".
 bool Veloran::ReaderLib::extractPageFromnURI(const std::string& uri, double& page) {
     constexpr std::string_view kParameter = "page=";
     const std::size_t at = uri.find(kParameter);

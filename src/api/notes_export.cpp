@@ -9,7 +9,7 @@
 
 namespace {
 
-// What libstdc++ does with null, promised for every standard library.
+// Throws for null, as libstdc++ does, with every standard library.
 std::string toString(const char* text) {
     if (text == nullptr) {
         throw std::logic_error("basic_string: construction from null is not valid");

@@ -11,13 +11,13 @@ namespace {
 
 constexpr std::size_t kLineLength = 72;
 
-// Line breaks stand between lines only: none follows the last one.
+// Writes a line break between lines, and none after the last.
 void writeLines(Writer& writer, const std::string& text) {
     for (std::size_t offset = 0; offset < text.size(); offset += kLineLength) {
         if (offset != 0) {
             writer.writeRaw("\n");
         }
-        const char* line = text.c_str() + offset;  // a zero byte cuts it, as any text
+        const char* line = text.c_str() + offset;  // ends at a zero byte
         writer.writeRaw(line, strnlen(line, kLineLength));
     }
 }

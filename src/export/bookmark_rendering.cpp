@@ -13,8 +13,7 @@ using markup::Replacement;
 constexpr char kLineBreak[] = "<br/>";
 constexpr char kParagraphBreak[] = "</p><p>";
 
-// The text is read up to its zero byte, so that looking one byte ahead at a time never
-// passes its end.
+// Each comparison stops at the zero byte, so it never reads past the end.
 Replacement unicodeBreakAt(const char* text) {
     if (text[1] == '\x80' && text[2] == '\xA8') {  // U+2028 LINE SEPARATOR
         return {kLineBreak, 3};
@@ -47,13 +46,13 @@ void writeParagraphs(Writer& writer, const char* blockClass, const std::string& 
     writer.closeElt();
 }
 
-// Browsers look at the bytes, not at the media type: a picture of another format shows too.
+// Browsers detect the format from the bytes, so a picture of another format is shown too.
 void writePicture(Writer& writer, std::string image) {
     if (image.empty()) {
         return;
     }
     writer.openElt("div").writeAttr("class", "bm-image").openElt("img");
-    const std::string base64 =  // the bytes are not held beside it
+    const std::string base64 =  // then the bytes are freed
         utilities::SerializationUtils::ToBase64(std::exchange(image, {}));
     writer.writeAttr("src", "data:image/jpeg;base64,", base64.c_str());
     writer.closeElt().closeElt();

@@ -10,16 +10,15 @@ namespace {
 
 using utilities::Note;
 
-// A sort key. Contiguous keys, apart from the notes, keep the sort from fetching the notes
-// from memory again and again.
+// A sort key. Keys are stored apart from the notes, so that sorting stays in the cache.
 struct SortKey {
     std::uint32_t page;
     long long noteId;
-    std::size_t place;  // of the note among the selected ones
+    std::size_t index;  // of the note among the selected ones
 };
 
-// Page numbers wrap into unsigned ones: a note on page -1 precedes the notes without a
-// page, and one on page -2 follows all others.
+// Returns the page number plus 1, unsigned, so that page -1 sorts before notes without a
+// page, and page -2 after all others.
 std::uint32_t pageKey(std::optional<int> page) {
     return page ? static_cast<std::uint32_t>(*page) + 1 : 1;
 }
@@ -70,7 +69,7 @@ int NotesExporterImpl::writeBookmarks(Writer& writer, const std::string& bookHas
     std::vector<SortKey> keys = select(readerDb_, bookHash, ids, notes);
     sort(keys, before);
     for (const SortKey& key : keys) {
-        const Note note = std::move(notes[key.place]);  // freed while it is in the cache
+        const Note note = std::move(notes[key.index]);  // freed while it is in the cache
         writeBookmark(writer, note);
     }
     return 0;

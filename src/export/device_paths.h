@@ -1,4 +1,4 @@
-// The places on the device that the library knows by itself.
+// The fixed paths on the device.
 #pragma once
 
 #ifndef NOTES_EXPORT_DEVICE_ROOT

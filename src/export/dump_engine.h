@@ -1,4 +1,4 @@
-// The configuration of the import/export engine: what one side writes, the other reads.
+// The configuration of the import/export engine, the same for both directions.
 #pragma once
 
 namespace veloran {

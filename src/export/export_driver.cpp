@@ -19,8 +19,8 @@ static_assert(kDocumentType.size() == 109);
 constexpr char kXhtmlNamespace[] = "http://www.w3.org/1999/xhtml";
 constexpr char kHeadingClass[] = "bookmark bm-color-note";
 
-// The local time. The reentrant conversion serves exporters on several threads; unlike
-// localtime it does not look at the time zone's setting by itself.
+// Returns the local time. localtime_r is thread-safe, but needs tzset to read the time
+// zone.
 std::string formatted(std::time_t time) {
     std::tm local{};
     tzset();

@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kForbidden = "*!#$%&()@^`{}~'+,;=[]?<:>|\"/";
 static_assert(kForbidden.size() == 28);
 
-// Not iscntrl: which bytes it names depends on the process's locale.
+// Not iscntrl, because its result depends on the locale.
 bool isControl(char byte) {
     const auto code = static_cast<unsigned char>(byte);
     return code < 0x20 || code == 0x7F;

@@ -1,4 +1,4 @@
-// The output file of an export: it holds a prefix of the document, never one with a hole.
+// The output file of an export: always a prefix of the document, without gaps.
 #pragma once
 
 #include <fstream>
@@ -8,9 +8,8 @@
 
 namespace veloran {
 
-// A file buffer that writes nothing more once a write has failed. A plain filebuf keeps
-// what it could not write and tries again when it is closed: were there room again by
-// then, the file would go on behind a gap.
+// A file buffer that writes nothing more once a write has failed. A plain filebuf retries
+// on close; if space was freed meanwhile, the file has a gap.
 class FailStopFilebuf : public std::filebuf {
 public:
     FailStopFilebuf() { pubsetbuf(bytes_.get(), kBufferSize); }
@@ -22,12 +21,12 @@ protected:
 
 private:
     bool failed_ = false;
-    // The system takes large blocks with a third less work than small ones.
+    // Large blocks take a third less time in the system than small ones.
     static constexpr std::streamsize kBufferSize = 256 << 10;
     std::unique_ptr<char[]> bytes_{new char[kBufferSize]};
 };
 
-// A stream that creates or truncates a file. When that fails, the stream is a failed one.
+// A stream that creates or truncates a file. If that fails, the stream has failed.
 class FailStopFile : public std::ostream {
 public:
     explicit FailStopFile(const std::string& path);

@@ -5,8 +5,8 @@
 
 namespace veloran {
 
-// Returns whether the path is free of zero bytes. The system reads a path up to its zero
-// byte, and would open another file: the one whose name stands before that byte.
+// Returns false if the path contains a zero byte, because the system would open the file
+// whose name ends there.
 inline bool namesFile(const std::string& path) {
     return path.find('\0') == std::string::npos;
 }

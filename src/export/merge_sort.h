@@ -7,9 +7,9 @@
 
 namespace veloran {
 
-// Appends both sorted ranges to `out` as one. Each step takes one element that is there, so
-// that the ranges are not left, whatever `before` answers; of equivalent elements the first
-// range's come first.
+// Appends both sorted ranges to `out` as one. Each step consumes one element, so it stays
+// inside the ranges for any result of `before`. Of equivalent elements, those of the first
+// range come first.
 template <class Iterator, class T, class Before>
 void mergeInto(std::vector<T>& out, Iterator first, Iterator middle, Iterator last,
                Before& before) {
@@ -21,10 +21,9 @@ void mergeInto(std::vector<T>& out, Iterator first, Iterator middle, Iterator la
     out.insert(out.end(), second, last);
 }
 
-// Elements that `before` calls equivalent keep their order. A predicate that is no strict
-// weak ordering, or changes its mind, gives some order of the same elements: unlike the
-// standard library's algorithms, which are undefined then. An exception of the predicate
-// leaves `items` with its elements in some order.
+// Sorts `items`; equivalent elements keep their order. If `before` is not a strict weak
+// ordering, the order is unspecified but no element is lost; the standard library's
+// algorithms are undefined then. The same holds if `before` throws.
 template <class T, class Before>
 void mergeSort(std::vector<T>& items, Before before) {
     std::vector<T> merged;

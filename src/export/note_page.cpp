@@ -9,8 +9,8 @@ namespace {
 
 using Veloran::ReaderLib::extractPageFromnURI;
 
-// Converting a number that the integer cannot hold would be undefined; so would infinity
-// and not-a-number, which both comparisons refuse.
+// Returns nullopt for a number outside the range of int, infinity or NaN, because the
+// conversion would be undefined.
 std::optional<int> withoutFraction(double page) {
     using Limits = std::numeric_limits<int>;
     if (page > Limits::min() - 1.0 && page < Limits::max() + 1.0) {

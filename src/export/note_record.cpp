@@ -5,7 +5,7 @@
 
 namespace veloran::utilities {
 
-// Notes move through containers with their pictures; a throwing move would copy them.
+// A container copies elements whose move may throw; notes may hold large pictures.
 static_assert(std::is_nothrow_move_constructible_v<Note>);
 
 Note::Value::Value() : timestamp(std::time(nullptr)) {}

@@ -19,7 +19,7 @@ void copy(std::istream& file, Writer& writer) {
         file.read(block.data(), block.size());
         const std::string text(block.data(), static_cast<std::size_t>(file.gcount()));
         if (!text.empty()) {
-            writer.writeRaw(text.c_str());  // a zero byte cuts its block, as any text
+            writer.writeRaw(text.c_str());  // a block ends at a zero byte
         }
     }
 }

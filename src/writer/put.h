@@ -1,4 +1,4 @@
-// How the writer's texts reach their stream.
+// Output of texts to a stream.
 #pragma once
 
 #include <cstddef>
@@ -17,8 +17,8 @@ struct PutArea : std::streambuf {
     }
 };
 
-// Copies short texts directly, as sputc does with one byte: the stream would spend more on
-// each call than on the text. Returns false when they do not fit, or are long.
+// Copies short texts directly into the buffer, which is faster than one call of the stream
+// for each. Returns false, and copies nothing, if they do not fit or are long.
 template <class... Texts>
 inline bool putIntoBuffer(std::streambuf& buffer, Texts... texts) {
     constexpr std::size_t kLongest = 4096;
@@ -40,8 +40,8 @@ inline void putThroughStream(std::ostream& stream, std::string_view text) {
     }
 }
 
-// Unformatted output: neither a locale nor a field width of the stream can change a byte,
-// and a stream that has failed passes nothing on.
+// Writes the texts unformatted, so that no locale or field width changes a byte. Writes
+// nothing to a stream that has failed.
 template <class... Texts>
 inline void put(std::ostream& stream, const Texts&... texts) {
     if (stream.good() && !putIntoBuffer(*stream.rdbuf(), std::string_view(texts)...)) {

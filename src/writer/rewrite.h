@@ -7,14 +7,13 @@
 
 namespace markup {
 
-// The markup for the first `length` bytes of a text; an empty `text` leaves them as they
-// are.
+// The markup for the first `length` bytes of a text. An empty `text` keeps the bytes.
 struct Replacement {
     std::string_view text;
     std::size_t length = 1;
 };
 
-// The entity for a markup character at the start of `text`.
+// Returns the entity for a markup character at the start of `text`.
 inline Replacement entityAt(const char* text) {
     switch (*text) {
         case '&':
@@ -32,8 +31,8 @@ inline Replacement entityAt(const char* text) {
     }
 }
 
-// A rule for rewriting: `replacementAt` returns the replacement at the start of a text. It
-// is called only at bytes that are in `starts`.
+// A rule for rewriting. `replacementAt` returns the replacement at the start of a text, and
+// is called only for bytes in `starts`.
 struct Rewriting {
     const char* starts;
     Replacement (*replacementAt)(const char* text);
@@ -41,8 +40,8 @@ struct Rewriting {
 
 inline constexpr Rewriting kEscaping = {"&<>'\"", entityAt};
 
-// Hands `text`, up to its zero byte, to `put(unchanged, markup)`, two string views, in as
-// few pieces as the replacements allow.
+// Calls `put(unchanged, markup)`, with two string views, for each replacement in `text` and
+// for the rest, up to its zero byte.
 template <class Put>
 void rewrite(const char* text, const Rewriting& rewriting, Put put) {
     const char* run = text;

@@ -1,4 +1,4 @@
-// The streaming markup writer through which the whole document is written.
+// A streaming writer of markup.
 #pragma once
 
 #include <cstddef>
@@ -9,46 +9,46 @@
 #include "writer/rewrite.h"
 
 // Writes each element on a line of its own, indented by two spaces per enclosing element,
-// and escapes text and attribute values. Everything goes to the stream at once. A failed
-// stream swallows the rest of the document, and nothing else changes.
+// and escapes text and attribute values. Each call writes to the stream at once. After the
+// stream fails, calls have no effect on it.
 class Writer {
 public:
-    // Does not own the stream, and never opens, flushes or closes it.
+    // Does not own, flush or close the stream.
     explicit Writer(std::ostream& stream);
 
     Writer& openElt(const char* name);
 
-    // Only while the start tag of the innermost element is still open: after openElt and
-    // before any content. The value may come in two parts; `rest` is null when it does not.
+    // Writes an attribute; only valid after openElt and before any content. `rest` is the
+    // second part of the value, or null.
     Writer& writeAttr(const char* name, const char* value, const char* rest = nullptr);
 
-    // Text content, escaped.
+    // Writes text content, escaped.
     Writer& writeText(const char* text);
 
-    // Markup, written verbatim; does not affect indentation.
+    // Writes markup verbatim; does not affect indentation.
     Writer& writeRaw(const char* text);
     Writer& writeRaw(const char* bytes, std::size_t length);
 
-    // Content that becomes markup as `rewriting` says.
+    // Writes content with the replacements of `rewriting`.
     Writer& writeRewritten(const char* text, const markup::Rewriting& rewriting);
 
     // Ends the innermost element; does nothing when none is open.
     Writer& closeElt();
 
-    // Number of elements that are open.
+    // Returns the number of open elements.
     std::size_t depth() const { return openElements.size(); }
 
-    // Writes the text with its markup characters escaped, and changes nothing else.
+    // Writes the text escaped, without ending the start tag.
     void write_escape(const char* text);
 
-    // The text as write_escape writes it.
+    // Returns the text escaped.
     static std::string encodeString(const char* text);
 
 private:
     void finishStartTag();
 
     std::ostream* out;
-    bool tagOpen = false;    // the innermost start tag still lacks its ">"
-    bool endTagLast = true;  // the last tag was an end tag: the next one gets its own line
+    bool tagOpen = false;    // the innermost start tag has no ">" yet
+    bool endTagLast = true;  // an end tag was last, so the next one gets its own line
     std::deque<std::string> openElements;
 };

@@ -20,9 +20,9 @@ namespace {
 constexpr std::size_t kPieceSize = 65536;
 constexpr int kParserOptions = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_HUGE;
 
-// The parser compares each attribute of a start tag with all before it, its dictionary of
-// names has few buckets, and an error costs it more than an element. The limits hold the
-// time of an import to the length of the document.
+// Limits keep the import linear: the parser compares each attribute of a start tag with all
+// before it, its dictionary of names has few buckets, and an error takes more time than an
+// element.
 constexpr std::size_t kMaxBytesBeforeDump = std::size_t{64} << 20;
 constexpr std::size_t kMaxBytesOfNames = std::size_t{64} << 10;
 constexpr int kMaxAttributes = 100;  // of one start tag
@@ -58,27 +58,27 @@ InputFile open(const std::string& path) {
     }
 }
 
-// Takes what the libxml2 of this thread complains of, which else prints on standard error.
-// The program around may use libxml2, too, and gets its own handler back.
-class Complaints {
+// Receives the errors of libxml2 in this thread, which are otherwise printed on standard
+// error. The destructor restores the program's own handler.
+class ErrorHandler {
 public:
     template <class Handler>
-    Complaints(void* self, Handler handler) {
+    ErrorHandler(void* self, Handler handler) {
         xmlSetStructuredErrorFunc(self, handler);
     }
-    ~Complaints() { xmlSetStructuredErrorFunc(previousSelf_, previous_); }
-    Complaints(const Complaints&) = delete;
-    Complaints& operator=(const Complaints&) = delete;
+    ~ErrorHandler() { xmlSetStructuredErrorFunc(previousSelf_, previous_); }
+    ErrorHandler(const ErrorHandler&) = delete;
+    ErrorHandler& operator=(const ErrorHandler&) = delete;
 
 private:
     const xmlStructuredErrorFunc previous_ = xmlStructuredError;
     void* const previousSelf_ = xmlStructuredErrorContext;
 };
 
-// Receives the parser's events. No entity is ever declared: a dump of more than 10 MB needs
-// XML_PARSE_HUGE, which lifts the parser's own guard against entities that amplify each
-// other. Without handlers the parser knows only the five predefined ones, as long as its
-// user data is not the parser itself: it then looks them up on its own.
+// Receives the parser's events. A dump of more than 10 MB needs XML_PARSE_HUGE, which
+// disables the parser's guard against entities that expand each other. Therefore no entity
+// is declared: without handlers, and with user data other than the parser itself, only the
+// five predefined entities exist.
 class DumpFinder {
 public:
     explicit DumpFinder(const std::string& path) : file_(open(path)) {}
@@ -97,11 +97,11 @@ private:
     void start(const xmlChar* name, const xmlChar** attributes);
     void append(const xmlChar* text, int size);
     void end();
-    void complain(int error);
+    void countError(int error);
     std::size_t read(char* buffer, std::size_t size);
     void checkLimits() const;
 
-    // No exception may pass through the parser: it is kept until the parser has returned.
+    // Stores an exception until the parser has returned, because none may pass through it.
     template <class Event>
     bool keepFailure(Event event);
     template <class Event>
@@ -136,8 +136,8 @@ Payload DumpFinder::find() {
 void DumpFinder::parse() {
     static std::once_flag initialized;  // several threads may be the first to import
     std::call_once(initialized, xmlInitParser);
-    const Complaints complaints(this, [](void* self, auto* error) {
-        static_cast<DumpFinder*>(self)->complain(error->code);
+    const ErrorHandler handler(this, [](void* self, auto* error) {
+        static_cast<DumpFinder*>(self)->countError(error->code);
     });
     parser_.reset(xmlNewParserCtxt());
     if (parser_ == nullptr) {
@@ -149,7 +149,7 @@ void DumpFinder::parse() {
         parser_.get(), read, nullptr, this, nullptr, nullptr, kParserOptions));
 }
 
-void DumpFinder::complain(int error) {
+void DumpFinder::countError(int error) {
     ++errors_;
     keepFailure([error] {
         if (error == XML_ERR_NO_MEMORY) {
@@ -158,7 +158,7 @@ void DumpFinder::complain(int error) {
     });
 }
 
-// Enumerations and declarations take time that grows faster than they do.
+// Throws if there is an internal subset, because the parser reads one in quadratic time.
 void DumpFinder::refuseInternalSubset() const {
     if (*parser_->input->cur == '[') {
         throw DumpError(kNoDump,
@@ -235,7 +235,7 @@ xmlSAXHandler DumpFinder::handlers() {
     return sax;
 }
 
-// A failure ends the document for the parser, which must not be stopped while it reads.
+// Returns -1 after a failure, because the parser must not be stopped while it reads.
 int DumpFinder::read(void* self, char* buffer, int size) {
     DumpFinder& finder = *static_cast<DumpFinder*>(self);
     std::size_t count = 0;

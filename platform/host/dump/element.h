@@ -7,11 +7,11 @@
 
 namespace host {
 
-// The payload of the first dump element of the document at `path`. The rest of the
-// document need not be well-formed, as long as the root element does not end before it.
-// Nothing is read beyond the element's end (and the block that holds it), nothing is
-// fetched and no entity is expanded. Throws DumpError: kFileUnreadable, kNoDump, or
-// kDumpDamaged when the element does not end or is not Base64.
+// Returns the payload of the first dump element of the document at `path`. The rest of the
+// document need not be well-formed, but the root element must not end before the dump.
+// Reads no further than the block with the element's end, fetches nothing and expands no
+// entity. Throws DumpError: kFileUnreadable, kNoDump, or kDumpDamaged if the element does
+// not end or is not Base64.
 Payload readDumpElement(const std::string& path);
 
 }  // namespace host

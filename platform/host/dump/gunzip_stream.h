@@ -1,4 +1,4 @@
-// A stream of what a gzip member holds.
+// A stream that decompresses one gzip member.
 #pragma once
 
 #include <zlib.h>
@@ -11,9 +11,9 @@
 
 namespace host {
 
-// An input stream for RapidJSON, hence the capitals. Reading throws DumpError
-// (kDumpDamaged) for a member that is cut, altered or followed by anything, and for one
-// that holds more than the limit; std::bad_alloc when memory runs out.
+// An input stream for RapidJSON, which names its members. Reading throws DumpError
+// (kDumpDamaged) if the member is cut, altered, followed by other bytes or larger than the
+// limit, and std::bad_alloc.
 class GunzipStream {
 public:
     using Ch = char;
@@ -23,18 +23,17 @@ public:
     GunzipStream(const GunzipStream&) = delete;
     GunzipStream& operator=(const GunzipStream&) = delete;
 
-    // A zero byte stands for the end, like a zero byte in the text: atEnd() tells them
-    // apart.
+    // Both return a zero byte at the end; atEnd() distinguishes it from one in the text.
     char Peek() { return next_ != end_ || refill() ? *next_ : '\0'; }
     char Take() { return next_ != end_ || refill() ? *next_++ : '\0'; }
     std::size_t Tell() const {
         return stream_.total_out - static_cast<std::size_t>(end_ - next_);
     }
 
-    // Whether everything was read and the member's checksum and length were found right.
+    // Returns true if everything was read, and checksum and length are correct.
     bool atEnd() { return next_ == end_ && !refill(); }
 
-    // RapidJSON asks for these, and uses them only to parse in place.
+    // RapidJSON requires these, but calls them only to parse in place.
     static char* PutBegin() { return nullptr; }
     static void Put(char /*c*/) {}
     static std::size_t PutEnd(char* /*begin*/) { return 0; }

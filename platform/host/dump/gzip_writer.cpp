@@ -9,7 +9,7 @@ namespace {
 constexpr int kLevel = 1;
 constexpr int kGzipFraming = 16;
 constexpr int kMemoryLevel = 8;
-constexpr int kUnknownSystem = 255;  // rather than the system that zlib was built on
+constexpr int kUnknownSystem = 255;  // the same bytes on every system
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void GzipWriter::compress(int flush) {
 
 void GzipWriter::setStrategy(int strategy) {
     compress(Z_NO_FLUSH);
-    // Z_BUF_ERROR: the output had no room for what was compressed so far.
+    // Z_BUF_ERROR: the output block was full.
     while (append([&] { return deflateParams(&stream_, kLevel, strategy); }) ==
            Z_BUF_ERROR) {
     }

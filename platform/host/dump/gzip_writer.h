@@ -9,13 +9,13 @@
 
 namespace host {
 
-// An output stream for RapidJSON, hence the capitals. Throws std::runtime_error for input
-// that exceeds the limit, std::bad_alloc when memory runs out.
+// An output stream for RapidJSON, which names its members. Throws std::runtime_error if the
+// input exceeds the limit, and std::bad_alloc.
 class GzipWriter {
 public:
     using Ch = char;
 
-    // Appends to `out`. At most `limit` bytes of input.
+    // Appends to `out`. Accepts at most `limit` bytes of input.
     GzipWriter(std::string& out, std::size_t limit);
     ~GzipWriter();
     GzipWriter(const GzipWriter&) = delete;
@@ -29,8 +29,8 @@ public:
     }
     void Flush() {}
 
-    // Announces that what follows has no repetitions worth looking for: Base64 of a picture
-    // compresses three times as fast then, and no worse.
+    // Stops searching for repetitions: Base64 of a picture then compresses three times as
+    // fast, and to the same size.
     void beginIncompressible() { setStrategy(Z_HUFFMAN_ONLY); }
     void endIncompressible() { setStrategy(Z_DEFAULT_STRATEGY); }
 

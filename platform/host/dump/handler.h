@@ -1,4 +1,4 @@
-// Makes records of the events of a dump's JSON text.
+// Builds records from the events of a dump's JSON text.
 #pragma once
 
 #include <rapidjson/rapidjson.h>
@@ -15,9 +15,9 @@
 
 namespace host {
 
-// A handler for RapidJSON, hence the capitals. It accepts what format.h describes and
-// nothing else: the first key, value or bracket out of place is refused, which ends the
-// parsing. So neither depth nor size of foreign JSON costs anything.
+// A handler for RapidJSON, which names its members. It accepts only the format of format.h.
+// The first other key, value or bracket ends the parsing, so that foreign JSON of any depth
+// or size takes no time.
 class DumpHandler {
 public:
     explicit DumpHandler(std::size_t maxRecords) : recordsLeft_(maxRecords) {}
@@ -41,7 +41,7 @@ public:
     static bool Bool(bool /*value*/) { return false; }
     static bool Null() { return false; }
 
-    // The records read so far, and why the last event was refused.
+    // Return the records read so far, and the reason why the last event was rejected.
     std::vector<BookRecord>& books() { return books_; }
     ImportResult failure() const { return failure_; }
 
@@ -51,7 +51,7 @@ private:
     bool number(std::int64_t value);
     bool version(std::int64_t value);
     bool text(std::string_view value);
-    std::string* destination();  // of the text value that comes next; null: none is due
+    std::string* destination();  // of the next text value; null if none is expected
     bool endTag();
 
     NoteRecord& note() { return books_.back().notes.back(); }
@@ -59,8 +59,8 @@ private:
 
     std::vector<BookRecord> books_;
     ImportResult failure_ = kDumpDamaged;
-    int depth_ = 0;  // of open brackets: objects at odd depths, arrays at even ones
-    Field field_{};  // the key whose value comes next
+    int depth_ = 0;  // open brackets: objects at odd depths, arrays at even ones
+    Field field_{};  // key of the next value
     NoteJson noteJson_;
     std::size_t recordsLeft_;
     bool base64_ = false;

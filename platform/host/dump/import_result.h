@@ -1,4 +1,4 @@
-// What an import answers when it fails.
+// The failures of an import.
 #pragma once
 
 #include <stdexcept>
@@ -6,8 +6,8 @@
 
 namespace host {
 
-// The results of ImportExportDBV2::books_import below zero; from zero up it is the number
-// of notes added or changed. -1 stays free for callers that need a failure of their own.
+// The negative results of ImportExportDBV2::books_import; other results are the number of
+// notes added or changed. -1 is reserved for failures of the caller.
 enum ImportResult : int {
     kFileUnreadable = -2,  // no such file, not a file, or not readable to its end
     kNoDump = -3,          // the document holds no dump
@@ -16,7 +16,7 @@ enum ImportResult : int {
     kDatabaseError = -6,   // the reader database is closed, busy or broken
 };
 
-// Why a document's dump cannot be had; `result` is what the import answers.
+// A failure to read a document's dump; `result` is the result of the import.
 class DumpError : public std::runtime_error {
 public:
     DumpError(ImportResult why, const std::string& what)

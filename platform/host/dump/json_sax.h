@@ -1,4 +1,4 @@
-// RapidJSON's reader and writer, made to report that memory has run out.
+// RapidJSON's reader and writer, which throw std::bad_alloc here.
 #pragma once
 
 #include <rapidjson/reader.h>
@@ -10,8 +10,8 @@
 
 namespace host {
 
-// Throws std::bad_alloc where RapidJSON's own allocator hands out a null pointer that
-// nobody checks.
+// Throws std::bad_alloc; RapidJSON's own allocator returns a null pointer, which is not
+// checked.
 class ThrowingAllocator {
 public:
     static constexpr bool kNeedFree = true;

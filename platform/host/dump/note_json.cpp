@@ -20,7 +20,7 @@ using rapidjson::SizeType;
 constexpr std::size_t kMaxDepth = 32;
 constexpr std::size_t kMaxParsedSize = std::size_t{4} << 10;
 
-// Accepts everything but too deep a nesting.
+// Accepts JSON that is not nested too deep.
 class DepthGuard : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, DepthGuard> {
 public:
     bool StartObject() { return ++depth_ <= kMaxDepth; }
@@ -37,7 +37,8 @@ private:
     std::size_t depth_ = 0;
 };
 
-// Not jsoncpp's own reader: that one takes numbers as the global locale writes them.
+// Builds a Json::Value. jsoncpp's own reader is not used because it reads numbers in the
+// global locale.
 class ValueBuilder {
 public:
     bool Null() { return add(Json::Value()); }
@@ -65,18 +66,18 @@ public:
     Json::Value take() { return std::move(root_); }
 
 private:
-    Json::Value& place(Json::Value value) {
+    Json::Value& insert(Json::Value value) {
         Json::Value& target = open_.empty()             ? root_
                               : open_.back()->isArray() ? open_.back()->append({})
                                                         : (*open_.back())[key_];
         return target = std::move(value);
     }
     bool add(Json::Value value) {
-        place(std::move(value));
+        insert(std::move(value));
         return true;
     }
     bool open(Json::ValueType type) {
-        open_.push_back(&place(type));
+        open_.push_back(&insert(type));
         return open_.size() <= kMaxDepth;
     }
     bool close() {
@@ -102,7 +103,7 @@ NoteJson::~NoteJson() = default;
 template <class Handler>
 bool NoteJson::read(const std::string& text, Handler& handler) {
     rapidjson::StringStream bytes(text.c_str());
-    // The parser takes a zero byte for the end of the text.
+    // A zero byte ends the text for the parser.
     return isUtf8(text) && !reader_->json.Parse(bytes, handler).IsError() &&
            bytes.Tell() == text.size();
 }

@@ -9,8 +9,8 @@
 
 namespace host {
 
-// Reads one text after the other, which is much cheaper than to begin anew for each. Serves
-// one thread at a time.
+// Parses one text after another with one parser, which is much faster than one parser for
+// each. Serves one thread at a time.
 class NoteJson {
 public:
     NoteJson();
@@ -18,12 +18,12 @@ public:
     NoteJson(const NoteJson&) = delete;
     NoteJson& operator=(const NoteJson&) = delete;
 
-    // Whether `text` is one whole JSON value (RFC 8259, UTF-8) that nests no deeper than 32
-    // levels. Takes little memory, whatever the text.
+    // Returns whether `text` is one JSON value (RFC 8259, UTF-8) with at most 32 levels.
+    // Takes little memory for any text.
     bool isJson(const std::string& text);
 
-    // The value that `text` spells, whatever the locale; nothing when it is not JSON as
-    // above, or longer than a position has reason to be (4 KiB).
+    // Returns the value, read alike in every locale; nullopt if the text is not JSON as
+    // above, or longer than 4 KiB, because a position is short.
     std::optional<Json::Value> parse(const std::string& text);
 
 private:

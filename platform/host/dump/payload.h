@@ -1,4 +1,4 @@
-// The bytes of a dump on their way from the document to the records.
+// The bytes of a dump, between the document and the records.
 #pragma once
 
 #include <deque>
@@ -6,8 +6,8 @@
 
 namespace host {
 
-// Pieces of any size, taken off the front and released as they are used: the
-// records grow as the payload shrinks.
+// Pieces of any size, removed from the front as they are read, so that payload and records
+// are never both whole in memory.
 using Payload = std::deque<std::string>;
 
 }  // namespace host

@@ -10,11 +10,11 @@
 
 namespace host {
 
-// The records of the dump (format.h) in the document at `path`, complete and checked.
-// Throws DumpError, with what the import is to answer.
+// Returns the records of the dump (format.h) in the document at `path`, complete and
+// checked. Throws DumpError, which has the result of the import.
 std::vector<BookRecord> readDump(const std::string& path);
 
-// The same of a payload.
+// Returns the records of a payload.
 std::vector<BookRecord> readPayload(Payload payload, const DumpLimits& limits = {});
 
 }  // namespace host

@@ -22,7 +22,7 @@ bool isText(const std::string& bytes) {
     return bytes.find('\0') == std::string::npos && isUtf8(bytes);
 }
 
-// The text that another dump holds, in the place of a new one.
+// An output stream that compares the text with that of an existing dump.
 class ComparingStream {
 public:
     using Ch = char;
@@ -30,7 +30,7 @@ public:
     explicit ComparingStream(Payload payload)
         : expected_(std::move(payload), DumpLimits().size) {}
 
-    // Past the end there are zero bytes, which JSON does not have.
+    // Past the end, Take() returns zero bytes, which JSON does not contain.
     void Put(char c) { isSame_ = isSame_ && expected_.Take() == c; }
     void Flush() {}
     void beginIncompressible() {}
@@ -44,7 +44,7 @@ private:
     bool isSame_ = true;
 };
 
-// Writes JSON to a GzipWriter, or to what looks like one.
+// Writes JSON to a GzipWriter or a ComparingStream.
 template <class Stream>
 class DumpWriter {
 public:
@@ -177,7 +177,7 @@ std::vector<BookEntry> findBooks(ReaderStore& store,
     return found;
 }
 
-// Returns whether there is any of the books.
+// Returns false if none of the books exists.
 template <class Stream>
 bool write(ReaderStore& store, const std::set<unsigned long long>& books,
            const std::set<unsigned long long>& notes, Stream& stream,

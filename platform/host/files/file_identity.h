@@ -1,4 +1,4 @@
-// Which file a path leads to.
+// The identity of a file.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace host {
 // Device and inode: two paths with the same identity lead to the same file.
 using FileIdentity = std::tuple<std::uint32_t, std::uint32_t, std::uint64_t>;
 
-// Nothing when there is no file at `path`.
+// Returns the identity of the file at `path`; nullopt if there is none.
 std::optional<FileIdentity> identityOf(const std::string& path);
 
 }  // namespace host

@@ -11,13 +11,13 @@
 namespace host {
 
 InputFile::InputFile(const std::string& path)
-    // Without O_NONBLOCK, opening a FIFO waits for somebody who writes into it.
+    // Without O_NONBLOCK, opening a FIFO waits for a writer.
     : path_(path),
       descriptor_(open(path.c_str(), O_RDONLY | O_LARGEFILE | O_NONBLOCK | O_CLOEXEC)) {
     if (descriptor_ < 0) {
         fail(errno);
     }
-    // Not fstat: a file dated after 2038 is too large for times of 32 bits.
+    // Not fstat, which fails for a file dated after 2038 if times have 32 bits.
     struct statx status = {};
     const bool known =
         statx(descriptor_, "", AT_EMPTY_PATH, STATX_TYPE | STATX_SIZE, &status) == 0;

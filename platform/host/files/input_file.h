@@ -7,17 +7,17 @@
 
 namespace host {
 
-// Not a standard stream: a global locale may convert what those read. Every failure is a
-// std::runtime_error that names the file and says what the system said.
+// Not a standard stream, because a global locale may convert the bytes of those. Every
+// failure is a std::runtime_error with the file's path and the system's message.
 class InputFile {
 public:
-    // Opens a regular file. A directory, a FIFO or a device is refused without waiting.
+    // Opens a regular file. Throws at once for a directory, a FIFO or a device.
     explicit InputFile(const std::string& path);
     ~InputFile();
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    // In bytes, when it was opened.
+    // Returns the size in bytes when the file was opened.
     std::uint64_t size() const { return size_; }
 
     // Reads up to `capacity` bytes, and returns how many: 0 only at the end of the file.

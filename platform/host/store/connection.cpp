@@ -32,7 +32,7 @@ SQLite::Database openFile(const std::string& path) {
         std::filesystem::create_directories(directory);
     }
     return withPath(path, [&] {
-        // One thread at a time: no call needs a lock.
+        // no lock: only one thread uses it
         return SQLite::Database(
             path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
             kBusyTimeoutMs);
@@ -49,7 +49,7 @@ int Query::run() {
     return withPath(path_, [this] { return statement_.exec(); });
 }
 
-// SQLite counts in int: a longer value would be cut where the number wraps.
+// Throws if the size does not fit into an int, because SQLite would truncate the value.
 void Query::requireRoomFor(const std::string& value) const {
     if (value.size() > kMaxValueSize) {
         throw std::runtime_error(path_ + ": a value of " + std::to_string(value.size()) +
@@ -83,15 +83,15 @@ Connection::Connection(const std::string& path, const Schema& schema)
       database_(openFile(path)),
       identity_(identityOf(file_)) {
     withPath(path, [&] {
-        database_.exec("PRAGMA temp_store = MEMORY");  // sorting needs no room on disk
+        database_.exec("PRAGMA temp_store = MEMORY");  // sorting needs no disk space
         createTables(schema);
         checkVersion(schema);
     });
 }
 
 bool Connection::isReplaced() {
-    // SQLite compares the inode alone, but with that of the file that it opened: a file
-    // that was replaced between its opening and the look at its identity is noticed too.
+    // SQLite compares only the inode, but that of the file that it opened. Together the
+    // checks also detect a file that was replaced before its identity was read.
     int moved = 0;
     sqlite3_file_control(database_.getHandle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     return moved != 0 || identityOf(file_) != identity_;
@@ -103,10 +103,10 @@ void Connection::write(const std::function<void()>& work) {
 
 void Connection::read(const std::function<void()>& work) { transact("BEGIN", work); }
 
-// Not SQLite::Transaction: when memory is too short for its destructor to roll back, that
-// throws and ends the process.
+// Not SQLite::Transaction, whose destructor throws, and so ends the process, if there is no
+// memory for the rollback.
 void Connection::transact(const char* begin, const std::function<void()>& work) {
-    SQLite::Statement& rollback = prepared("ROLLBACK");  // while there is memory
+    SQLite::Statement& rollback = prepared("ROLLBACK");  // prepared while there is memory
     withPath(path_, [&] {
         database_.exec(begin);
         try {
@@ -127,7 +127,7 @@ void Connection::createTables(const Schema& schema) {
     };
     if (isEmpty()) {
         write([&] {
-            if (isEmpty()) {  // nobody created them while this waited for the lock
+            if (isEmpty()) {  // not created meanwhile
                 database_.exec(schema.sql);
                 database_.exec("PRAGMA user_version = " + std::to_string(schema.version));
             }

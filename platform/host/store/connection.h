@@ -1,7 +1,7 @@
-// A connection to a database file: how it is opened, and its prepared statements.
+// A connection to a database file, and its prepared statements.
 //
-// The journal is SQLite's default, for rollback: a write-ahead log would need room for
-// files of its own even to read, so that a full disk would lock the user out of the notes.
+// The journal is SQLite's default, for rollback. A write-ahead log needs disk space even to
+// read, so that a full disk would make the notes unreadable.
 #pragma once
 
 #include <SQLiteCpp/Database.h>
@@ -17,13 +17,13 @@
 
 namespace host {
 
-// What a database file holds: `sql` creates it, `version` is kept in user_version.
+// The tables of a database file: `sql` creates them, user_version holds `version`.
 struct Schema {
     int version;
     const char* sql;
 };
 
-// Bytes that go into the database as a BLOB.
+// Bytes to be stored as a BLOB.
 struct Blob {
     const std::string& bytes;
 };
@@ -33,7 +33,7 @@ struct Blob {
 class Query {
 public:
     // Binds `values` to the statement's parameters, in order. `path` is the database's, for
-    // the messages of failures.
+    // error messages.
     template <class... Values>
     Query(SQLite::Statement& statement, const std::string& path, const Values&... values)
         : statement_(statement), path_(path) {
@@ -43,16 +43,16 @@ public:
     Query(const Query&) = delete;
     Query& operator=(const Query&) = delete;
 
-    // Binds the parameters that follow those that are bound.
+    // Binds `values` to the next parameters.
     template <class... Values>
     void bind(const Values&... values) {
         (bindTo(++bound_, values), ...);
     }
 
-    // Advances to the next row; false when there is none.
+    // Advances to the next row; returns false if there is none.
     bool next();
 
-    // Executes a statement that gives no rows, and returns how many rows it changed.
+    // Executes a statement without result rows. Returns the number of rows that it changed.
     int run();
 
     std::int64_t integer(int column) { return statement_.getColumn(column).getInt64(); }
@@ -71,33 +71,33 @@ private:
     int bound_ = 0;
 };
 
-// Serves one thread at a time. Every failure is a std::runtime_error that names the file,
-// but for std::bad_alloc.
+// Serves one thread at a time. Every failure is std::bad_alloc or a std::runtime_error that
+// names the file.
 class Connection {
 public:
-    // Opens the database at `path`. Missing directories, the file and its tables are
-    // created; several processes may do that at once. A file of another schema version, or
-    // with tables of somebody else, is a failure.
+    // Opens the database at `path`. Creates missing directories, the file and its tables;
+    // several processes may do that at once. Fails for another schema version, or tables of
+    // another program.
     Connection(const std::string& path, const Schema& schema);
 
-    // The path of the file, which does not depend on the working directory any more.
+    // Returns the absolute path of the file.
     const std::string& file() const { return file_; }
 
-    // Whether the file at that path was replaced or removed.
+    // Returns whether the file at that path was replaced or removed.
     bool isReplaced();
 
-    // The statement `sql`, which is compiled once and lives in static storage, with
-    // `values` bound to its parameters in order.
+    // Returns the statement `sql`, with `values` bound to its parameters in order. It is
+    // compiled once for each pointer, so `sql` must be in static storage.
     template <class... Values>
     Query query(const char* sql, const Values&... values) {
         return Query(prepared(sql), path_, values...);
     }
 
-    // The identifier of the row that was inserted last.
+    // Returns the identifier of the row that was inserted last.
     std::int64_t lastInsertedId() const { return database_.getLastInsertRowid(); }
 
-    // Runs `work` in one transaction, undone when it throws. A writing one holds the write
-    // lock from the start; a reading one sees one state of the database throughout.
+    // Calls `work` in one transaction, which is rolled back if it throws. write() holds the
+    // write lock from the start; in read(), all queries see one state of the database.
     void write(const std::function<void()>& work);
     void read(const std::function<void()>& work);
 

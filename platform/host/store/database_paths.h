@@ -7,8 +7,7 @@
 
 namespace host {
 
-// A relative root resolves against the working directory of the moment a database is
-// opened.
+// A relative root resolves against the working directory when a database is opened.
 inline constexpr const char* kReaderDatabasePath =
     NOTES_EXPORT_DEVICE_ROOT "/system/config/books.db";
 inline constexpr const char* kLibraryDatabasePath =

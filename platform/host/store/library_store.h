@@ -1,4 +1,4 @@
-// The library database: what the device knows of every book and file on it.
+// The library database: the title, author and path of each book, and properties of files.
 #pragma once
 
 #include <cstdint>
@@ -21,30 +21,29 @@ struct LibraryBook {
     std::string path;  // of the book's file
 };
 
-// One connection to the database; serves one thread at a time. Every failure is an
-// exception of the std::runtime_error family that names the file and what is wrong with it.
+// A connection to the database; serves one thread at a time. Every failure is
+// std::bad_alloc or a std::runtime_error that names the file and the cause.
 class LibraryStore {
 public:
-    // Opens the database at `path`, creating it, and the directories to it, when missing.
+    // Opens the database at `path`, and creates it and its directories if they are missing.
     explicit LibraryStore(const std::string& path);
     ~LibraryStore();
     LibraryStore(const LibraryStore&) = delete;
     LibraryStore& operator=(const LibraryStore&) = delete;
 
-    // Whether this is the database that opening `path` would give now.
+    // Returns whether the database that is at `path` now is this one.
     bool isAt(const std::string& path) const;
 
-    // Adds the book, or replaces what is known of the one with its hash.
+    // Adds the book, or replaces the one with its hash.
     void putBook(const LibraryBook& book);
 
-    // Adds all these in one transaction; what is known of those that are there changes as
-    // `known` says.
+    // Adds the books in one transaction; `known` says how books with a known hash change.
     void putBooks(const std::vector<LibraryBook>& books, OnKnownBook known);
 
     std::optional<std::int64_t> findBook(const std::string& fastHash);  // raw bytes
     std::optional<LibraryBook> book(std::int64_t id);
 
-    // A property of the file with the fast hash `hash`, by number.
+    // Sets or returns a numbered property of the file with the fast hash `hash`.
     void setFileProp(const std::string& hash, int prop, const std::string& value);
     std::optional<std::string> fileProp(const std::string& hash, int prop);
 

@@ -41,8 +41,8 @@ std::optional<NoteRecord> NotePrefetch::take(ReaderStore& store, std::int64_t id
 void NotePrefetch::read(ReaderStore& store) {
     store.inReadTransaction([&] {
         std::size_t size = 0;
-        for (std::size_t place = next_; place < ids_.size() && size < kMaxSize; ++place) {
-            size += sizeOf(notes_.emplace_back(store.note(ids_[place])));
+        for (std::size_t index = next_; index < ids_.size() && size < kMaxSize; ++index) {
+            size += sizeOf(notes_.emplace_back(store.note(ids_[index])));
         }
     });
 }

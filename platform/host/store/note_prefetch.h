@@ -1,4 +1,4 @@
-// Notes of a book, read before they are asked for.
+// Reads notes of a book before they are requested.
 #pragma once
 
 #include <cstddef>
@@ -11,22 +11,22 @@
 
 namespace host {
 
-// Serves notes in the order of a list of identifiers. A database that is locked for each
-// note takes twice as long to read; it is locked here for as many as a fixed amount of
-// memory holds. Each note is handed out once, so that who asks again gets it as it is then.
+// Returns notes in the order of a list of identifiers. Locking the database for each note
+// doubles the time, so it is locked for as many notes as fit into a fixed amount of memory.
+// Each is returned once; a second request reads the database.
 class NotePrefetch {
 public:
-    // Forgets the notes that were read, and expects to be asked for these.
+    // Drops the notes that were read, and expects requests for these.
     void expect(std::vector<std::int64_t> ids);
 
-    // The note with this identifier, as it was when the identifiers were expected or later.
+    // Returns the note with this identifier, as it was at expect() or later.
     std::optional<NoteRecord> take(ReaderStore& store, std::int64_t id);
 
 private:
     void read(ReaderStore& store);
 
     std::vector<std::int64_t> ids_;
-    std::size_t next_ = 0;  // place of the note that is expected next
+    std::size_t next_ = 0;  // index of the next expected note
     std::deque<std::optional<NoteRecord>> notes_;
 };
 

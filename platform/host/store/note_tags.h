@@ -1,4 +1,4 @@
-// The tag numbers that this platform gives a meaning. Other numbers are kept as they are.
+// The tag numbers that this platform uses. Tags with other numbers are kept unchanged.
 #pragma once
 
 #include <cstdint>

@@ -15,7 +15,7 @@ constexpr const char* kInsertNote =
     "INSERT INTO notes (book_id, uuid) VALUES (?, ?) ON CONFLICT (book_id, uuid) DO "
     "NOTHING";
 constexpr const char* kFindNote = "SELECT id FROM notes WHERE book_id = ? AND uuid = ?";
-// An update to what is there already would still write to the file.
+// Both skip equal values, because such an update would still write to the file.
 constexpr const char* kCorrectBook =
     "UPDATE books SET title = ?2, path = ?3 WHERE fast_hash = ?1 AND (title, path) IS NOT "
     "(?2, ?3)";
@@ -26,7 +26,7 @@ constexpr const char* kCompleteBook =
 constexpr const char* kFindOtherTag =
     "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
 
-// Several tags in one statement take a quarter less time than one after the other.
+// Several tags in one statement take a quarter less time than one statement for each.
 constexpr std::size_t kMaxTagsAtOnce = 8;
 
 const char* mergeTagsStatement(std::size_t tags) {
@@ -118,8 +118,8 @@ std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) 
     for (std::size_t first = 0; first < note.tags.size(); first += kMaxTagsAtOnce) {
         const std::size_t end = std::min(first + kMaxTagsAtOnce, note.tags.size());
         Query statement = connection_->query(mergeTagsStatement(end - first));
-        for (std::size_t place = first; place < end; ++place) {
-            const TagRecord& tag = note.tags[place];
+        for (std::size_t index = first; index < end; ++index) {
+            const TagRecord& tag = note.tags[index];
             checkSize(note, tag);
             statement.bind(noteId, std::int64_t{tag.tag}, Blob{tag.text}, tag.json,
                            tag.timestamp);

@@ -11,11 +11,10 @@
 namespace host {
 namespace {
 
-// References are not enforced: a merge refers only to rows that it has just made or found,
-// and looking at each of them would take 8 % of an import.
+// References are not enforced, because a merge refers only to rows that it has just made or
+// found, and checking them would take 8 % of an import.
 //
-// A table with row identifiers suits tags better than one without: pictures are far larger
-// than a page.
+// The tags have row identifiers, because pictures are far larger than a page.
 constexpr Schema kSchema = {1, R"(
     CREATE TABLE books (
         id INTEGER PRIMARY KEY,
@@ -59,7 +58,7 @@ TagRecord tagRecord(Query& row) {
     TagRecord record;
     const std::int64_t number = row.integer(1);
     record.tag = static_cast<std::int32_t>(number);
-    if (record.tag != number) {  // it would take the place of another tag
+    if (record.tag != number) {  // it would replace another tag
         throw std::runtime_error("the note " + row.bytes(0) + " has a tag " +
                                  std::to_string(number) + ", which does not fit 32 bits");
     }
@@ -110,8 +109,8 @@ std::vector<std::int64_t> ReaderStore::noteIds(std::int64_t bookId) {
 }
 
 std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
-    // The notes are visited as they lie in the file, together with their tags; by uuid, as
-    // their index has them, each would be on another page.
+    // The notes are read in file order, next to their tags. In the order of the index, by
+    // uuid, each would be on another page.
     Query rows = connection_->query(
         "SELECT id, uuid, timestamp FROM notes LEFT JOIN tags ON note_id = id AND tag = ? "
         "WHERE book_id = ? ORDER BY id",
@@ -139,7 +138,7 @@ std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
     while (rows.next()) {
         if (!record) {
             record.emplace().uuid = rows.bytes(0);
-            record->tags.reserve(8);  // seven tags have a meaning
+            record->tags.reserve(8);  // seven tags are in use
         }
         if (!rows.isNull(1)) {
             record->tags.push_back(tagRecord(rows));

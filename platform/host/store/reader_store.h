@@ -14,7 +14,7 @@ namespace host {
 
 class Connection;
 
-// A book as the database keeps it.
+// A book in the database.
 struct BookEntry {
     std::int64_t id = 0;
     std::string fastHash;
@@ -22,7 +22,7 @@ struct BookEntry {
     std::string path;
 };
 
-// A note that the device keeps although the loaded one is another.
+// A note that a load did not replace, although the loaded one differs.
 struct KeptNote {
     std::string fastHash;  // of its book
     std::string title;     // of its book
@@ -34,55 +34,53 @@ struct LoadResult {
     std::vector<KeptNote> kept;
 };
 
-// One connection to the database; serves one thread at a time. Every failure is an
-// exception of the std::runtime_error family that names the file and what is wrong with it,
-// but for std::bad_alloc.
+// A connection to the database; serves one thread at a time. Every failure is
+// std::bad_alloc or a std::runtime_error that names the file and the cause.
 class ReaderStore {
 public:
-    // Opens the database at `path`, creating it, and the directories to it, when missing.
+    // Opens the database at `path`, and creates it and its directories if they are missing.
     explicit ReaderStore(const std::string& path);
     ~ReaderStore();
     ReaderStore(const ReaderStore&) = delete;
     ReaderStore& operator=(const ReaderStore&) = delete;
 
-    // Opens the database again when its file was replaced. Row identifiers of the old file
-    // are not valid in the new one.
+    // Reopens the database if its file was replaced. Row identifiers of the old file are
+    // not valid in the new one.
     void reopenIfReplaced();
 
-    // All books, by fast hash.
+    // Returns all books, ordered by fast hash.
     std::vector<BookEntry> books();
 
     std::optional<BookEntry> findBook(const std::string& fastHash);
     std::optional<BookEntry> findBook(std::int64_t id);
 
-    // The identifiers of a book's notes, ascending.
+    // Returns the identifiers of a book's notes, ascending.
     std::vector<std::int64_t> noteIds(std::int64_t bookId);
 
-    // The same in an order that does not depend on them: by the notes' creation, then uuid.
+    // Returns them ordered by the notes' creation, then by uuid.
     std::vector<std::int64_t> noteIdsByCreation(std::int64_t bookId);
 
-    // The note with all its tags, by tag number.
+    // Returns the note with all its tags, ordered by number; nullopt if there is none.
     std::optional<NoteRecord> note(std::int64_t noteId);
 
-    // Everything the database holds. Equal contents give equal records, whatever the row
-    // identifiers are.
+    // Returns all records. Equal contents give equal records, independent of row
+    // identifiers.
     std::vector<BookRecord> records();
 
-    // Makes everything that `work` reads through this object belong to one state of the
-    // database.
+    // Calls `work`, whose reads through this object all see one state of the database.
     void inReadTransaction(const std::function<void()>& work);
 
-    // Adds the records in one transaction. A book is matched by its fast hash and keeps the
-    // title and path it has, a note by its uuid within the book; of each tag the newer
-    // timestamp stays, the present one in a tie. Nothing is deleted.
-    // Returns how many notes were added or changed; when that is none and no book is new,
-    // nothing is written. Throws when the database cannot be written, or when a hash or
-    // uuid is empty; the database is then as it was.
+    // Adds the records in one transaction. A book is matched by its fast hash and keeps its
+    // title and path, a note by its uuid within the book. Of each tag the newer timestamp
+    // stays, the present one in a tie. Nothing is deleted. Returns the number of notes
+    // added or changed; if that is 0 and no book is new, nothing is written. Throws if the
+    // database cannot be written, or if a hash or uuid is empty; the database is then
+    // unchanged.
     int merge(const std::vector<BookRecord>& books);
 
-    // The same, but a known book gets the title and path of its record as `known` says.
-    // Tells of each note that has a tag whose text or JSON remains another than its
-    // record's.
+    // Merges the records as merge() does, but also sets titles and paths of known books as
+    // `known` says. Reports each note with a tag whose text or JSON still differs from its
+    // record.
     LoadResult load(const std::vector<BookRecord>& books, OnKnownBook known);
 
 private:

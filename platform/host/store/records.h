@@ -1,4 +1,4 @@
-// Books and notes as they travel between databases: without row identifiers.
+// Books and notes for exchange between databases, without row identifiers.
 #pragma once
 
 #include <cstddef>
@@ -9,14 +9,14 @@
 
 namespace host {
 
-// The longest string that a database takes, in bytes.
+// The longest string that a database can store, in bytes.
 inline constexpr std::size_t kMaxValueSize = 1000000000;
 
 // Every string may hold any bytes.
 struct TagRecord {
     std::int32_t tag = 0;  // note_tags.h
     std::string text;
-    std::optional<std::string> json;  // JSON text; what is not JSON counts as absent
+    std::optional<std::string> json;  // JSON text; ignored if it is not valid
     std::int64_t timestamp = 0;       // seconds since the Unix epoch
 };
 
@@ -32,8 +32,8 @@ struct BookRecord {
     std::vector<NoteRecord> notes;
 };
 
-// What incoming records do to the title, author and path of a book that a database has:
-// replace all of them, or fill in those that are empty.
+// The effect of records on a known book: replace its title, author and path, or fill in the
+// empty ones.
 enum class OnKnownBook { Overwrite, FillEmpty };
 
 }  // namespace host

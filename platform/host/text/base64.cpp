@@ -7,7 +7,7 @@
 namespace host {
 namespace {
 
-// OpenSSL counts in int; whole groups of 3 bytes and 4 characters fit in both blocks.
+// OpenSSL takes sizes as int. Both are whole groups, of 3 bytes and of 4 characters.
 constexpr std::size_t kBytesPerCall = 3 << 16;
 constexpr std::size_t kCharactersPerCall = 4 << 16;
 
@@ -19,7 +19,7 @@ const unsigned char* readable(const char* text) {
     return reinterpret_cast<const unsigned char*>(text);
 }
 
-// Of whole groups; "=" counts as zero bits.
+// Decodes whole groups; "=" counts as zero bits.
 bool decodeGroups(const char* text, std::size_t size, std::string& bytes) {
     for (std::size_t done = 0; done < size; done += kCharactersPerCall) {
         const int block = static_cast<int>(std::min(kCharactersPerCall, size - done));
@@ -40,7 +40,7 @@ std::string encodeBase64(const std::string& bytes) {
     std::size_t end = 0;
     for (std::size_t done = 0; done < bytes.size(); done += kBytesPerCall) {
         const int block = static_cast<int>(std::min(kBytesPerCall, bytes.size() - done));
-        // The zero byte that ends each block lands where the next begins, or on the
+        // The zero byte after each block is overwritten by the next block, or is the
         // string's own.
         end += static_cast<std::size_t>(
             EVP_EncodeBlock(writable(text, end), readable(bytes.data() + done), block));

@@ -8,21 +8,22 @@
 
 namespace host {
 
-// Padded, on one line.
+// Returns padded Base64 on one line.
 std::string encodeBase64(const std::string& bytes);
 
-// Nothing when `text` is not Base64 as Base64Decoder reads it.
+// Returns nullopt if Base64Decoder rejects the text.
 std::optional<std::string> decodeBase64(std::string_view text);
 
-// Decodes text that arrives in pieces. Spaces, tabs and line ends are skipped; padding is
-// required, and anything else foreign is an error. After an error the decoder is of no use.
+// Decodes text that arrives in pieces. Skips spaces, tabs and line ends; padding is
+// required, and any other character is an error. After an error the decoder must not be
+// used.
 class Base64Decoder {
 public:
-    // Appends the bytes that the text spells so far to `bytes`. False on an error.
+    // Appends the bytes decoded so far to `bytes`. Returns false on an error.
     bool feed(const char* text, std::size_t size, std::string& bytes);
 
-    // To be called after the last piece; appends the last bytes. False when the text is cut
-    // or wrongly padded.
+    // Appends the last bytes; call it after the last piece. Returns false if the text is
+    // cut or wrongly padded.
     bool finish(std::string& bytes);
 
 private:

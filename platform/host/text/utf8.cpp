@@ -31,7 +31,7 @@ bool startsWithAsciiWord(std::string_view bytes) {
 
 }  // namespace
 
-// Most text is ASCII, which goes eight bytes at a time.
+// Checks eight bytes at a time while they are ASCII, as most text is.
 bool isUtf8(std::string_view bytes) {
     Nowhere nowhere;
     while (!bytes.empty()) {

@@ -1,4 +1,4 @@
-// Bytes that are UTF-8, or become it.
+// Validation and repair of UTF-8.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace host {
 
 bool isUtf8(std::string_view bytes);
 
-// The text with U+FFFD for each byte that belongs to no character.
+// Returns the text with U+FFFD for each byte that belongs to no character.
 std::string validUtf8(const std::string& text);
 
 }  // namespace host

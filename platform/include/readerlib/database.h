@@ -11,7 +11,7 @@ namespace SqliteCpp {
 /// (through DataBase below) and destroys it, all on one thread.
 class DB {
 public:
-    /// A closed connection. Touches no file. May throw std::bad_alloc.
+    /// Creates a closed connection. Accesses no file. May throw std::bad_alloc.
     DB();
 
     /// Closes the connection if it is open. Throws nothing.
@@ -20,11 +20,10 @@ public:
     DB(const DB&) = delete;
     DB& operator=(const DB&) = delete;
 
-    /// What the platform keeps for an open connection; defined, created and read by the
-    /// platform alone.
+    /// The state of an open connection, which only the platform defines, creates and reads.
     struct State;
 
-    /// Null while there is nothing to keep.
+    /// Null if there is no state.
     std::unique_ptr<State> state;
 };
 
@@ -36,15 +35,14 @@ namespace Veloran::ReaderLib {
 class DataBase : public SqliteCpp::DB {
 public:
     /// Opens the handle on the database file `path`, replacing what was open before.
-    /// `path` may be modified; the caller does not look at it again.
-    /// A handle stays open for as long as its exporter lives. When another file takes the
-    /// place of the one at `path` meanwhile (a backup is put back, a synchronisation
-    /// renames its copy), the platform must go on with the new file: see ImportExportDBV2.
-    /// May wait while another process writes; a wait must end, with failure if need be.
-    /// Returns true when the database is open. The library ignores the result: an
-    /// ImportExportDBV2 on a handle that is not open must answer its calls with
-    /// failure, never crash. It may try again to open it, so that a database that was busy
-    /// for a moment does not leave every later export without records.
+    /// `path` may be modified; the caller does not read it again. A handle stays open as
+    /// long as its exporter lives. If another file replaces the one at `path` meanwhile (a
+    /// backup is restored, or a synchronisation renames its copy), the platform must
+    /// continue with the new file: see ImportExportDBV2. May wait while another process
+    /// writes, but only for a limited time; then it fails. Returns true if the database is
+    /// open. The library ignores the result. Calls of an ImportExportDBV2 on a handle that
+    /// is not open must fail, never crash. They may retry the open, so that a database that
+    /// was busy for a moment does not leave every later export without records.
     /// May throw exceptions derived from std::exception.
     bool open(std::string& path);
 };

@@ -10,14 +10,14 @@ namespace Veloran::ReaderLib {
 
 class DataBase;
 
-/// One engine serves one export or one import, on one thread. Every member but the
+/// One engine serves one export or one import, on one thread. Every member except the
 /// destructor may throw exceptions derived from std::exception. Exports and imports read
 /// and write the file that is at the handle's path when they are called, even if it is not
-/// the one that was opened. They may wait while another process writes; a wait must end,
-/// with failure if need be.
+/// the one that was opened. They may wait while another process writes, but only for a
+/// limited time; then they fail.
 class ImportExportDBV2 {
 public:
-    /// An engine on `database`, which it does not own and which must outlive it.
+    /// Creates an engine on `database`, which it does not own and which must outlive it.
     /// `database` is never null but may be closed. `limit` and `mode` configure the
     /// engine; the library always passes 10 and 3, for exports and imports alike.
     ImportExportDBV2(DataBase* database, unsigned long long limit, int mode);
@@ -35,20 +35,20 @@ public:
 
     /// Appends to `out` the payload that holds the books with the given item
     /// identifiers and their (selected) notes: bytes of any length and content.
-    /// Returns false, with `out` unspecified, when there is no payload to be had; the
-    /// document then carries no records, and the library reports nothing.
+    /// Returns false, with `out` unspecified, if there is no payload; the document then has
+    /// no records, and the library reports nothing.
     bool books_export(std::string& out, const std::set<unsigned long long>& books);
 
     /// Reads the exported document at `path`, takes the payload from its first
     /// `script` element of type "application/x-veloran-dbdump" (Base64, in lines of
     /// 72 characters) and merges the payload's records into the database.
-    /// Returns zero or more on success (the platform says what a positive number
-    /// means) and a negative number on failure.
+    /// Returns zero or more on success (the platform defines the meaning of positive
+    /// numbers) and a negative number on failure.
     int books_import(const std::string& path);
 
 private:
     DataBase* database_;
-    // A platform may have no use for them.
+    // A platform may leave these unused.
     [[maybe_unused]] unsigned long long limit_;
     [[maybe_unused]] int mode_;
     std::set<unsigned long long> exportBookIds_;

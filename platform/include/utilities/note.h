@@ -15,10 +15,11 @@ namespace veloran::utilities {
 
 /// A plain value: copied, moved and destroyed freely, shared between threads only while
 /// nobody modifies it. Members marked "library" are defined by notes_export; the
-/// platform defines the others. Whatever returns or copies text may throw std::bad_alloc.
+/// platform defines the others. Functions that return or copy text may throw
+/// std::bad_alloc.
 class Note {
 public:
-    /// What a tagged value says about the note. The platform uses further numbers.
+    /// The meaning of a tagged value. The platform uses further numbers.
     enum class Tag : std::int32_t {
         Uuid = 1,      ///< `str`: the note's identifier
         Anchor = 101,  ///< `json`: an object; "anchor" is the URI of the note's position
@@ -33,38 +34,38 @@ public:
         ~Value();                                  ///< library
 
         std::string str;  ///< the value as text
-        /// The value as JSON, only for tags whose JSON the platform uses. Other JSON stays
-        /// text in the database: parsed, it may take a hundred times the memory.
+        /// The value as JSON, only for tags whose JSON the platform uses. Other JSON is not
+        /// parsed, because it may then take a hundred times the memory.
         std::optional<Json::Value> json;
         std::time_t timestamp;  ///< seconds since the Unix epoch
     };
 
-    /// library: the value under `tag`, or a shared default value (empty text, no JSON)
-    /// when there is none. Never inserts. The reference lives as long as the entry; the
-    /// default lives until the process exits.
+    /// library: Returns the value under `tag`, or a shared default value (empty text, no
+    /// JSON) if there is none. Never inserts. The reference is valid as long as the entry;
+    /// the default, until the process exits.
     const Value& operator[](Tag tag) const;
 
-    /// library: the text under Tag::Uuid; empty when there is none.
+    /// library: Returns the text under Tag::Uuid; empty if there is none.
     std::string uuid() const;
 
-    /// library: the URI of the note's position: "anchor" of Tag::Anchor, or when that is
-    /// empty "begin" of Tag::Range; empty when there is neither.
+    /// library: Returns the URI of the note's position: "anchor" of Tag::Anchor, or if that
+    /// is empty "begin" of Tag::Range; empty if there is neither.
     std::string getAnchorUri() const;
 
-    /// The text of the element `key` of the JSON value under `tag`; empty when the tag,
-    /// its JSON value or the element is missing.
+    /// Returns the text of the element `key` of the JSON value under `tag`; empty if the
+    /// tag, its JSON value or the element is missing.
     std::string getJsonTagElement(Tag tag, const std::string& key) const;
 
-    /// The name of the note's colour; empty when it has none.
+    /// Returns the name of the note's colour; empty if it has none.
     std::string getColor() const;
 
-    /// The marked text, UTF-8; empty when there is none.
+    /// Returns the marked text, UTF-8; empty if there is none.
     std::string getText() const;
 
-    /// The bytes of the note's picture; empty when there is none.
+    /// Returns the bytes of the note's picture; empty if there is none.
     std::string getImage() const;
 
-    /// The user's comment, UTF-8; empty when there is none.
+    /// Returns the user's comment, UTF-8; empty if there is none.
     std::string getNote() const;
 
     std::map<Tag, Value> tags;      ///< at most one value for each tag

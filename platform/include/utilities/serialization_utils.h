@@ -6,14 +6,14 @@
 
 namespace veloran::utilities {
 
-/// Without state; may be called from any thread. Each call may throw std::bad_alloc.
+/// Has no state; may be called from any thread. Each call may throw std::bad_alloc.
 class SerializationUtils {
 public:
-    /// The bytes that the hexadecimal digits of `hex` spell, upper or lower case.
-    /// Text that is not hexadecimal gives unspecified bytes, and no error.
+    /// Returns the bytes of the hexadecimal text `hex`, upper or lower case. Text that is
+    /// not hexadecimal gives unspecified bytes, and no error.
     static std::string FromHex(const std::string& hex);
 
-    /// The Base64 text of `bytes` (RFC 4648, padded), on one line.
+    /// Returns the Base64 text of `bytes` (RFC 4648, padded), on one line.
     static std::string ToBase64(const std::string& bytes);
 };
 

@@ -1,5 +1,5 @@
 /// @file
-/// A connection to a SQLite-format database, as the utilities library holds it.
+/// A connection to a SQLite-format database.
 #pragma once
 
 namespace veloran::utilities {
@@ -13,11 +13,11 @@ public:
     /// Closes the connection and makes handle() null. Only called while it is not null.
     void close();
 
-    /// The native connection, or null while the connection is closed.
+    /// Returns the native connection, or null if it is closed.
     Connection* handle() const { return handle_; }
 
-    /// Replaces the native connection without closing the one before. Owned by this object
-    /// from here on, in the sense that close() releases it.
+    /// Replaces the native connection without closing the old one. close() releases the new
+    /// one.
     void setHandle(Connection* handle) { handle_ = handle; }
 
 private:
