@@ -19,7 +19,7 @@ void addAll(CommandLine& commandLine) {
     addFileCommands(commandLine);
     addListCommands(commandLine);
     addExportCommands(commandLine);
-    // Last, as commands take over the one there is.
+    // Set last, because new commands inherit the footer.
     commandLine.parser.footer(examples::kAll);
 }
 
@@ -58,7 +58,7 @@ int runCommandLine(int argc, const char* const* argv) {
     try {
         parser.parse(argc, argv);
     } catch (const CLI::RequiredError& error) {
-        // For an unknown command, the parser reports only that a known one is missing.
+        // For an unknown command, the parser only reports a missing one.
         const std::vector<std::string> unknown = parser.remaining();
         parser.exit(unknown.empty() ? CLI::Error(error) : unknownWords(unknown));
         return 2;

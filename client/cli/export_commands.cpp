@@ -1,4 +1,4 @@
-// export and name.
+// The commands export and name.
 #include <memory>
 
 #include "client/cli/command_line.h"
@@ -24,8 +24,7 @@ void addTarget(CLI::App& command, PageTarget& target) {
         ->type_name("FILE")
         ->transform(callersPath())
         ->excludes("--dir");
-    command
-        .add_flag("--new", target.isNew, "Write another page beside those that are there")
+    command.add_flag("--new", target.isNew, "Write a new page and keep the old ones")
         ->excludes("-o");
 }
 
@@ -38,7 +37,7 @@ void requireBooks(const ExportRequest& request, const CLI::App& command) {
     }
 }
 
-// A printed path starts from the same folder as the caller's.
+// Adds a command that prints paths, relative to the caller's folder.
 CLI::App& addPageCommand(CommandLine& commandLine, const char* name,
                          const char* description, const Request& request,
                          void (*action)(const ExportRequest&)) {
@@ -51,14 +50,14 @@ CLI::App& addPageCommand(CommandLine& commandLine, const char* name,
 
 void addExport(CommandLine& commandLine) {
     const Request request = std::make_shared<ExportRequest>();
-    CLI::App& exporting = addPageCommand(
-        commandLine, "export", "Bring the pages of books up to date and print their paths",
-        request, exportNotes);
+    CLI::App& exporting = addPageCommand(commandLine, "export",
+                                         "Update the pages of books and print their paths",
+                                         request, exportNotes);
     exporting.parse_complete_callback(
         [request, &exporting] { requireBooks(*request, exporting); });
     addBook(exporting, request->books).expected(1, -1)->required(false);
-    exporting.add_flag("--all", "Export every book, as without BOOK");
-    exporting.add_flag("--update", "Replace older pages, as without this word");
+    exporting.add_flag("--all", "Export every book (default)");
+    exporting.add_flag("--update", "Replace older pages (default)");
     addFilter(exporting, request->filter);
     exporting
         .add_option("--order", request->order, "Order of the notes: page, id or newest")

@@ -1,4 +1,4 @@
-// load and import.
+// The commands load and import.
 #include <memory>
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-// The options that select notes, for every command that has them.
+// The options that select notes.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -7,7 +7,7 @@
 
 namespace client {
 
-// Fills in `filter`, which must live as long as the command.
+// Adds the options, which set `filter`; it must live as long as the command.
 void addFilter(CLI::App& command, NoteFilter& filter);
 
 }  // namespace client

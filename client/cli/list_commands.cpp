@@ -1,4 +1,4 @@
-// books and notes.
+// The commands books and notes.
 #include <memory>
 
 #include "client/cli/command_line.h"
@@ -17,7 +17,7 @@ std::vector<std::string> formatNames() {
     return names;
 }
 
-// The name has been checked.
+// Sets the format with this name, which is valid.
 void setFormat(const ListingFormat*& chosen, const std::string& name) {
     for (const ListingFormat* format : kListingFormats) {
         chosen = format->name == name ? format : chosen;
@@ -32,7 +32,7 @@ void addFormat(CLI::App& command, const ListingFormat*& format) {
         ->type_name("FORMAT")
         ->check(CLI::IsMember(formatNames()));
     command.add_flag_callback(
-        "--json", [&format] { format = &kJsonFormat; }, "The same as --format json");
+        "--json", [&format] { format = &kJsonFormat; }, "Same as --format json");
 }
 
 void addBooks(CommandLine& commandLine) {

@@ -17,7 +17,7 @@ namespace {
 int run(int argc, char** argv) {
     const int status = client::runCommandLine(argc, argv);
     if (!std::cout.flush()) {
-        static_cast<void>(std::fflush(stdout));  // fails again, and sets the cause
+        static_cast<void>(std::fflush(stdout));  // fails again and sets errno
         throw client::UserError("Could not write the results",
                                 {errno, std::generic_category()});
     }
@@ -27,7 +27,7 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // A file at its size limit is a failed write, and no reason to die.
+    // At the size limit of a file, a write fails instead of ending the process.
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     try {
         return run(argc, argv);

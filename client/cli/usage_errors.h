@@ -1,4 +1,4 @@
-// Errors in what the user typed.
+// Errors on the command line.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -7,20 +7,21 @@
 
 namespace client {
 
-// Each returns the text of an error, or an empty one, as the parser's checks do.
+// Each check returns an error text, or an empty one if the text is valid.
 
-// Stricter than the parser, which accepts signs and octal numbers and lets large ones wrap.
+// Stricter than the parser, which accepts signs and octal numbers, and truncates large
+// ones.
 std::string checkNoteId(const std::string& text);
 
 std::string checkDate(const std::string& text);
 
-// All notes contain an empty text.
+// Rejects an empty text, because all notes contain it.
 std::string checkSearchText(const std::string& text);
 
-// Returns the error for words that the parser left over where it expected a command.
+// Returns the error for words where a command was expected.
 CLI::Error unknownWords(const std::vector<std::string>& words);
 
-// Returns the parser's error as the user reads it, with the help text to turn to.
+// Returns the message for the parser's error, with a hint to the help text.
 std::string usageError(const CLI::App* app, const CLI::Error& error);
 
 }  // namespace client

@@ -1,4 +1,4 @@
-// A book, as the collection knows it.
+// A book of the collection.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct Book {
     std::string path;  // of the book's file
 };
 
-// Returns the book's name for people: its title, or its hash if it has none.
+// Returns the book's title, or its hash if it has none.
 inline const std::string& nameOf(const Book& book) {
     return book.title.empty() ? book.hash : book.title;
 }

@@ -68,7 +68,7 @@ std::vector<BookEntry> booksIn(host::ReaderStore& store) {
 }
 
 std::string authorOf(const std::string& hash, host::LibraryStore& library) {
-    if (!host::isBookHash(hash)) {  // other text spells the bytes of some other book
+    if (!host::isBookHash(hash)) {  // FromHex may give the uid of another book
         return {};
     }
     const auto id = library.findBook(veloran::utilities::SerializationUtils::FromHex(hash));

@@ -13,11 +13,12 @@ namespace client {
 std::vector<host::BookEntry> allBooks();
 
 // Returns the book whose hash or title is `typed`, else the only book whose hash or title
-// starts with it. Case does not matter. Throws UserError if no book fits, if several do
-// (which it names), or if the book's hash is not valid.
+// starts with it. Case does not matter. Throws UserError if no book matches, if several
+// match (the message lists them), or if the book's hash is not valid.
 host::BookEntry findBook(const std::string& typed);
 
-// Throws UserError if the book's hash is not valid: it could be a path or an option.
+// Throws UserError if the book's hash is not valid, because it could be a path or an
+// option.
 void requireHash(const host::BookEntry& book);
 
 std::vector<Book> detailsOf(const std::vector<host::BookEntry>& books);

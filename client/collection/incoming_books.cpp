@@ -45,7 +45,7 @@ std::vector<host::BookRecord> takeRecords(std::vector<IncomingBook>& books) {
     return records;
 }
 
-// Both databases are opened before anything is written, so that each is known to be one.
+// Opens both databases before writing, so that nothing is written if one cannot be opened.
 host::LoadResult addToCollection(std::vector<IncomingBook>& books,
                                  host::OnKnownBook onKnownBook,
                                  const std::optional<std::string>& styleSheet) {

@@ -1,4 +1,4 @@
-// Puts books and notes into the collection.
+// Adds books and notes to the collection.
 #pragma once
 
 #include <optional>
@@ -12,21 +12,21 @@
 namespace client {
 
 struct IncomingBook {
-    Book book;  // an empty title, author or path: nobody named one
+    Book book;  // an empty title, author or path is not known
     std::vector<Note> notes;
-    // Notes that come as another collection kept them, with tags of any number.
+    // Notes from the dump of another collection, with any tags.
     std::vector<host::NoteRecord> records;
 };
 
-// Makes the collection if there is none. Takes the notes out of `books`: no two books of
-// them may have one hash, no two notes of a book one uuid. Notes that the collection has
-// stay where they are not older. Throws UserError or std::runtime_error, and has then
-// written nothing, or all notes.
+// Creates the collection if there is none. Moves the notes out of `books`. Hashes must be
+// unique in `books`, and uuids within each book. Known notes are replaced by newer ones
+// only. Throws UserError or std::runtime_error; then either no note or every note was
+// written.
 host::LoadResult addToCollection(std::vector<IncomingBook>& books,
                                  host::OnKnownBook onKnownBook,
                                  const std::optional<std::string>& styleSheet);
 
-// Returns the books as records, and takes the notes out of them.
+// Returns the books as records, and moves the notes out of them.
 std::vector<host::BookRecord> takeRecords(std::vector<IncomingBook>& books);
 
 }  // namespace client

@@ -7,14 +7,14 @@
 
 namespace client {
 
-// An empty text, and a time of 0, mean that the note has none.
+// An empty text or a time of 0 means that the note has none.
 struct Note {
-    unsigned long long id = 0;   // in the collection; 0 until it is there
+    unsigned long long id = 0;   // in the collection; 0 before it is stored
     std::string uuid;            // names the note within its book
     std::optional<double> page;  // finite
     std::string color;
     std::string text;       // U+2029 ends a paragraph, U+2028 and line feeds break lines
-    std::string comment;    // likewise
+    std::string comment;    // as text
     std::string picture;    // the bytes of an image file
     std::int64_t time = 0;  // when the note was made, in seconds since the Unix epoch
     std::int64_t commentTime = 0;  // counts only if it is later

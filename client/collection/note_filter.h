@@ -13,11 +13,11 @@ namespace client {
 // A note is selected if it meets every condition that is set.
 struct NoteFilter {
     std::vector<unsigned long long> ids;  // its identifier is one of these
-    std::vector<std::string> colors;      // its colour is one of these; "": it has none
+    std::vector<std::string> colors;      // its colour is one of these; "" for none
     std::optional<std::int64_t> since;    // it was made then (Unix time) or later
     std::optional<std::string> match;     // its text or its comment contains this
 
-    // The colours and the text are case-folded once (case_folding.h).
+    // Both case-fold their argument (case_folding.h).
     void addColor(const std::string& color);
     void setMatch(const std::string& text);
 
@@ -26,7 +26,7 @@ struct NoteFilter {
 
     bool selects(const Note& note) const;
 
-    // Returns false for a note that its identifier alone leaves out.
+    // Returns false if no note with this identifier is selected.
     bool selectsId(unsigned long long id) const;
 };
 

@@ -1,4 +1,4 @@
-// The selected notes of books.
+// Reads the selected notes of books.
 #pragma once
 
 #include <functional>
@@ -18,12 +18,12 @@ public:
     explicit NoteReader(const NoteFilter& filter)
         : filter_(filter), missing_(filter.ids.begin(), filter.ids.end()) {}
 
-    // Calls `visit` with each selected note of the book, in the database's order. One note
-    // is fetched at a time: together, their pictures may take all memory.
+    // Calls `visit` with each selected note of the book, in the database's order. Reads one
+    // note at a time, because all pictures together may not fit into memory.
     void read(const std::string& bookHash, const std::function<void(const Note&)>& visit);
 
-    // Returns an identifier that the filter asks for and that no book so far has; nullopt
-    // if there is none.
+    // Returns an identifier of the filter that no book so far has; nullopt if there is
+    // none.
     std::optional<unsigned long long> missingId() const {
         return missing_.empty() ? std::nullopt : std::optional(*missing_.begin());
     }

@@ -10,7 +10,7 @@
 namespace client {
 namespace {
 
-// Returns JSON text whose member is a position on the page; a number needs no escapes.
+// Returns a JSON object whose member is a position on the page.
 std::string positionJson(const char* member, double page) {
     return std::string("{\"") + member + "\":\"book:/position?page=" + decimal(page) +
            "\"}";

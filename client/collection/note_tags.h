@@ -1,4 +1,4 @@
-// Notes as the databases keep them: values under the numbers of tags.
+// Conversion between notes and the tags of the databases.
 #pragma once
 
 #include "client/collection/note.h"

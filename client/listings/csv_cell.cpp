@@ -25,7 +25,7 @@ std::string withoutControls(const std::string& text) {
     });
 }
 
-// Some readers cut spaces, or take tabs and semicolons for separators, outside of quotes.
+// Without quotes, some readers remove spaces, or use tabs and semicolons as separators.
 bool needsQuotes(const std::string& text) {
     return text.find_first_of(",;\"\t\n") != std::string::npos ||
            (!text.empty() && (text.front() == ' ' || text.back() == ' '));

@@ -1,4 +1,4 @@
-// For spreadsheets: comma-separated values, RFC 4180, with a line of headings.
+// Lists for spreadsheets: comma-separated values, RFC 4180, with a line of headings.
 #include <initializer_list>
 
 #include "client/listings/csv_cell.h"
@@ -7,7 +7,7 @@
 namespace client {
 namespace {
 
-// Without it, Excel reads the file in the encoding of the computer's language.
+// Without it, Excel reads the file in the encoding of the system's language.
 constexpr char kByteOrderMark[] = "\uFEFF";
 
 void writeRow(std::ostream& out, std::initializer_list<std::string> texts) {

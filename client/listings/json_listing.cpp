@@ -1,5 +1,5 @@
-// For programs: one array on one line, with an object for each. Bytes that are not UTF-8
-// become U+FFFD.
+// Lists for programs: one array of objects on one line. Bytes that are not UTF-8 become
+// U+FFFD.
 #include <rapidjson/ostreamwrapper.h>
 
 #include <cstdint>

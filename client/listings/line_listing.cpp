@@ -1,4 +1,4 @@
-// For people: one line for each, its fields separated by tabs.
+// Lists for people: one line for each book or note, its fields separated by tabs.
 #include "client/listings/listing.h"
 #include "client/terminal/terminal.h"
 #include "client/text/control_characters.h"
@@ -36,7 +36,7 @@ public:
 private:
     std::ostream& out_;
     bool severalBooks_;
-    std::string start_;  // of the line of each note
+    std::string start_;  // the start of each note's line
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The lists that commands print: books or notes, one after another, in a format.
+// The lists of books or notes that commands print, in several formats.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@
 
 namespace client {
 
-// The list is whole after end().
+// The list is complete after end().
 class BookListing {
 public:
     virtual ~BookListing() = default;
@@ -23,7 +23,7 @@ public:
 class NoteListing {
 public:
     virtual ~NoteListing() = default;
-    // Names the book of the notes that come next.
+    // Sets the book of the next notes.
     virtual void startBook(const Book& book) = 0;
     virtual void add(const Note& note) = 0;
     virtual void end() {}
@@ -32,15 +32,15 @@ public:
 // The folder in which pictures are written; none if `path` is empty.
 struct FolderForPictures {
     std::string path;
-    std::string linked;  // the path as links name it
+    std::string linked;  // the path in links
 };
 
 struct NoteListingOptions {
-    bool severalBooks;  // whether each note, or group of notes, names its book
+    bool severalBooks;  // print the book of each note or group of notes
     FolderForPictures pictures;
 };
 
-// A listing writes to `out` from its construction on.
+// A listing writes to `out`, which its constructor may already do.
 struct ListingFormat {
     const char* name;
     std::unique_ptr<BookListing> (*listBooks)(std::ostream& out);

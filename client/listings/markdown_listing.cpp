@@ -1,5 +1,5 @@
-// For collections of notes in Markdown. A book's notes are one document with front matter;
-// those of several books are one without, as front matter has its place only at the start.
+// Lists in Markdown. The notes of one book are a document with front matter; those of
+// several books have none, because front matter can only be at the start.
 #include "client/listings/listing.h"
 #include "client/listings/markdown_text.h"
 #include "client/listings/picture_folder.h"
@@ -9,7 +9,7 @@
 namespace client {
 namespace {
 
-// A double-quoted scalar of YAML.
+// Returns a double-quoted scalar of YAML.
 std::string quoted(const std::string& text) {
     return '"' + replaced(replaced(oneLine(text), "\\", "\\\\"), "\"", "\\\"") + '"';
 }
@@ -64,7 +64,7 @@ private:
     std::ostream& out_;
     bool severalBooks_;
     PictureFolder pictures_;
-    std::string title_;           // of the book, as part of a picture's name
+    std::string title_;           // of the book, for names of pictures
     const char* separator_ = "";  // between the parts of the document
 };
 

@@ -10,15 +10,16 @@ namespace client {
 namespace {
 
 constexpr std::string_view kMarkup = "\\`*_[<>&#|~$";
-constexpr std::string_view kMarkupAtStart = "+-=:";    // of a line
-constexpr std::string_view kMarkupDoubled = "=%";      // of text highlighted, or left out
-constexpr std::string_view kMarkupAfterNumber = ".)";  // with which the line starts
+constexpr std::string_view kMarkupAtStart = "+-=:";    // at the start of a line
+constexpr std::string_view kMarkupDoubled = "=%";      // around highlighted or hidden text
+constexpr std::string_view kMarkupAfterNumber = ".)";  // after a number at the start
 
 bool holds(std::string_view letters, char letter) {
     return letters.find(letter) != std::string_view::npos;
 }
 
-// Whether the character completes what renderers take for the start of an address.
+// Returns whether the character at `at` completes what renderers read as the start of an
+// address.
 bool isInAddress(std::string_view line, std::size_t at) {
     return line.substr(at, 3) == "://" || (at >= 3 && line.substr(at - 3, 4) == "www.");
 }
@@ -40,7 +41,7 @@ std::string escapedMarkup(std::string_view line) {
 
 std::string characterReference(unsigned code) { return "&#" + std::to_string(code) + ';'; }
 
-// Renderers drop spaces at either end of a line.
+// Encodes spaces at both ends of a line, which renderers drop.
 std::string withSpacesAtEnds(std::string line) {
     if (!line.empty() && line.back() == ' ') {
         line.replace(line.size() - 1, 1, characterReference(' '));
@@ -57,7 +58,7 @@ std::string escapedLine(std::string_view line) {
         [](unsigned code, std::string_view) { return characterReference(code); });
 }
 
-// The parts of the text between the separators.
+// Calls `use` with each part of the text between the separators.
 template <class Use>
 void split(std::string_view text, std::string_view separator, const Use& use) {
     std::size_t end = 0;

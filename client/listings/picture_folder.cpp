@@ -37,7 +37,7 @@ std::string hashOf(const std::string& picture) {
     return {digits, end};
 }
 
-// Returns at most the first `size` bytes, without a part of a character at the end.
+// Returns at most the first `size` bytes, without a partial character at the end.
 std::string firstOf(const std::string& text, std::size_t size) {
     while (size < text.size() && size > 0 && (text[size] & 0xC0) == 0x80) {
         --size;
@@ -45,8 +45,8 @@ std::string firstOf(const std::string& text, std::size_t size) {
     return text.substr(0, size);
 }
 
-// Returns a name that every file system takes, and that no program takes for a hidden file
-// or an option.
+// Returns a name that is valid on every file system, and is neither a hidden file nor an
+// option.
 std::string safeName(const std::string& title) {
     std::string name;
     for (const char letter : firstOf(oneLine(title), kMaxTitle)) {

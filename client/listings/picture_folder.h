@@ -13,8 +13,8 @@ public:
     explicit PictureFolder(FolderForPictures folder) : folder_(std::move(folder)) {}
 
     // Writes the picture into a file named after the title and the picture's content,
-    // unless such a file is there. Never replaces a file. Returns the destination of a link
-    // to it; empty if there is no picture, or no folder. Throws UserError.
+    // unless that file exists. Never replaces a file. Returns the destination of a link to
+    // it; empty if there is no picture or no folder. Throws UserError.
     std::string add(const std::string& title, const std::string& picture) const;
 
 private:

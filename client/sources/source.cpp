@@ -18,13 +18,13 @@ namespace {
 struct Source {
     const char* name;  // of one such file, in messages
 
-    // Returns whether a file is of this kind, by the start of its content: 64 KiB, or all.
+    // Returns whether a file is of this kind, from its first 64 KiB.
     bool (*recognises)(std::string_view start);
 
     SourceContent (*read)(const std::string& path);
 };
 
-// The first that recognises a file reads it.
+// The first kind that recognises a file reads it.
 constexpr std::array kSources = {
     Source{"an exported page", isExportedPage, readExportedPage},
     Source{"clippings", isClippings, readClippings},

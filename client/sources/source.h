@@ -1,4 +1,4 @@
-// The kinds of files that notes come in.
+// The kinds of files that can be loaded.
 #pragma once
 
 #include <string>
@@ -7,9 +7,9 @@
 
 namespace client {
 
-// Recognises the file at `path` by its content and reads all of it. Throws UserError, which
-// names the file and the place, for a file of an unknown kind or with a fault. A fault of
-// one record is noted, and the record is skipped.
+// Recognises the file at `path` by its content and reads it. Throws UserError, which names
+// the file and the position, for a file of an unknown kind or with a fault. A record with a
+// fault is skipped and listed in the result.
 SourceContent readSource(const std::string& path);
 
 }  // namespace client

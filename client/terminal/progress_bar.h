@@ -1,4 +1,4 @@
-// Tells someone at a terminal how far a long job has come.
+// Shows the progress of a long job.
 #pragma once
 
 #include <cstddef>
@@ -6,8 +6,8 @@
 
 namespace client {
 
-// A line on standard error, if that is a terminal. It is drawn before each step and
-// remains during the step; nothing else may be printed then.
+// A line on standard error, if that is a terminal. It is visible during each step, in which
+// nothing else may be printed.
 class ProgressBar {
 public:
     ProgressBar(std::string what, std::size_t steps);

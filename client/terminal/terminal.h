@@ -1,21 +1,21 @@
-// Text as a terminal shows it; a file or a pipe gets plain text.
+// Text for terminals; files and pipes get plain text.
 #pragma once
 
 #include <string>
 
 namespace client {
 
-// Whether `descriptor` is a terminal that understands escape sequences.
+// Returns whether `descriptor` is a terminal that supports escape sequences.
 bool isTerminal(int descriptor);
 
-// The same, and the user did not ask for plain text with NO_COLOR.
+// Also returns false if the user requested plain text with NO_COLOR.
 bool isColorful(int descriptor);
 
-// The text as standard output shows it in bold.
+// Returns the text in bold for standard output.
 std::string bold(const std::string& text);
 
-// Returns the text as standard error shows it: after the program's name, each line without
-// control characters, because paths and messages may hold any.
+// Returns the message for standard error: after the program's name, and without control
+// characters, because paths may contain any.
 std::string errorText(const std::string& text);
 
 }  // namespace client

@@ -1,4 +1,4 @@
-// Letters and digits of ASCII, in every locale.
+// ASCII letters and digits, independent of the locale.
 #pragma once
 
 #include <algorithm>

@@ -20,7 +20,7 @@ std::string mapped(const std::string& text, unsigned options) {
         static_cast<utf8proc_option_t>(options | UTF8PROC_STABLE | UTF8PROC_COMPOSE |
                                        UTF8PROC_CASEFOLD | UTF8PROC_IGNORE));
     const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(result, &std::free);
-    if (length < 0) {  // all else that it refuses is not valid UTF-8
+    if (length < 0) {  // any other error means invalid UTF-8
         throw std::bad_alloc();
     }
     return {reinterpret_cast<const char*>(result), static_cast<std::size_t>(length)};

@@ -1,4 +1,4 @@
-// Text as people compare it.
+// Case folding, for comparisons.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace client {
 // U+FFFD.
 std::string caseFolded(const std::string& text);
 
-// Also makes signs equal that differ in their form alone, such as full-width digits.
+// Also makes characters equal that differ only in form, such as full-width digits.
 std::string caseFoldedNfkc(const std::string& text);
 
 }  // namespace client

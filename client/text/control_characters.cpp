@@ -12,7 +12,7 @@ struct Character {
     std::string_view bytes;
 };
 
-// A byte that belongs to no character counts as U+FFFD.
+// Returns the first character; U+FFFD for a byte that belongs to no character.
 Character firstCharacter(std::string_view text) {
     utf8proc_int32_t code = 0;
     const utf8proc_ssize_t length =

@@ -1,4 +1,4 @@
-// Characters that a terminal obeys instead of showing them.
+// Characters that control a terminal.
 #pragma once
 
 #include <functional>
@@ -9,14 +9,14 @@ namespace client {
 
 bool isControl(unsigned code);
 
-// Returns the text as UTF-8, with the result of `instead` for each character that a
-// terminal obeys: controls, line and paragraph separators, and marks that turn the
-// direction of writing. U+FFFD replaces each byte that belongs to no character.
+// Returns the text as UTF-8, with the result of `instead` for each character that controls
+// a terminal: controls, line and paragraph separators, and marks that change the direction
+// of writing. U+FFFD replaces each byte that belongs to no character.
 std::string replaceControls(
     std::string_view text,
     const std::function<std::string(unsigned code, std::string_view character)>& instead);
 
-// Returns the text as UTF-8, with a space for each character that a terminal obeys, and
+// Returns the text as UTF-8, with a space for each character that controls a terminal, and
 // U+FFFD for each byte that belongs to no character.
 std::string oneLine(const std::string& text);
 

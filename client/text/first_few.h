@@ -10,7 +10,7 @@ namespace client {
 
 inline constexpr std::size_t kMaxNamed = 3;
 
-// Returns the first of `lines`, indented, and how many more there are of `count`.
+// Returns the first of `lines`, indented, and the number of the rest out of `count`.
 inline std::string firstFew(const std::vector<std::string>& lines, std::size_t count) {
     const std::size_t named = std::min(lines.size(), kMaxNamed);
     std::string text;

@@ -11,13 +11,13 @@ namespace {
 constexpr std::int64_t kDaysAnEra = 146097;  // 400 years, after which the calendar repeats
 constexpr std::int64_t kDaysToEpoch = 719468;  // from 1 March of the year 0
 
-// Rounds towards negative infinity, so that times before the epoch come out right.
+// Rounds towards negative infinity, which is correct for times before the epoch too.
 std::int64_t floorDivided(std::int64_t number, std::int64_t by) {
     return number / by - (number % by < 0 ? 1 : 0);
 }
 
-// Years that begin in March have the day that leap years add at their end. A day that its
-// month lacks is counted as one of the next month.
+// Counts years from March, so that a leap day is the last day of its year. A day beyond the
+// end of its month counts as one of the next month.
 std::int64_t countDays(const Date& date) {
     const std::int64_t year = date.year - (date.month <= 2 ? 1 : 0);
     const std::int64_t era = floorDivided(year, 400);
@@ -44,8 +44,7 @@ Date dateOf(std::int64_t daysFromEpoch) {
             dayOfYear - (153 * monthFromMarch + 2) / 5 + 1};
 }
 
-// Removes each part that it reads from the front of the text. After a first failure, its
-// results mean nothing.
+// Reads parts from the front of the text. After a failure, its results are unspecified.
 class Parser {
 public:
     explicit Parser(std::string_view text) : rest_(text) {}
@@ -135,7 +134,7 @@ std::string padded(std::int64_t number, std::size_t width) {
     return std::string(width - std::min(width, digits.size()), '0') + digits;
 }
 
-// ISO 8601 wants a sign where a year has not four digits.
+// Returns the year, with a sign unless it has four digits, as ISO 8601 requires.
 std::string yearText(std::int64_t year) {
     if (year >= 0 && year <= 9999) {
         return padded(year, 4);

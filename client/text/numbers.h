@@ -1,4 +1,4 @@
-// Numbers as text, in every locale.
+// Numbers as text, independent of the locale.
 #pragma once
 
 #include <charconv>
@@ -18,8 +18,8 @@ inline std::string decimal(double number) {
     return {digits, end};
 }
 
-// Returns the number that all of the text spells, as std::from_chars reads it in `form` (a
-// base, or a format); nullopt if there is none.
+// Returns the number, as std::from_chars reads it in `form` (a base, or a format); nullopt
+// if the whole text is not a number.
 template <class Number, class... Form>
 std::optional<Number> parseNumber(std::string_view text, Form... form) {
     Number number{};

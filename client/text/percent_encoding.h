@@ -8,7 +8,7 @@
 
 namespace client {
 
-// Returns the text with each byte encoded for which `isPlain` is false.
+// Returns the text; bytes for which `isPlain` returns false are encoded.
 template <class IsPlain>
 std::string percentEncoded(std::string_view text, const IsPlain& isPlain) {
     std::string result;

@@ -9,7 +9,7 @@
 namespace client {
 namespace {
 
-// Also the byte order mark, which some readers put before each record.
+// With the byte order mark, which some readers write before each record.
 constexpr std::array<std::string_view, 6> kSpaces = {" ",      "\t",     "\r",
                                                      "\u00a0", "\u3000", "\ufeff"};
 constexpr std::array<std::string_view, 2> kOpeners = {"(", "\uff08"};
@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 2> kClosers = {")", "\uff09"};
 
 std::string_view withoutSpaces(std::string_view text) { return trimmed(text, kSpaces); }
 
-// Returns where the parenthesis opens that ends the line; others may stand within it.
+// Returns the offset of the parenthesis that ends the line; it may contain others.
 std::size_t startOfLastParenthesis(std::string_view line) {
     std::size_t depth = 0;
     for (std::size_t at = line.size(); suffixLength(line, kClosers) > 0 && at-- > 0;) {
@@ -39,7 +39,7 @@ void setTitleAndAuthor(Clipping& clipping, std::string_view line) {
         author.remove_suffix(suffixLength(author, kClosers));
         clipping.author = withoutSpaces(author);
     }
-    if (clipping.title.empty()) {  // all of the line is one parenthesis
+    if (clipping.title.empty()) {  // the whole line is one parenthesis
         clipping.title = line;
         clipping.author.clear();
     }
@@ -56,8 +56,8 @@ std::string joined(std::vector<std::string_view> lines) {
     return first == std::string::npos ? "" : text.substr(first, last - first + 1);
 }
 
-// Such a message replaces a passage if too much of the book was marked. Its words are the
-// reader's language.
+// Returns whether the reader wrote this message instead of a passage, because too much of
+// the book was marked. It may be in any language.
 bool isLimitMessage(std::string_view text) {
     return text.size() > 20 && text.front() == '<' && text.back() == '>' &&
            text.find(' ') != std::string_view::npos;

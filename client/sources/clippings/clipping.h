@@ -29,17 +29,17 @@ struct Clipping {
     bool hasLimitMessage = false;  // instead of the passage
 
     // Set by passages.h.
-    std::size_t origin = 0;         // the index of the clipping whose identity it has
-    std::size_t latestComment = 0;  // the offset of the latest remark in the comment
-    bool isDropped = false;         // it lives on in another clipping
+    std::size_t origin = 0;         // index of the clipping whose identity it has
+    std::size_t latestComment = 0;  // offset of the latest remark in the comment
+    bool isDropped = false;         // merged into another clipping
 };
 
 // Reads the lines of one record, without the line that ends it. Returns nullopt if they are
 // not a record.
 std::optional<Clipping> parseClipping(const std::vector<std::string_view>& lines);
 
-// Returns a clipping without title and text, and in an unknown language without kind;
-// nullopt if the line does not start with a dash.
+// Returns a clipping without title and text, and if the language is unknown also without
+// kind; nullopt if the line does not start with a dash.
 std::optional<Clipping> parseDetails(std::string_view line);
 
 }  // namespace client

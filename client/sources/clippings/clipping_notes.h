@@ -1,4 +1,4 @@
-// Makes notes of the records of a clippings file.
+// Converts the records of a clippings file into notes.
 #pragma once
 
 #include <unordered_map>
@@ -14,9 +14,9 @@ public:
     // Adds the next record of the file.
     void add(Clipping clipping);
 
-    // Returns the books with their notes, in the order of the text. A note of the user
-    // belongs to the passage that holds its place; of a passage that was marked again, from
-    // the same start or to the same end, the latest version counts. Leaves none behind.
+    // Returns the books with their notes, in the order of the file, and removes them. A
+    // note of the user becomes the comment of the passage around it. If a passage was
+    // marked again, from the same start or to the same end, the latest version is used.
     std::vector<IncomingBook> take();
 
 private:

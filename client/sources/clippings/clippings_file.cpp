@@ -17,7 +17,7 @@ std::string_view withoutEnding(std::string_view line) {
     return line.substr(0, line.find_last_not_of("\r ") + 1);
 }
 
-// Goes through the records of a text: their lines, and where they start.
+// Iterates over the records of a text.
 class Records {
 public:
     explicit Records(std::string_view text) : rest_(text) {}
@@ -45,7 +45,7 @@ std::string_view Records::takeLine() {
     return line;
 }
 
-// Empty lines before a record do not belong to it.
+// Skips empty lines before the record.
 bool Records::next() {
     lines_.clear();
     hasEnd_ = false;

@@ -1,4 +1,4 @@
-// "My Clippings.txt": the text file to which a Kindle appends what its user marks.
+// "My Clippings.txt": the text file to which a Kindle appends passages and notes.
 #pragma once
 
 #include <string>

@@ -44,13 +44,13 @@ int monthNamedIn(std::string_view text) {
     return 0;
 }
 
-// A date and a time, while the numbers of the text are read one after the other.
+// A date and a time, filled in number by number.
 struct Moment {
     std::int64_t year = -1;
     std::int64_t month = 0;
     std::int64_t day = 0;
     std::int64_t seconds = 0;
-    int partsOfTime = 0;  // that have been read: hours, minutes, seconds
+    int partsOfTime = 0;  // number of hours, minutes, seconds read
     std::string_view afterTime = {};
 };
 

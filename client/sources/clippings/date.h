@@ -1,4 +1,4 @@
-// The date of a clipping, as readers of many languages write it.
+// The date of a clipping, in many languages.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 namespace client {
 
 // Returns the reader's local time, as if it were UTC, in seconds since the Unix epoch;
-// nullopt if there is no date, or none of the calendar. `text` is folded by caseFoldedNfkc.
+// nullopt if there is no valid date. `text` is folded by caseFoldedNfkc.
 std::optional<std::int64_t> parseClippingDate(const std::string& text);
 
 }  // namespace client

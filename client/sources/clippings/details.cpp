@@ -27,7 +27,7 @@ std::vector<std::string> parts(const std::string& line) {
     return result;
 }
 
-// The end of a range may name only the digits that differ: "170-71".
+// Returns the end of a range, which may have only the digits that differ: "170-71".
 std::int64_t completed(std::int64_t last, std::size_t digits, std::int64_t first) {
     std::int64_t unit = 1;
     for (std::size_t i = 0; i < std::min(digits, std::size_t{18}); ++i) {
@@ -64,7 +64,8 @@ std::optional<RangeInText> nextRange(std::string_view text, std::size_t& at) {
     return found;
 }
 
-// Returns whether the text ends in the word, with another ending of it or "No." behind.
+// Returns whether the text ends with one of the words; another ending of it, or "No.", may
+// follow.
 template <class Words>
 bool endsWithOneOf(std::string_view text, const Words& list) {
     constexpr std::size_t kLongestEnding = 24;
@@ -86,7 +87,7 @@ std::optional<ClippingKind> kindIn(const std::string& text) {
                                               : std::nullopt;
 }
 
-// Returns the ranges of which no word says what they are.
+// Sets the ranges that a word names, and returns the others.
 Ranges takeRanges(std::string_view text, Clipping& clipping) {
     Ranges unnamed;
     for (std::size_t at = 0; const auto found = nextRange(text, at);) {
@@ -103,7 +104,7 @@ Ranges takeRanges(std::string_view text, Clipping& clipping) {
     return unnamed;
 }
 
-// In a language that is not known, the page stands before the location.
+// In an unknown language, the page is assumed to be before the location.
 void guessPlaces(const Ranges& ranges, Clipping& clipping) {
     if (ranges.size() > 1) {
         clipping.page = ranges.front();

@@ -27,7 +27,7 @@ bool isMarked(const Clipping& passage) {
                                   passage.kind == ClippingKind::Article);
 }
 
-// In time that grows with the length of the texts.
+// Returns whether `text` contains `part`, in linear time.
 bool contains(const std::string& text, const std::string& part) {
     return memmem(text.data(), text.size(), part.data(), part.size()) != nullptr;
 }
@@ -39,7 +39,7 @@ bool supersedes(const Clipping& later, const Clipping& earlier, Unit unit) {
            contains(later.note.text, earlier.note.text);
 }
 
-// The passages that were marked last from each start, and to each end.
+// The latest passage for each start and for each end.
 class Latest {
 public:
     explicit Latest(Unit unit) : unit_(unit) {}
@@ -73,7 +73,7 @@ private:
     ByPosition byEnd_;
 };
 
-// A note that holds the one before is a new version of it.
+// Adds a comment. A note that contains the previous one replaces it.
 void addComment(Clipping& passage, const Clipping& note) {
     const std::string& text = note.note.text;
     std::string& comment = passage.note.comment;
@@ -85,12 +85,12 @@ void addComment(Clipping& passage, const Clipping& note) {
     passage.note.commentTime = std::max(passage.note.commentTime, note.note.time);
 }
 
-// Goes through the book once, and knows which passages hold the current position.
+// A pass through the book, with the passages that contain the current position.
 class Sweep {
 public:
     Sweep(const std::vector<Clipping>& passages, Unit unit);
 
-    // Returns the passage for the note at this position; positions must not go back.
+    // Returns the passage for the note at this position; positions must not decrease.
     std::optional<std::size_t> passageAt(std::int64_t position, std::size_t note);
 
 private:
@@ -101,7 +101,7 @@ private:
 
     void goTo(std::int64_t position);
 
-    std::vector<Marked> ahead_;  // the next one last
+    std::vector<Marked> ahead_;  // by descending start
     std::set<std::size_t> here_;
     using End = std::pair<std::int64_t, std::size_t>;
     std::priority_queue<End, std::vector<End>, std::greater<>> ends_;
@@ -137,7 +137,8 @@ std::optional<std::size_t> Sweep::passageAt(std::int64_t position, std::size_t n
     return next == here_.begin() ? *next : *std::prev(next);
 }
 
-// The user's notes that stand alone so far and have a place in the unit, by place.
+// Returns the user's notes that are not attached yet and have a position in the unit,
+// ordered by position.
 std::vector<std::size_t> notesByPosition(const std::vector<Clipping>& passages, Unit unit) {
     std::vector<std::size_t> notes;
     for (std::size_t i = 0; i < passages.size(); ++i) {

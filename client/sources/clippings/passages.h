@@ -1,4 +1,4 @@
-// The clippings of one book, and what they have to do with each other.
+// Relations between the clippings of one book.
 #pragma once
 
 #include <vector>
@@ -7,14 +7,14 @@
 
 namespace client {
 
-// Both take the clippings in the order of the file.
+// Both functions expect the clippings in the order of the file.
 
-// Drops each marked passage that a later one holds, from the same start or to the same end;
-// the later one takes over its identity.
+// Drops each marked passage that a later one contains, from the same start or to the same
+// end; the later one gets its identity.
 void dropSuperseded(std::vector<Clipping>& clippings);
 
-// Makes each of the user's notes a comment of the passage that holds its place; of several,
-// of the one that was marked last before it. A note that no passage holds stays alone.
+// Makes each of the user's notes a comment of the passage that contains its position; of
+// several, the one that was marked last before it. Other notes stay separate.
 void attachNotes(std::vector<Clipping>& clippings);
 
 }  // namespace client

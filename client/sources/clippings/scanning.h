@@ -12,14 +12,14 @@
 namespace client {
 
 struct NumberInText {
-    std::int64_t value;     // at most 18 digits of it
-    std::size_t digits;     // how many it has
+    std::int64_t value;     // of its first 18 digits
+    std::size_t digits;     // number of its digits
     std::size_t offset;     // of its first digit
     char before;            // the byte before it; 0 at the start of the text
-    std::string_view rest;  // the text behind it
+    std::string_view rest;  // the text after it
 };
 
-// Returns the next number from `at` on, and moves `at` to its end.
+// Returns the next number at or after `at`, and moves `at` to its end.
 std::optional<NumberInText> nextNumber(std::string_view text, std::size_t& at);
 
 template <class Words>
@@ -29,7 +29,7 @@ bool hasOneOf(std::string_view text, const Words& words) {
     });
 }
 
-// Spaces before the word do not count.
+// Skips spaces before the word.
 template <class Words>
 bool startsWithOneOf(std::string_view text, const Words& words) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));

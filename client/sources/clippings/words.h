@@ -1,5 +1,5 @@
-// The words of clippings files in many languages, folded by caseFoldedNfkc. A word with
-// several endings is cut to its start.
+// The words of clippings files in many languages, folded by caseFoldedNfkc. Of a word with
+// several endings, only the start is listed.
 #pragma once
 
 #include <array>
@@ -27,7 +27,7 @@ inline constexpr std::array<std::string_view, 4> kAfterPage = {"ページ", "页
 inline constexpr std::array<std::string_view, 7> kBeforeLocation = {
     "loc", "posi", "ubicaci", "emplacement", "мест", "位置", "위치"};
 
-// Behind the time.
+// After the time.
 inline constexpr std::array<std::string_view, 3> kPm = {"pm", "p.m", "p. m"};
 inline constexpr std::array<std::string_view, 3> kAm = {"am", "a.m", "a. m"};
 

@@ -7,7 +7,7 @@
 namespace client {
 namespace {
 
-// Returns hexadecimal digits that depend on the parts alone.
+// Returns hexadecimal digits that depend only on the parts.
 std::string derivedId(const std::vector<std::string_view>& parts) {
     Digest digest;
     for (const std::string_view part : parts) {

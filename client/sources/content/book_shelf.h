@@ -1,4 +1,4 @@
-// The books of a file, while it is read.
+// The books of a file that is being read.
 #pragma once
 
 #include <deque>
@@ -11,7 +11,7 @@
 
 namespace client {
 
-// What distinguishes a note without a uuid from the other notes of its book.
+// Texts that identify a note without a uuid within its book.
 using Identity = std::vector<std::string>;
 
 // A book to which notes are added.
@@ -20,8 +20,8 @@ public:
     explicit ShelvedBook(Book book) : content_{std::move(book), {}, {}} {}
 
     // Adds the note. If it has no uuid, one is derived from the book and `identity`, equal
-    // on every machine. If the book has the uuid already, the note is dropped if it says
-    // the same, and gets a uuid derived from its content if it does not.
+    // on every machine. If the book already has a note with the uuid, an equal note is
+    // dropped, and another one gets a uuid derived from its content.
     void add(Note note, const Identity& identity);
 
     IncomingBook take() { return std::move(content_); }
@@ -34,14 +34,14 @@ private:
 // References to its books stay valid.
 class BookShelf {
 public:
-    // Returns the book of that title and author, which give it its hash.
+    // Returns the book with this title and author; its hash is derived from them.
     ShelvedBook& book(const std::string& title, const std::string& author);
 
-    // Returns the book of that hash.
+    // Returns the book with this hash.
     ShelvedBook& book(const std::string& hash, const std::string& title,
                       const std::string& author);
 
-    // Takes the books, in the order in which they came.
+    // Returns the books in the order in which they were added, and removes them.
     std::vector<IncomingBook> take();
 
 private:

@@ -1,4 +1,4 @@
-// The books and notes that a file holds.
+// The books and notes of a file.
 #pragma once
 
 #include <cstddef>
@@ -12,12 +12,11 @@ namespace client {
 
 class SkippedRecords {
 public:
-    // `record` names the record's place and what is wrong with it, for people:
-    // "line 12: no title".
+    // `record` is a message with the record's position and fault: "line 12: no title".
     void add(const std::string& record);
 
-    // Names the first ones and how many more there are, one line each; empty if there is
-    // none. `file` is the file's path.
+    // Returns a line for each of the first ones, and the number of the rest; empty if there
+    // is none. `file` is the file's path.
     std::string summary(const std::string& file) const;
 
 private:
@@ -25,12 +24,12 @@ private:
     std::vector<std::string> first_;
 };
 
-// No two books have one hash, no two notes of a book one uuid.
+// Hashes are unique, and uuids are unique within a book.
 struct SourceContent {
     std::vector<IncomingBook> books;
     std::optional<std::string> styleSheet = {};  // text, for the whole collection
     host::OnKnownBook onKnownBook = host::OnKnownBook::FillEmpty;
-    SkippedRecords skipped = {};  // records that could not be read, although the rest could
+    SkippedRecords skipped = {};  // records that could not be read
 };
 
 }  // namespace client

@@ -36,8 +36,7 @@ std::string numbered(const std::string& kind, std::size_t number) {
     return kind + std::to_string(number);
 }
 
-// Throws UserError if two of the things in the object have one name, which is their
-// `member`.
+// Throws UserError if two of the things in the object have the same `member`.
 template <class Things, class Name>
 void checkNames(const JsonObject& object, const Things& things, Name name, const char* kind,
                 const char* member) {
@@ -60,9 +59,9 @@ std::string readHash(JsonObject& object) {
     return hash;
 }
 
-Note readNote(const Json::Value& json, const std::string& place,
+Note readNote(const Json::Value& json, const std::string& location,
               const std::filesystem::path& folder) {
-    JsonObject object(json, place);
+    JsonObject object(json, location);
     Note note;
     note.time = object.integer("timestamp").value_or(0);
     note.uuid = object.requiredText("uuid");
@@ -75,25 +74,25 @@ Note readNote(const Json::Value& json, const std::string& place,
     return note;
 }
 
-std::vector<Note> readNotes(JsonObject& book, const std::string& place,
+std::vector<Note> readNotes(JsonObject& book, const std::string& location,
                             const std::filesystem::path& folder) {
     std::vector<Note> notes;
     for (const Json::Value& note : book.array("notes")) {
-        const std::string notePlace = numbered(place + ", note ", notes.size() + 1);
-        notes.push_back(readNote(note, notePlace, folder));
+        const std::string noteLocation = numbered(location + ", note ", notes.size() + 1);
+        notes.push_back(readNote(note, noteLocation, folder));
     }
     const auto uuid = [](const Note& note) -> const auto& { return note.uuid; };
     checkNames(book, notes, uuid, "notes ", "uuid");
     return notes;
 }
 
-IncomingBook readBook(const Json::Value& json, const std::string& place,
+IncomingBook readBook(const Json::Value& json, const std::string& location,
                       const std::filesystem::path& folder) {
-    JsonObject object(json, place);
+    JsonObject object(json, location);
     IncomingBook book;
     book.book = {readHash(object), object.text("title"), object.text("author"),
                  object.text("path")};
-    book.notes = readNotes(object, place, folder);
+    book.notes = readNotes(object, location, folder);
     object.requireNoOtherMembers();
     return book;
 }
@@ -112,8 +111,8 @@ SourceContent readDeviceFile(const std::string& path) {
     SourceContent content;
     content.onKnownBook = host::OnKnownBook::Overwrite;
     for (const Json::Value& book : object.array("books")) {
-        const std::string place = numbered(path + ": book ", content.books.size() + 1);
-        content.books.push_back(readBook(book, place, folder));
+        const std::string location = numbered(path + ": book ", content.books.size() + 1);
+        content.books.push_back(readBook(book, location, folder));
     }
     const auto hash = [](const IncomingBook& book) -> const auto& {
         return book.book.hash;

@@ -8,12 +8,12 @@
 
 namespace client {
 
-// Returns whether it is a JSON object.
+// Returns whether the text starts a JSON object.
 bool isDeviceFile(std::string_view start);
 
-// Also reads the pictures and the style sheet that the file names, relative to its own
-// folder. Throws UserError, which names the place, for anything that is missing, misspelt,
-// of the wrong type or there twice.
+// Also reads the pictures and the style sheet, whose paths are relative to the folder of
+// the file. Throws UserError, which names the position, if anything is missing, misspelt,
+// duplicate or of the wrong type.
 SourceContent readDeviceFile(const std::string& path);
 
 }  // namespace client

@@ -8,8 +8,8 @@
 
 namespace client {
 
-JsonObject::JsonObject(const Json::Value& value, std::string place)
-    : value_(value), place_(std::move(place)) {
+JsonObject::JsonObject(const Json::Value& value, std::string location)
+    : value_(value), location_(std::move(location)) {
     if (!value_.isObject()) {
         fail("expected an object");
     }
@@ -81,7 +81,7 @@ const Json::Value* JsonObject::find(const std::string& name, Json::ValueType typ
 }
 
 void JsonObject::fail(const std::string& what) const {
-    throw UserError(place_ + ": " + what);
+    throw UserError(location_ + ": " + what);
 }
 
 }  // namespace client

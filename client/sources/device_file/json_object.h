@@ -1,4 +1,4 @@
-// Reading the members of one JSON object, strictly.
+// Strict access to the members of one JSON object.
 #pragma once
 
 #include <json/value.h>
@@ -10,13 +10,13 @@
 
 namespace client {
 
-// Throws a UserError that names the place for a member of the wrong type, for a required
-// one that is missing and, at the end, for a member that no getter has read.
+// Throws a UserError with the location if a member has the wrong type, a required one is
+// missing, or, at the end, if no getter has read a member.
 class JsonObject {
 public:
-    // `place` says where the object is in the file, for messages ("book 2, note 5").
-    // `value` must outlive this object.
-    JsonObject(const Json::Value& value, std::string place);
+    // `location` is the position of the object in the file, for messages ("book 2, note
+    // 5"). `value` must outlive this object.
+    JsonObject(const Json::Value& value, std::string location);
 
     std::string requiredText(const std::string& name);
     std::string text(const std::string& name);
@@ -31,14 +31,14 @@ public:
 
     [[noreturn]] void fail(const std::string& what) const;
 
-    // Call it after all getters.
+    // Must be called after all getters.
     void requireNoOtherMembers() const;
 
 private:
     const Json::Value* find(const std::string& name, Json::ValueType type);
 
     const Json::Value& value_;
-    std::string place_;
+    std::string location_;
     std::set<std::string> known_;
 };
 

@@ -6,7 +6,7 @@
 
 namespace client {
 
-// Returns the text with each reference replaced by its character; all else stays.
+// Returns the text with each reference replaced by its character.
 std::string withoutReferences(std::string_view text);
 
 }  // namespace client

@@ -28,7 +28,7 @@ public:
 
     bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
-    // Returns nullopt if the text is cut, or not of the encoding.
+    // Returns nullopt if the text is cut, or invalid in the encoding.
     std::optional<std::string> converted(std::string& text);
 
 private:

@@ -1,13 +1,13 @@
-// Text files of any encoding.
+// Conversion of HTML documents to UTF-8.
 #pragma once
 
 #include <string>
 
 namespace client {
 
-// Returns the HTML document as UTF-8, without a byte order mark: from UTF-16 by its mark,
-// or from the encoding that the document names. A document that cannot be converted stays
-// as it is.
+// Returns the HTML document as UTF-8, without a byte order mark. The mark selects UTF-16;
+// otherwise the document names its encoding. A document that cannot be converted is
+// returned unchanged.
 std::string htmlAsUtf8(std::string html);
 
 }  // namespace client

@@ -47,7 +47,8 @@ Heading parseHeading(const std::string& text) {
     return {text.substr(0, kDateLength), text.substr(kDateLength + 3)};
 }
 
-// A page of a device whose hashes have another form gets one as other sources do.
+// Returns the book. If the page has a hash of another form, a new one is derived from title
+// and author.
 ShelvedBook& bookOf(const VisiblePage& page, const std::string& title, BookShelf& shelf) {
     const std::string hash = asciiLowered(page.bookHash);
     return host::isBookHash(hash) ? shelf.book(hash, title, page.author)
@@ -69,7 +70,7 @@ std::vector<IncomingBook> visibleBook(VisiblePage& page, SkippedRecords& skipped
     return shelf.take();
 }
 
-// Returns no book if there is no dump, or none that this platform can read.
+// Returns no book if there is no dump that this platform can read.
 std::vector<IncomingBook> recordedBooks(const std::string& path, const VisiblePage& page,
                                         SkippedRecords& skipped) {
     std::vector<IncomingBook> books;

@@ -1,5 +1,5 @@
-// A page that this library exported, here or on a device, perhaps saved again by
-// another commandLine.
+// A page that this library exported, here or on a device, possibly saved again by another
+// program.
 #pragma once
 
 #include <string>

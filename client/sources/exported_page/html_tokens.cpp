@@ -10,7 +10,7 @@ namespace client {
 namespace {
 
 constexpr std::string_view kSpaces = " \t\r\n\f";
-constexpr std::size_t kMaxAttributes = 100;  // of a tag; further ones are ignored
+constexpr std::size_t kMaxAttributes = 100;  // of a tag; others are ignored
 
 std::string_view takeUntil(std::string_view& text, std::string_view ends) {
     const std::size_t length = std::min(text.find_first_of(ends), text.size());

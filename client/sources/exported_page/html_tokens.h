@@ -1,5 +1,4 @@
-// The tags and the text of an HTML or XHTML document, one after the other: in time that
-// grows with its length, whatever is wrong with it.
+// A tokenizer for HTML and XHTML, in linear time even for invalid documents.
 #pragma once
 
 #include <string>
@@ -13,9 +12,10 @@ struct HtmlToken {
     enum class Kind { Text, Start, End };
 
     Kind kind = Kind::Text;
-    std::string text;  // of a tag its name, in lower case
+    std::string text;  // of a tag: its name, in lower case
 
-    // Of a start tag: the value, with its references resolved; empty when there is none.
+    // Returns the value of a start tag's attribute, with its references resolved; empty if
+    // there is none.
     std::string attribute(std::string_view name) const;
     bool hasAttribute(std::string_view name) const;
 
@@ -27,8 +27,8 @@ public:
     // `html`, in UTF-8, must outlive this object and its tokens.
     explicit HtmlTokens(std::string_view html) : rest_(html) {}
 
-    // Reads the next token; false at the end. Comments, declarations, scripts and style
-    // sheets are passed over.
+    // Reads the next token; returns false at the end. Skips comments, declarations, scripts
+    // and style sheets.
     bool next(HtmlToken& token);
 
 private:

@@ -31,7 +31,7 @@ void ShownText::addSpace() {
 }
 
 void ShownText::end(const char* mark) {
-    isAtStart_ = true;  // also for what stands before the mark
+    isAtStart_ = true;  // also for text before the mark
     addSpace();
     text_ += mark;
 }

@@ -1,4 +1,4 @@
-// A text as a page shows it, put together from its pieces.
+// A text that a page shows, collected from pieces.
 #pragma once
 
 #include <string>
@@ -6,15 +6,15 @@
 
 namespace client {
 
-// Where a program has broken and indented lines, the white space with a line break in it is
-// one space, or nothing at the ends of a line. All other white space stays.
+// White space with a line break is indentation: it becomes one space, or nothing at the
+// ends of a line. All other white space stays.
 class ShownText {
 public:
     void add(std::string_view text);
     void breakLine() { end("\n"); }
     void breakParagraph() { end("\u2029"); }
 
-    // Leaves nothing behind.
+    // Returns the text and clears it.
     std::string take();
 
 private:
@@ -22,7 +22,7 @@ private:
     void addSpace();
 
     std::string text_;
-    std::string space_;  // not known yet whether it counts
+    std::string space_;  // pending: dropped at the end of a line
     bool isAtStart_ = true;
 };
 

@@ -29,7 +29,7 @@ std::optional<double> pageLabelled(const std::string& label) {
     return page ? std::optional<double>(*page) : std::nullopt;
 }
 
-// Goes through the page. A note lasts until the next one begins.
+// Reads the page. A note ends where the next one begins.
 class Reader {
 public:
     VisiblePage read(std::string_view html);
@@ -50,7 +50,7 @@ private:
     }
 
     VisiblePage page_;
-    Target target_ = Target::None;  // of the text that comes
+    Target target_ = Target::None;  // of the next text
     bool isInParagraph_ = false;
     int paragraphs_ = 0;
     ShownText text_;
@@ -142,7 +142,7 @@ void Reader::begin(Target target) {
     target_ = target;
 }
 
-// Those of a note are begun only when there is one.
+// Ends the current text. Targets within a note are only set inside one.
 void Reader::finish() {
     const std::string text = text_.take();
     const Target target = std::exchange(target_, Target::None);

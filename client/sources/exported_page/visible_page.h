@@ -12,14 +12,13 @@ namespace client {
 
 struct VisiblePage {
     std::string heading = {};   // date and title
-    std::string author = {};    // empty: the page names none
-    std::string bookHash = {};  // as its dump says; empty if it has none
+    std::string author = {};    // empty if there is none
+    std::string bookHash = {};  // of its dump; empty if there is none
     std::vector<Note> notes = {};
     std::vector<std::string> unreadable = {};  // uuids of notes with a damaged picture
 };
 
-// Reads HTML in UTF-8. Line breaks that a program put into a text to indent it do not
-// count.
+// Reads HTML in UTF-8. Ignores line breaks that only indent a text.
 VisiblePage readVisiblePage(std::string_view html);
 
 }  // namespace client

@@ -32,7 +32,7 @@ constexpr TextColumn kTextColumns[] = {{"BookmarkID", &KoboBookmark::id},
                                        {"Type", &KoboBookmark::type},
                                        {"Color", &KoboBookmark::color}};
 
-// Returns a query for these columns, with NULL for those that the table lacks.
+// Returns a query for these columns, with NULL for missing ones.
 std::string selection(SQLite::Database& database, const std::string& table,
                       const std::vector<const char*>& wanted) {
     const std::set<std::string> columns = columnsOf(database, table);

@@ -1,4 +1,4 @@
-// The bookmarks of a Kobo reader's database, with the books that they are in.
+// The bookmarks and books in a Kobo reader's database.
 #pragma once
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -25,7 +25,7 @@ struct KoboBookmark {
     std::string color;
 };
 
-// Returns all of them, in no order. Columns that older firmware lacks are empty.
+// Returns all bookmarks, unordered. Columns that are missing in older firmware are empty.
 std::vector<KoboBookmark> readBookmarks(SQLite::Database& database);
 
 struct KoboContent {

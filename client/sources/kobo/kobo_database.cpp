@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// SQLite would take some characters of a path for parts of the URI.
+// Encodes the path, because SQLite reads some characters as parts of the URI.
 std::string uriOf(const std::string& path) {
     return "file:" +
            percentEncoded(path,
@@ -32,7 +32,7 @@ std::string uriOf(const std::string& path) {
            "?mode=ro&immutable=1";
 }
 
-// The database comes from elsewhere: its schema must not do anything by itself.
+// Protects against a hostile schema, because the database is from another device.
 void distrust(SQLite::Database& database) {
     constexpr int kMaxBytes = 64 << 20;  // of one value
     sqlite3* const handle = database.getHandle();
@@ -75,7 +75,7 @@ std::string withoutSpaces(const std::string& text) {
     return std::string(trimmed(text, kSpaces));
 }
 
-// Returns the picture of handwriting; empty if it is not there.
+// Returns the picture of handwriting; empty if there is none.
 std::string pictureOf(const KoboBookmark& bookmark, const fs::path& database) {
     constexpr const char* kOfNames =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
@@ -109,7 +109,7 @@ private:
     BookShelf shelf_;
 };
 
-// A bookmark may name a place within the chapter behind a "#".
+// Ignores the part after a "#", which is a position in the chapter.
 std::int64_t Reader::chapterOf(const KoboBookmark& bookmark) const {
     auto chapter = contents_.find(bookmark.chapter);
     if (chapter == contents_.end()) {
@@ -118,7 +118,7 @@ std::int64_t Reader::chapterOf(const KoboBookmark& bookmark) const {
     return chapter == contents_.end() ? 0 : chapter->second.index;
 }
 
-// A book that the database does not describe is called after its file.
+// A book without a title in the database is named after its file.
 ShelvedBook& Reader::bookOf(const KoboBookmark& bookmark) {
     const auto book = contents_.find(bookmark.volume);
     const bool hasTitle = book != contents_.end() && !book->second.title.empty();

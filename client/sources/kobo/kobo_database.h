@@ -8,11 +8,10 @@
 
 namespace client {
 
-// Returns whether it is an SQLite database.
+// Returns whether the file is an SQLite database.
 bool isKoboDatabase(std::string_view start);
 
-// Writes nothing, neither to the database nor beside it. Throws UserError for other
-// databases.
+// Changes no file. Throws UserError for other databases.
 SourceContent readKoboDatabase(const std::string& path);
 
 }  // namespace client

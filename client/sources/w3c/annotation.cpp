@@ -11,7 +11,7 @@
 namespace client {
 namespace {
 
-// In a file made to be slow, selectors are nested without end.
+// Limits the stack for hostile files, whose selectors may be nested deeply.
 constexpr int kMaxNested = 16;
 
 std::string quoteIn(const JsonValue& selectors, int depth = 0) {
@@ -28,7 +28,7 @@ std::string quoteIn(const JsonValue& selectors, int depth = 0) {
     return {};
 }
 
-// A label such as "XI" is not a number.
+// Returns nullopt if the label is not a number, such as "XI".
 std::optional<double> pageIn(const JsonValue& label) {
     const auto page =
         label.IsNumber() ? label.GetDouble() : parseNumber<double>(textOf(label));

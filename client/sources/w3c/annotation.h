@@ -10,7 +10,7 @@
 namespace client {
 
 struct Annotation {
-    std::string source;  // the URI of what it annotates; may be empty
+    std::string source;  // URI of the book; may be empty
     Note note;           // the uuid is empty if the annotation has none
 };
 

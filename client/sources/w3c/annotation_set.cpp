@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\ufeff";
 
-// Stops at the first member of the outermost object that only an annotation set has.
+// Stops at the first member of the outermost object that only annotation sets have.
 class Recogniser : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Recogniser> {
 public:
     bool StartObject() {
@@ -66,7 +66,7 @@ std::string creatorsOf(const JsonValue& about) {
     return names;
 }
 
-// Returns the first of these that the set has.
+// Returns the first title in the set.
 std::string titleOf(const JsonValue& set) {
     const JsonValue& about = memberOf(set, "about");
     for (const JsonValue* title : {&memberOf(about, "dc:title"), &memberOf(about, "title"),
@@ -78,7 +78,7 @@ std::string titleOf(const JsonValue& set) {
     return {};
 }
 
-// Returns the annotations, also those of a collection's first page.
+// Returns the annotations of the set, or of a collection's first page.
 std::vector<const JsonValue*> itemsOf(const JsonValue& set, const std::string& path) {
     const JsonValue& items = memberOf(set, "items");
     const JsonValue& ofFirstPage = memberOf(memberOf(set, "first"), "items");
@@ -124,7 +124,7 @@ void Reader::addAnnotation(Annotation annotation) {
     const std::string& title = !title_.empty()             ? title_
                                : annotation.source.empty() ? fileName_
                                                            : annotation.source;
-    // Of the note, that stays the same when it is edited.
+    // Without the comment, which the user may edit.
     const Identity identity = {annotation.note.text, std::to_string(annotation.note.time)};
     shelf_.book(title, author_).add(std::move(annotation.note), identity);
 }

@@ -1,11 +1,11 @@
-// The colours of annotations, by name.
+// Names for the colours of annotations.
 #pragma once
 
 #include <string>
 
 namespace client {
 
-// Returns for "#rrggbb" the name of the nearest colour that has one, else the text.
+// Returns the name of the named colour nearest to "#rrggbb"; other texts unchanged.
 std::string colorNamed(const std::string& text);
 
 }  // namespace client

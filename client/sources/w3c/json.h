@@ -1,4 +1,4 @@
-// Values of JSON-LD, where one value may stand for a list of one.
+// Access to JSON-LD, in which a list of one value may be the value itself.
 #pragma once
 
 #include <rapidjson/document.h>
@@ -23,7 +23,7 @@ const JsonValue& memberOf(const JsonValue& value, const char* name);
 // null.
 std::vector<const JsonValue*> elementsOf(const JsonValue& value);
 
-// Returns a text, also one under the name of its language; empty for any other value.
+// Returns a text, also if it is under the name of its language; empty for other values.
 std::string textOf(const JsonValue& value);
 
 }  // namespace client
