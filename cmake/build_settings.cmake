@@ -1,4 +1,4 @@
-# How everything in this project is compiled.
+# Compiler settings for all targets.
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -33,7 +33,7 @@ endif()
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(JSONCPP REQUIRED IMPORTED_TARGET jsoncpp)
 
-# The declarations of the device's libraries; whoever includes them includes Json::Value.
+# The declarations of the device's libraries, which include Json::Value.
 add_library(notes_export_seam INTERFACE)
 target_include_directories(notes_export_seam INTERFACE "${PROJECT_SOURCE_DIR}/platform/include")
 target_link_libraries(notes_export_seam INTERFACE PkgConfig::JSONCPP)

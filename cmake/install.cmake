@@ -1,5 +1,5 @@
-# What is installed, in three components: the runtime, what developers need, the client.
-# Everything finds its neighbours from its own place, so that the prefix may be moved.
+# Installation in three components: runtime, development, client. All paths are relative, so
+# that the prefix can be moved.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 

@@ -1,4 +1,4 @@
-// Documents as an XML parser sees them.
+// Documents in canonical form.
 #pragma once
 
 #include <libxml/c14n.h>
@@ -13,7 +13,7 @@
 
 namespace fuzz {
 
-// Zero where no legal character is.
+// Returns the length of the legal character at `at`; 0 if there is none.
 inline std::size_t lengthOfCharacter(const std::string& bytes, std::size_t at) {
     int length = static_cast<int>(std::min<std::size_t>(bytes.size() - at, 4));
     const int code = xmlGetUTF8Char(reinterpret_cast<const xmlChar*>(&bytes[at]), &length);
@@ -21,11 +21,11 @@ inline std::size_t lengthOfCharacter(const std::string& bytes, std::size_t at) {
     const bool isLegal = code > 0 && IS_CHAR(static_cast<unsigned>(code)) &&
                          xmlCopyCharMultiByte(encoded, code) == length;
     const auto size = static_cast<std::size_t>(length);
-    // Bytes that are no character's may still have passed for this one's.
+    // The decoder may accept invalid bytes as this character.
     return isLegal && std::memcmp(&bytes[at], encoded, size) == 0 ? size : 0;
 }
 
-// The document, which must be well-formed, as Canonical XML with comments.
+// Returns the document, which must be well-formed, as Canonical XML with comments.
 inline std::string canonical(const std::string& document) {
     const std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> tree(
         xmlReadMemory(document.data(), static_cast<int>(document.size()), nullptr, "UTF-8",
@@ -41,7 +41,7 @@ inline std::string canonical(const std::string& document) {
     return result;
 }
 
-// The bytes with "?" for each that belongs to no legal character.
+// Returns the bytes, with "?" for each that belongs to no legal character.
 inline std::string legal(const std::string& bytes) {
     std::string result;
     for (std::size_t at = 0; at < bytes.size();) {

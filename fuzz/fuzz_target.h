@@ -1,4 +1,4 @@
-// What the fuzz targets share.
+// Functions for all fuzz targets.
 #pragma once
 
 #include <cstddef>
@@ -9,22 +9,23 @@
 #include <string_view>
 #include <vector>
 
-// Aborts when something does not hold.
+// Aborts if a check fails.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace fuzz {
 
-// How the last input went. A target that tells has a folder of inputs for each outcome.
+// The outcome of the last input. A target that sets it has a folder of inputs for each
+// outcome.
 inline std::string outcome;
 
 inline void check(bool condition, const std::string& message) {
     if (!condition) {
-        std::cerr << "does not hold: " << message << std::endl;
+        std::cerr << "check failed: " << message << std::endl;
         std::abort();
     }
 }
 
-// What stands between the separators, and empty fields up to the count.
+// Returns the fields between the separators, and empty ones up to the count.
 inline std::vector<std::string> fieldsOf(std::string_view text, char separator,
                                          std::size_t count = 1) {
     std::vector<std::string> fields(1);

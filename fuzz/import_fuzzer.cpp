@@ -1,5 +1,5 @@
-// Hostile documents meet a reader database. The first byte of the input says what the rest
-// is: a document, the text of its dump's element, the dump, or the dump's JSON.
+// Imports hostile documents. The first byte of the input selects the rest: a document, the
+// text of its dump's element, the dump, or the dump's JSON.
 #include <map>
 #include <optional>
 #include <tuple>
@@ -39,11 +39,12 @@ struct Device {
     Veloran::ReaderLib::DataBase database;
 };
 
-// What is known of each book, note and tag, and since when.
+// The content of each book, note and tag, with its timestamp.
 using Fact = std::tuple<std::int64_t, std::string, std::optional<std::string>>;
 using Facts = std::map<std::vector<std::string>, Fact>;
 
-// The facts once the records have come in: of each tag the newer one, in a tie the first.
+// Returns the facts after an import of the records: of each tag the newer one, in a tie the
+// first.
 Facts merged(Facts facts, const std::vector<host::BookRecord>& books) {
     for (const host::BookRecord& book : books) {
         facts.try_emplace({book.fastHash}, 0, book.title, book.path);
@@ -76,7 +77,7 @@ std::string outcomeOf(int result) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const ScratchDirectory scratch;
-    static std::optional<Device> device;  // serves until an import succeeds
+    static std::optional<Device> device;  // used until an import succeeds
     static Facts before;
     if (!device) {
         before = factsIn(device.emplace());
@@ -86,13 +87,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Facts after = factsIn(*device);
     fuzz::outcome = outcomeOf(result);
     if (result < 0) {
-        check(fuzz::outcome.find('-') == std::string::npos, "the document is the reason");
-        check(after == before, "an import that fails changes nothing");
+        check(fuzz::outcome.find('-') == std::string::npos, "the document is the cause");
+        check(after == before, "a failed import changes nothing");
         return 0;
     }
-    check(after == merged(before, host::readDump(kDocument)), "what came in is there");
-    check(result == 0 || after != before, "something came in");
-    check(device->import() == 0, "a second import brings nothing");
+    check(after == merged(before, host::readDump(kDocument)), "the records are merged");
+    check(result == 0 || after != before, "a positive result means a change");
+    check(device->import() == 0, "a second import adds nothing");
     check(factsIn(*device) == after, "a second import changes nothing");
     device.reset();
     return 0;

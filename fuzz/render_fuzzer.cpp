@@ -1,5 +1,6 @@
-// Exports of any texts, read back by an XML parser. The input holds title, author, dump and
-// hash, then notes: identifier, colour, page, text, comment and picture.
+// Exports arbitrary texts and compares the document with the expected one. The input has
+// title, author, dump and hash, then notes: identifier, colour, page, text, comment and
+// picture.
 #include <climits>
 #include <cmath>
 #include <filesystem>
@@ -53,13 +54,14 @@ std::string exported(const Device& device) {
     const std::string path = exporter.getExportFilename(kBook);
     const auto asInInput = [](long long a, long long b) { return a < b; };
     fuzz::check(exporter.export_bookmarks_to_html(kBook, {}, asInInput) == 0,
-                "it succeeds");
+                "the export succeeds");
     const std::string document = readFile(path);
     std::filesystem::remove(path);
     return document;
 }
 
-// The field up to its first zero byte, with markup escaped and then those breaks replaced.
+// Returns the field up to its first zero byte, with markup escaped and then the breaks
+// replaced.
 std::string text(const std::string& field,
                  std::vector<std::pair<std::string, std::string>> replacements = {}) {
     std::string text = fuzz::legal(field.c_str());

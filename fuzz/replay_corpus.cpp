@@ -1,5 +1,5 @@
-// Stands in for libFuzzer: runs every file below the directory given, once, and
-// looks whether it goes as its folder says.
+// Replaces libFuzzer: runs every file in the given directory once, and checks that its
+// folder names the outcome.
 #include <filesystem>
 
 #include "fuzz_target.h"
@@ -21,5 +21,5 @@ int main(int count, char** arguments) {
                     "the outcome is " + fuzz::outcome);
         ++inputs;
     }
-    fuzz::check(inputs > 0, "the corpus holds inputs");
+    fuzz::check(inputs > 0, "the corpus has inputs");
 }

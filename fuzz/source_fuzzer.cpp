@@ -1,5 +1,4 @@
-// Hostile files of every kind that notes come in: recognised, read, and put into a
-// collection.
+// Loads hostile files of every kind into a collection.
 #include <set>
 
 #include "client/error.h"
@@ -21,15 +20,15 @@ void checkUuids(const Notes& notes) {
     std::set<std::string> uuids;
     for (const auto& note : notes) {
         check(!uuidOf(note).empty(), "a note has a uuid");
-        check(uuids.insert(uuidOf(note)).second, "no two notes of a book have one uuid");
+        check(uuids.insert(uuidOf(note)).second, "uuids of a book are unique");
     }
 }
 
 void checkNames(const std::vector<IncomingBook>& books) {
     std::set<std::string> hashes;
     for (const IncomingBook& book : books) {
-        check(host::isBookHash(book.book.hash), "a book has a hash");
-        check(hashes.insert(book.book.hash).second, "no two books have one hash");
+        check(host::isBookHash(book.book.hash), "a book has a valid hash");
+        check(hashes.insert(book.book.hash).second, "hashes are unique");
         checkUuids(book.notes);
         checkUuids(book.records);
     }
@@ -50,7 +49,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     host::ReaderStore store(":memory:");
     try {
         const int changed = load(kFile, store);
-        check(load(kFile, store) == 0, "a second load is idle");
+        check(load(kFile, store) == 0, "a second load changes nothing");
         fuzz::outcome = "brings_" + std::to_string(changed);
     } catch (const client::UserError&) {
         fuzz::outcome = "refused";

@@ -1,5 +1,5 @@
-// Commands of the client: loading each source beside a device file of the same notes, and
-// exports of many books beside what the library takes for them.
+// Commands of the client: loads of each source, compared with a device file of the same
+// notes, and exports of many books, compared with the library alone.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 constexpr char kPages[] = "pages";
 
-// Takes what the commands print.
+// Discards the output of the commands.
 class Silence {
 public:
     ~Silence() { std::cout.rdbuf(before_); }
@@ -30,7 +30,7 @@ private:
     std::streambuf* const before_ = std::cout.rdbuf(output_.rdbuf());
 };
 
-// A folder of its own for each process, in which devices and files are made.
+// Enters a new folder, which each process has for itself.
 void enterScratch() {
     static const ScratchFolder scratch;
     fs::current_path(scratch.path());
@@ -77,7 +77,7 @@ double updateAll(std::size_t books) {
     return secondsOf([] { client::exportNotes(exportRequest()); });
 }
 
-// Each book in an exporter of its own, as a program would that exports one book.
+// Exports each book with its own exporter, as a program for one book does.
 double exportOneByOne(std::size_t books) {
     const Silence silence;
     enterDeviceOf(books);

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <filesystem>
 
-// A new folder that lasts as long as this object.
+// A new folder; the destructor removes it.
 class ScratchFolder {
 public:
     ScratchFolder();
@@ -23,7 +23,7 @@ inline constexpr char kClippings[] = "clippings.txt";
 inline constexpr char kKoboDatabase[] = "KoboReader.sqlite";
 inline constexpr char kAnnotationSet[] = "set.annotation";
 
-// Enters a folder within the working directory that has such files, and makes it first when
-// it is missing. Each book has as many notes, with a page and a text of about 300 bytes.
-// The annotation set has one book.
+// Enters a folder in the working directory that has such files, and creates it if it is
+// missing. Each book has `notes` notes, with a page and a text of about 300 bytes. The
+// annotation set has one book.
 void enterNoteFiles(std::size_t books, std::size_t notes);

@@ -42,7 +42,7 @@ private:
     notes_exporter* handle_ = new_notes_exporter();
 };
 
-// What failed would be fast.
+// Aborts on failure, because a failed job is fast.
 void check(bool holds) {
     if (!holds) {
         std::abort();
@@ -53,11 +53,11 @@ std::string jsonOf(const std::string& key, const std::string& uri) {
     return "{\"" + key + "\":\"" + uri + "\"}";
 }
 
-host::NoteRecord note(std::size_t place, const std::string& text) {
+host::NoteRecord note(std::size_t index, const std::string& text) {
     const std::string uuid =
-        sampleNotes()[place % sampleNotes().size()].uuid + "-" + std::to_string(place);
-    const std::string position = samplePosition(place);
-    const auto time = static_cast<std::int64_t>(1741339501 + place);
+        sampleNotes()[index % sampleNotes().size()].uuid + "-" + std::to_string(index);
+    const std::string position = samplePosition(index);
+    const auto time = static_cast<std::int64_t>(1741339501 + index);
     return {uuid,
             {{host::kUuidTag, uuid, {}, time},
              {host::kAnchorTag, "", jsonOf("anchor", position), time},
@@ -78,9 +78,9 @@ void exportInOrder(notes_exporter_before before) {
 
 host::BookRecord bookOfNotes(std::size_t notes) {
     host::BookRecord book = emptyBook();
-    for (std::size_t place = 0; place < notes; ++place) {
-        book.notes.push_back(note(place, sampleText(place)));
-        if (place % 2 == 0) {
+    for (std::size_t index = 0; index < notes; ++index) {
+        book.notes.push_back(note(index, sampleText(index)));
+        if (index % 2 == 0) {
             book.notes.back().tags.push_back(
                 {host::kCommentTag, sampleNotes().front().comment, {}, 1741339501});
         }
@@ -91,8 +91,8 @@ host::BookRecord bookOfNotes(std::size_t notes) {
 host::BookRecord bookOfPictures(std::size_t notes) {
     const std::string picture = samplePicture(400000);
     host::BookRecord book = emptyBook();
-    for (std::size_t place = 0; place < notes; ++place) {
-        book.notes.push_back(note(place, ""));
+    for (std::size_t index = 0; index < notes; ++index) {
+        book.notes.push_back(note(index, ""));
         book.notes.back().tags.push_back({host::kImageTag, picture, {}, 1741339501});
     }
     return book;
@@ -130,7 +130,7 @@ void showReaderDatabase() { fs::rename(kHidden, host::kReaderDatabasePath); }
 
 void createAndFreeExporter() { const Exporter exporter; }
 
-void askForFileName() {
+void queryFileName() {
     char name[256];
     const Exporter exporter;
     notes_exporter_get_exported_file_name(exporter.get(), name, sizeof name, kBookHash);

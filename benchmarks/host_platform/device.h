@@ -1,5 +1,4 @@
-// Devices on the host platform, each in a folder of its own that lasts as long as the
-// process.
+// Devices on the host platform, each in a folder that is removed when the process exits.
 #pragma once
 
 #include <cstddef>
@@ -8,19 +7,19 @@
 
 #include "store/records.h"
 
-// Books of which each note has a text, a position and, every second one, a comment.
+// Returns a book whose notes have a text and a position, and every second one a comment.
 host::BookRecord bookOfNotes(std::size_t notes);
 
-// Books of as many notes with a picture of 400 KB each.
+// Returns a book whose notes have a picture of 400 KB each.
 host::BookRecord bookOfPictures(std::size_t notes);
 
-// A book of one note, whose comment has as many bytes and is a tenth line breaks.
+// Returns a book of one note with a comment of `bytes` bytes, a tenth of them line breaks.
 host::BookRecord bookOfComment(std::size_t bytes);
 
 using MakeBook = host::BookRecord (*)(std::size_t size);
 
-// Enters the device that holds this book, and its export in kDocument; makes both first
-// where they are missing.
+// Enters a device with this book and with its export in kDocument; creates both if they are
+// missing.
 void enterCollection(MakeBook makeBook, std::size_t size);
 inline constexpr char kDocument[] = "exported.html";
 
@@ -28,9 +27,10 @@ void removeReaderDatabase();
 void hideReaderDatabase();
 void showReaderDatabase();
 
-// What an application does: creates an exporter, uses it and frees it. A failure aborts.
+// Each function creates an exporter, uses it and frees it, as applications do. A failure
+// aborts.
 void createAndFreeExporter();
-void askForFileName();
+void queryFileName();
 void exportBook();
 void exportBookBackwards();  // in the order of a predicate
 void removeExport();

@@ -1,4 +1,4 @@
-// Whole exports and imports on the host platform, beside what no program can leave out.
+// Exports and imports on the host platform, compared with lower bounds.
 #include <benchmark/benchmark.h>
 #include <openssl/evp.h>
 
@@ -43,7 +43,7 @@ double exportFloor(std::size_t notes) {
     return secondsOfRound(work, [] { std::filesystem::remove(kWritten); });
 }
 
-// The device's own reader database is put aside meanwhile.
+// Calls `work` while the device's reader database is moved away.
 template <class Work>
 double onEmptyDevice(Work work) {
     hideReaderDatabase();
@@ -73,7 +73,7 @@ void createAndFree(benchmark::State& state) {
 void nameFile(benchmark::State& state) {
     enterCollection(bookOfNotes, 1000);
     for ([[maybe_unused]] auto round : state) {
-        askForFileName();
+        queryFileName();
     }
 }
 

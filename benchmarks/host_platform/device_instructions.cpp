@@ -1,4 +1,4 @@
-// Jobs on the host platform: device_instructions export|import NOTES
+// Runs a job on the host platform: device_instructions export|import NOTES
 #include <cstdlib>
 #include <string>
 

@@ -1,11 +1,11 @@
-// An exported document, taken apart and written again.
+// Parts of an exported document.
 #pragma once
 
 #include <string>
 
 std::string contentOf(const char* path);
 
-// The JSON text of the document's dump, and the work of compressing it.
+// Extract and compress the JSON text of the document's dump.
 std::string textOfDump(const std::string& document);
 void compress(const std::string& text);
 

@@ -54,7 +54,7 @@ void insert(const Statement& statement, const Values&... values) {
     sqlite3_clear_bindings(statement.get());
 }
 
-// Looks at every column of every row.
+// Reads every column of every row.
 void readRows(const Statement& statement) {
     while (sqlite3_step(statement.get()) == SQLITE_ROW) {
         for (int column = 0; column < sqlite3_column_count(statement.get()); ++column) {

@@ -1,15 +1,15 @@
-// The least that exporting and importing can do, on the host platform's databases.
+// Lower bounds for exports and imports on the host platform's databases.
 #pragma once
 
 #include "store/records.h"
 
-// Reads every row of the reader database twice, as an export must, which writes the dump
-// first and then one note after the other: with one lock of the database for all.
+// Reads every row of the reader database twice, as an export must: for the dump and for the
+// notes. Locks the database once.
 void readRowsInOneGo();
 
-// The same as the library asks for them: each note on its own, when nobody knows which one
-// is the last, so that the database is locked and unlocked for each.
+// Reads the rows as the library does, with one query for each note, which locks the
+// database each time.
 void readRowsAsAsked();
 
-// Creates the reader database, and inserts the book's rows in one transaction.
+// Creates the reader database and inserts the book's rows in one transaction.
 void insertRows(const host::BookRecord& book);

@@ -1,5 +1,5 @@
-// The peak memory of one export on the host platform as a whole process, what it may be,
-// and that of an import of the document: peak_memory notes|predicate|comment|pictures SIZE
+// Prints the peak memory of a process that exports, its limit, and the peak of an import of
+// the document: peak_memory notes|predicate|comment|pictures SIZE
 #include <malloc.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
@@ -32,7 +32,7 @@ const std::map<std::string, Case> kCases = {
     {"comment", {bookOfComment}},
     {"pictures", {bookOfPictures}}};
 
-// In KiB, as the system reports it.
+// Returns the peak memory of the job in KiB, as the system reports it.
 long peakOf(const std::function<void()>& job) {
     const pid_t child = fork();
     if (child == 0) {
@@ -50,7 +50,7 @@ long peakOf(const std::function<void()>& job) {
 
 long kibibytes(std::size_t bytes) { return static_cast<long>(bytes / 1024); }
 
-// What all notes of the book take, held once.
+// Returns the memory of one copy of all notes of the book.
 std::size_t sizeOfNotes() {
     veloran::utilities::ReaderDbManager manager;
     std::deque<veloran::utilities::Note> notes;
@@ -62,7 +62,7 @@ std::size_t sizeOfNotes() {
     return held() - before;
 }
 
-// The longest text of a note, which the platform hands out as a copy.
+// Returns the size of the longest text of a note, because the platform returns a copy.
 std::size_t sizeOfLongestText() {
     veloran::utilities::ReaderDbManager manager;
     std::size_t longest = 0;
@@ -73,7 +73,8 @@ std::size_t sizeOfLongestText() {
     return longest;
 }
 
-// The payload, its Base64 text and the markup of one picture; all of them are as large.
+// Returns the size of the payload, its Base64 text and the markup of one picture, which has
+// the same size for all.
 std::size_t sizeOfDocumentParts() {
     const std::string document = contentOf(kDocument);
     const std::size_t base64 = document.find("</script>") - document.find("<script");
@@ -101,7 +102,7 @@ int main(int count, char** arguments) {
     const std::size_t size = std::stoul(arguments[2]);
     enterCollection(bookOfNotes, 1);
     const long bare = peakOf(exportBook);
-    peakOf([&] { enterCollection(chosen.makeBook, size); });  // what it takes is not ours
+    peakOf([&] { enterCollection(chosen.makeBook, size); });  // not measured
     enterCollection(chosen.makeBook, size);
     const long peak = peakOf(chosen.exportIt);
     const std::size_t parts =

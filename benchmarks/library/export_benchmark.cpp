@@ -1,4 +1,4 @@
-// The library's whole export from a device in memory.
+// Exports from a device in memory.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -48,7 +48,7 @@ double exportPictures(std::size_t count) {
     return exportDevice();
 }
 
-// The notes are fetched and rendered, which no export can leave out, and nothing else.
+// Returns the time to fetch and render the notes, without which no export is possible.
 double fetchAndRender(std::size_t count) {
     setNoteCount(count);
     return FreshFile().secondsOfWriting(

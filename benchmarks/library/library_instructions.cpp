@@ -1,4 +1,4 @@
-// Jobs of the library alone, and of its peers: library_instructions JOB NOTES
+// Runs a job of the library or of a peer: library_instructions JOB NOTES
 #include <cstdio>
 #include <cstdlib>
 #include <map>

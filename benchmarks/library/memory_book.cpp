@@ -5,10 +5,10 @@
 
 void setNoteCount(std::size_t count) {
     memory::StoredBook book{kBook, "Book", "Author", "/books/Book.epub", {}};
-    for (std::size_t place = 0; place < count; ++place) {
-        const SampleNote& note = sampleNotes()[place % sampleNotes().size()];
+    for (std::size_t index = 0; index < count; ++index) {
+        const SampleNote& note = sampleNotes()[index % sampleNotes().size()];
         book.notes.push_back(
-            {note.uuid, note.color, note.text, note.comment, "", samplePosition(place)});
+            {note.uuid, note.color, note.text, note.comment, "", samplePosition(index)});
     }
     memory::device() = {{std::move(book)}};
 }

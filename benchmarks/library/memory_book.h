@@ -1,4 +1,4 @@
-// The device in memory, with one book of the sample notes.
+// A device in memory with one book of sample notes.
 #pragma once
 
 #include <cstddef>
@@ -11,11 +11,11 @@ inline constexpr char kBook[] = "626f6f6b";
 
 using RecordedNotes = std::vector<veloran::utilities::Note>;
 
-// Gives the book that many notes. They are the device's only ones.
+// Sets the number of the book's notes, which are the only ones on the device.
 void setNoteCount(std::size_t count);
 
-// Gives the book one note, whose contents the caller may replace.
+// Sets one note, and returns it for changes.
 memory::StoredNote& onlyNote();
 
-// The book's notes as an export fetches them.
+// Returns the book's notes as an export fetches them.
 RecordedNotes fetchedNotes();

@@ -1,4 +1,4 @@
-// What is measured of rendering, by the clock and in instructions.
+// The rendering job, for measurements of time and of instructions.
 #pragma once
 
 #include <ostream>
@@ -7,7 +7,7 @@
 #include "export/notes_exporter_impl.h"
 #include "memory_book.h"
 
-// Writes the document of these notes that the peers write.
+// Writes the same document of these notes as the peers.
 inline void render(std::ostream& stream, const RecordedNotes& notes) {
     Writer writer(stream);
     writer.openElt("html").openElt("body");

@@ -1,5 +1,5 @@
-// Rendering notes, beside well-known libraries that write the same markup, and beside
-// writing the finished bytes at once.
+// Rendering of notes, compared with well-known libraries that write the same markup, and
+// with one write of the finished bytes.
 #include "rendering.h"
 
 #include <benchmark/benchmark.h>
@@ -68,7 +68,7 @@ void renderToFile(benchmark::State& state) {
     writeAnew(state, [&](const char* path) { render(path, notes); });
 }
 
-// What wrote something else would prove nothing; the peers differ in line ends only.
+// Fails if a peer writes another document, apart from line ends.
 void check(benchmark::State& state, const Peer& peer, const RecordedNotes& notes) {
     const std::size_t ours = rendered(notes).size(), theirs = peer.toMemory(notes);
     if (theirs < ours * 95 / 100 || theirs > ours * 115 / 100) {

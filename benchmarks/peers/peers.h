@@ -7,8 +7,8 @@
 
 namespace peers {
 
-// A way to write a document of the notes, in memory and into a file. The size in memory is
-// returned.
+// A library that writes a document of the notes, in memory (returning its size) and into a
+// file.
 struct Peer {
     const char* name;
     std::size_t (*toMemory)(const RecordedNotes& notes);

@@ -1,4 +1,4 @@
-// Programs that do one job, for callgrind to count its instructions and nothing else.
+// Limits the count of callgrind to one job.
 #pragma once
 
 #include <valgrind/callgrind.h>

@@ -1,4 +1,4 @@
-// A file that each round of a benchmark writes anew.
+// A file that each round of a benchmark creates.
 #pragma once
 
 #include <unistd.h>
@@ -19,14 +19,14 @@ public:
 
     const char* path() const { return path_.c_str(); }
 
-    // A file that is missing would have been written fast.
+    // Throws if the file is missing, because writing none is fast.
     void remove() const {
         if (!std::filesystem::remove(path_)) {
             throw std::runtime_error("no file was written");
         }
     }
 
-    // The seconds that `write(path)` takes; the file is removed afterwards.
+    // Returns the seconds that `write(path)` takes, and removes the file.
     template <class Write>
     double secondsOfWriting(Write write) const {
         const double seconds = secondsOf([&] { write(path()); });

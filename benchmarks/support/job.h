@@ -1,4 +1,4 @@
-// Jobs of a size, timed and compared.
+// Measurement and comparison of jobs.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -11,11 +11,11 @@
 #include <functional>
 #include <vector>
 
-// The seconds that one round takes; what comes before and after it is not counted.
+// Returns the seconds of one round, without preparation and clean-up.
 using Job = double (*)(std::size_t size);
 
-// Memory that is freed stays with the process. Otherwise the time depends on how long the
-// system takes to clear pages, more than on the job.
+// Keeps freed memory in the process. Otherwise the time depends mostly on how fast the
+// system clears pages.
 inline const bool memoryStays =
     mallopt(M_MMAP_MAX, 0) == 1 && mallopt(M_TRIM_THRESHOLD, INT_MAX) == 1;
 
@@ -32,8 +32,8 @@ inline void timed(benchmark::State& state, Job job) {
     }
 }
 
-// Reports as "ratio" how many times as long as `base` the other takes. They run by turns,
-// so that another load of the machine slows both down alike.
+// Reports the time of `other` divided by that of `base` as "ratio". They run alternately,
+// so that other load slows both down equally.
 inline void compareByTurns(benchmark::State& state, const std::function<double()>& base,
                            const std::function<double()>& other) {
     std::vector<double> ratios;
@@ -48,14 +48,14 @@ inline void compareByTurns(benchmark::State& state, const std::function<double()
     state.counters["ratio"] = *middle;
 }
 
-// At one size.
+// Compares two jobs of one size.
 inline void ratio(benchmark::State& state, Job job, Job base) {
     const auto size = static_cast<std::size_t>(state.range(0));
     compareByTurns(
         state, [&] { return base(size); }, [&] { return job(size); });
 }
 
-// One job at two sizes. Both find the memory that the large one needs.
+// Compares one job at two sizes. The large one runs first, so that both find enough memory.
 inline void growth(benchmark::State& state, Job job) {
     const auto small = static_cast<std::size_t>(state.range(0));
     const auto large = static_cast<std::size_t>(state.range(1));

@@ -31,12 +31,12 @@ const std::vector<SampleNote>& sampleNotes() {
     return notes;
 }
 
-std::string sampleText(std::size_t place) {
+std::string sampleText(std::size_t index) {
     static const std::vector<std::string> words = [] {
         std::istringstream text(std::string(kText) + ' ' + kComment);
         return std::vector<std::string>(std::istream_iterator<std::string>(text), {});
     }();
-    std::minstd_rand random(static_cast<unsigned>(place + 1));  // NOLINT: always the same
+    std::minstd_rand random(static_cast<unsigned>(index + 1));  // NOLINT: a fixed seed
     std::string text;
     while (text.size() < 300) {
         text += words[random() % words.size()] + std::to_string(random() % 2) + ' ';
@@ -44,13 +44,13 @@ std::string sampleText(std::size_t place) {
     return text;
 }
 
-std::string samplePosition(std::size_t place) {
-    const std::size_t page = place % 10 == 0 ? place * 7919 % 1000 : place / 3;
+std::string samplePosition(std::size_t index) {
+    const std::size_t page = index % 10 == 0 ? index * 7919 % 1000 : index / 3;
     return "book://position?chapter=4&page=" + std::to_string(page) + ".25&offset=117";
 }
 
 std::string samplePicture(std::size_t bytes) {
-    std::minstd_rand random;  // NOLINT: the same picture each time
+    std::minstd_rand random;  // NOLINT: a fixed seed
     std::string picture(bytes, '\0');
     for (char& byte : picture) {
         byte = static_cast<char>(random() >> 8);

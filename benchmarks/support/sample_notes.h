@@ -1,4 +1,4 @@
-// The notes that every benchmark works on.
+// The notes of every benchmark.
 #pragma once
 
 #include <cstddef>
@@ -14,21 +14,22 @@ struct SampleNote {
     std::string picture = {};
 };
 
-// A few notes, which a book of any size repeats: 300 bytes of mixed text with six markup
-// characters, every second one with a comment. Rendered they take 560 bytes each. They are
-// few so that they stay in the processor's cache: fetching notes is the platform's work.
+// Returns a few notes, which a book of any size repeats: 300 bytes of mixed text with six
+// markup characters, every second one with a comment. Rendered they take 560 bytes each.
+// They are few so that they stay in the processor's cache, because fetching notes is the
+// platform's work.
 const std::vector<SampleNote>& sampleNotes();
 
-// A text of about 300 bytes that is another one for each place, in a hundred words: what is
-// to be compressed must not repeat itself more than notes do.
-std::string sampleText(std::size_t place);
+// Returns a text of about 300 bytes that differs for each index, so that a dump compresses
+// no better than one of real notes.
+std::string sampleText(std::size_t index);
 
-// The position of the note with this place in the book, as a URI that names its page. The
-// notes were made in page order, but for every tenth.
-std::string samplePosition(std::size_t place);
+// Returns the position of the note with this index in the book, as a URI that names its
+// page. The notes are in page order, except every tenth.
+std::string samplePosition(std::size_t index);
 
-// `bytes` of noise, as pictures are.
+// Returns `bytes` random bytes, which do not compress, like a picture.
 std::string samplePicture(std::size_t bytes);
 
-// A comment of `bytes` bytes, every tenth of them a line break.
+// Returns a comment of `bytes` bytes, a tenth of them line breaks.
 std::string sampleLongComment(std::size_t bytes);

@@ -9,7 +9,7 @@ set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR arm)
 set(CMAKE_C_COMPILER arm-linux-gnueabihf-gcc)
 set(CMAKE_CXX_COMPILER arm-linux-gnueabihf-g++)
-# Without notes on what older compilers would do otherwise.
+# Without notes about the ABI of older compilers.
 set(CMAKE_CXX_FLAGS_INIT -Wno-psabi)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L "${sysroot}")
 
