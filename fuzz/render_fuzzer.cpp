@@ -152,7 +152,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto records =
         fuzz::fieldsOf({reinterpret_cast<const char*>(data), size}, '\x1e');
     const auto head = fuzz::fieldsOf(records[0], '\x1f', 4);
-    // A longer title would name no file.
+    // A longer title would not be a valid file name.
     const Device device = {
         {head[0].substr(0, 200), head[1]}, head[2], head[3], notesOf(records)};
     const std::string document = fuzz::canonical(fuzz::legal(exported(device)));

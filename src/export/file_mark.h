@@ -1,4 +1,4 @@
-// The mark that the device's library database keeps for every exported and imported file.
+// The mark of exported and imported files in the device's library database.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// The members of the note record that the device's library leaves to its users.
+// The members of Note that the seam leaves to the library.
 #include <type_traits>
 
 #include "utilities/note.h"

@@ -1,4 +1,4 @@
-// One pass over text that puts markup in place of some of its bytes.
+// Replaces bytes of a text by markup, in one pass.
 #pragma once
 
 #include <cstddef>

@@ -32,7 +32,7 @@ public:
     // Writes content with the replacements of `rewriting`.
     Writer& writeRewritten(const char* text, const markup::Rewriting& rewriting);
 
-    // Ends the innermost element; does nothing when none is open.
+    // Ends the innermost element; does nothing if none is open.
     Writer& closeElt();
 
     // Returns the number of open elements.

@@ -30,7 +30,7 @@ export async function checkContent(page, book, report) {
         report(`shown: ${JSON.stringify(shown[part])}\n    noted: ${JSON.stringify(noted[part])}`);
     }
     const foreign = elements.filter((element) => !allowedElements.has(element));
-    if (foreign.length > 0) report(`it holds foreign elements: ${foreign}`);
+    if (foreign.length > 0) report(`it has unknown elements: ${foreign}`);
     if (await page.evaluate(facts.showsDump)) report('it shows its dump');
 }
 

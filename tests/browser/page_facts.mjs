@@ -56,7 +56,7 @@ export function misplaced(type) {
         const rects = (element.localName === 'img' ? element : range).getClientRects();
         return [...rects].filter((rect) => rect.width > 0).map((rect) => ({ element, rect }));
     });
-    // A line's box is taller than its letters.
+    // Lines may overlap slightly, because their boxes are taller than the letters.
     const overlap = ({ element: e, rect: a }, { element: f, rect: b }) => e !== f &&
         Math.min(a.right, b.right) - Math.max(a.left, b.left) > 1 &&
         Math.min(a.bottom, b.bottom) - Math.max(a.top, b.top) > 0.3 * Math.min(a.height, b.height);
@@ -64,7 +64,7 @@ export function misplaced(type) {
         const { element: { className, textContent }, rect } = box;
         const report = (problem) => problems.push(`${className} "${textContent}" ${problem}`);
         if (rect.left < -1 || rect.right > width + 1) report('leaves the page');
-        if (boxes.slice(index + 1).some((other) => overlap(box, other))) report('lies on something');
+        if (boxes.slice(index + 1).some((other) => overlap(box, other))) report('overlaps another element');
         if (parseFloat(getComputedStyle(box.element).fontSize) * scale < 0.75 * type) report('is tiny');
     });
     for (const element of document.querySelectorAll('body *')) {

@@ -1,4 +1,4 @@
-// The seam's promises that a platform keeps by answering. Nothing here knows which it is.
+// The part of the seam's contract that every platform implements.
 #include <cstdlib>
 #include <filesystem>
 
@@ -67,7 +67,7 @@ TEST_F(SeamContract, LibraryDatabaseFindsBooksByUid) {
     EXPECT_EQ(author, "Frank Herbert");
     EXPECT_EQ(library->GetBookLocalFilePath(id), "Books/dune.epub");
 
-    EXPECT_LT(library->GetBookIdByUid(1, kHash), 0) << "the text is not the uid";
+    EXPECT_LT(library->GetBookIdByUid(1, kHash), 0) << "hexadecimal text is not the uid";
     EXPECT_LT(library->GetBookIdByUid(2, SerializationUtils::FromHex(kHash)), 0);
     std::string none, nobody;
     library->GetBookTitleAndAuthor(kUnknown, &none, &nobody);
@@ -80,7 +80,7 @@ TEST_F(SeamContract, AnyKindOfFileExists) {
     std::filesystem::create_symlink("nowhere", "dangling");
     EXPECT_TRUE(IsFileExist("file") && IsFileExist(".") && IsFileExist("dangling"));
     ASSERT_EQ(std::system("touch -d 2040-01-01 file"), 0);
-    EXPECT_TRUE(IsFileExist("file")) << "although its time takes more than 32 bits";
+    EXPECT_TRUE(IsFileExist("file")) << "its time does not fit into 32 bits";
     EXPECT_FALSE(IsFileExist("") || IsFileExist("missing") || IsFileExist("file/below"));
     EXPECT_FALSE(IsFileExist(std::string(10000, 'x')) || IsFileExist({"file\0x", 6}));
 }

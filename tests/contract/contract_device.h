@@ -1,5 +1,5 @@
-// What the contract suite needs of a platform beyond the seam: to see its device's content.
-// Every platform that runs the suite implements these functions.
+// Access to a platform's device for the contract suite. Every platform that runs the suite
+// implements these functions.
 #pragma once
 
 #include <optional>
@@ -23,17 +23,17 @@ struct ContractBook {
     std::vector<ContractNote> notes;
 };
 
-// Makes the working directory, which is empty, an empty device.
+// Creates an empty device in the working directory, which is empty.
 void startEmptyDevice();
 
-// Puts the book and its notes, in the order given, into both databases of the device.
+// Adds the book and its notes, in this order, to both databases of the device.
 void putOnDevice(const ContractBook& book);
 
-// A position in a book that names the page.
+// Returns the URI of a position on the page.
 std::string uriOfPage(double page);
 
-// The path that the platform's reader database has.
+// Returns the path of the platform's reader database.
 std::string readerDatabasePath();
 
-// A property of a file in the library database.
+// Returns a property of a file in the library database.
 std::optional<std::string> filePropOnDevice(const std::string& hash, int prop);

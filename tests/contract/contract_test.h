@@ -1,4 +1,4 @@
-// A device with two books, to hold a platform's promises against.
+// A device with two books, for the contract tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ inline const std::string kHash = "00ff7a";  // of the book that has notes
 inline const std::string kAnyBytes("\0\xff\xd8 \x80'\"", 7);
 constexpr int kUnknown = 987654;
 
-// The notes of the book kHash.
+// Returns the notes of the book kHash.
 inline std::vector<Note> notesOnDevice() {
     ReaderDbManager manager;
     std::vector<Note> notes;

@@ -7,7 +7,7 @@
 #include "store/reader_store.h"
 #include "utilities/serialization_utils.h"
 
-// Databases come into being where they are looked for.
+// Nothing to do: databases are created when they are opened.
 void startEmptyDevice() {}
 
 void putOnDevice(const ContractBook& book) {

@@ -1,5 +1,4 @@
-// The seam's promises that only a platform with databases of its own can keep. Nothing here
-// knows which it is.
+// The part of the seam's contract that only platforms with databases implement.
 #include <algorithm>
 #include <set>
 #include <thread>
@@ -23,11 +22,11 @@ std::string hashOf(const std::string& path, int size = 256) {
     return buffer.substr(0, static_cast<std::size_t>(std::max(length, 0)));
 }
 
-// The texts of the book's notes on a device that has nothing but the payload.
+// Returns the texts of the book's notes on an empty device after an import of the payload.
 std::set<std::string> textsAfterImporting(const std::string& payload) {
     const ScratchDirectory elsewhere;
     EXPECT_GE(imported(documentOf(payload)), 0);
-    EXPECT_EQ(ReaderDbManager().getItemId("aa"), -1) << "a book that was not exported";
+    EXPECT_EQ(ReaderDbManager().getItemId("aa"), -1) << "this book was not exported";
     std::set<std::string> texts;
     for (const Note& note : notesOnDevice()) {
         texts.insert(note.getText());
@@ -52,7 +51,7 @@ TEST_F(SeamContract, ReplacedDatabaseFileIsNoticed) {
     {
         const ScratchDirectory elsewhere;
         startEmptyDevice();
-        putOnDevice({"bb", "New", "", "", {}});  // at the place of another book, perhaps
+        putOnDevice({"bb", "New", "", "", {}});  // may get the identifier of another book
         putOnDevice({kHash, "Dune", "", "", {{"uuid-c", "", "new", "", "", uriOfPage(1)}}});
         std::filesystem::rename(readerDatabasePath(), before / readerDatabasePath());
     }

@@ -1,4 +1,4 @@
-// Several exporters at once, in processes and in threads.
+// Concurrent exporters, in processes and in threads.
 #include <pthread.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -31,7 +31,7 @@ std::string otherDocument() {
     return documentOf(exported());
 }
 
-// Some C libraries give a thread no more; instrumented code needs more itself.
+// The default of some C libraries; instrumented code needs more.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr std::size_t kSmallStack = 1024 << 10;
 #else

@@ -1,4 +1,5 @@
-// An import that is killed, or finds the disk full, amid each of SQLite's changes to files.
+// An import that is killed, or that fills the disk, during each of SQLite's changes to
+// files.
 #include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,8 +13,8 @@
 
 namespace {
 
-int changesLeft = 0;  // up to the one that is interrupted
-bool kills = false;   // else the disk is full
+int changesLeft = 0;  // until the one that is interrupted
+bool kills = false;   // otherwise the disk is full
 
 ssize_t writeHalf(int file, const void* bytes, size_t size, off64_t offset) {
     if (--changesLeft > 0) {
@@ -51,10 +52,11 @@ protected:
         kills = GetParam();
     }
 
-    // Whether the `nth` change to a file, which fails, ended the import.
+    // Returns whether the import ended because its `nth` change to a file failed.
     bool endsAtChange(int nth) { return kills ? diesAt(nth) : isRefusedAt(nth); }
 
-    // Whether the database, which must be sound, holds all of the import rather than none.
+    // Checks the database, and returns whether it has all of the import; otherwise it must
+    // have none.
     bool isImported() const {
         host::Connection database(host::kReaderDatabasePath, {1, ""});
         host::Query check = database.query("PRAGMA integrity_check");
@@ -99,11 +101,11 @@ TEST_P(InterruptedImport, ChangesAllOrNothing) {
         SCOPED_TRACE("change " + std::to_string(nth));
         whole += isImported() ? 1 : 0;
         EXPECT_GE(exporter_.importFile(kDocument), 0) << "the next import";
-        EXPECT_TRUE(isImported()) << "by the next import";
+        EXPECT_TRUE(isImported()) << "after the next import";
         restore();
     }
     EXPECT_GT(nth, 50);
-    EXPECT_EQ(whole > 0, kills) << "a refused import changed the database";
+    EXPECT_EQ(whole > 0, kills) << "only a killed import may be complete";
     EXPECT_LT(whole, nth - 1);
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr long kNever = LONG_MAX;
 
-std::atomic<long> left{kNever};  // allocations up to the one that fails
+std::atomic<long> left{kNever};  // allocations until the one that fails
 bool failsOn = false;
 Failed first = Failed::kNothing;
 
@@ -63,7 +63,7 @@ const bool intercepted = interceptLibraries();  // before either is used
 
 void failAllocation(long nth, Shortage shortage) {
     if (!intercepted) {
-        throw std::logic_error("the libraries allocate by other means");
+        throw std::logic_error("cannot intercept allocations of the libraries");
     }
     failsOn = shortage == Shortage::kFromThenOn;
     first = Failed::kNothing;

@@ -1,12 +1,12 @@
-// The allocations of this process, by `new`, SQLite and libxml2, failed at will.
+// Failures of the allocations of `new`, SQLite and libxml2 in this process.
 #pragma once
 
 enum class Shortage { kOnce, kFromThenOn };
 
-// Lets the `nth` allocation from here on fail, and with kFromThenOn all that follow it.
+// Makes the `nth` allocation from now on fail, and with kFromThenOn all later ones.
 void failAllocation(long nth, Shortage shortage);
 
 enum class Failed { kNothing, kNew, kOther };
 
-// Lets allocations succeed again. Tells which one failed first.
+// Makes allocations succeed again. Returns which kind failed first.
 Failed endShortage();

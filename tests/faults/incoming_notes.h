@@ -1,4 +1,4 @@
-// A device whose book has notes, and an exported document that brings newer and more ones.
+// A device with notes, and an exported document with newer and more ones.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 #include "host_records.h"
 #include "on_empty_device.h"
 
-// The book b00c with notes of those numbers; each text begins with the timestamp.
+// Returns the book b00c with notes of these numbers; each text starts with the timestamp.
 inline host::BookRecord bookOf(int first, int last, std::int64_t timestamp,
                                std::size_t textSize) {
     host::BookRecord book{"b00c", "Book", "", {}};
@@ -27,8 +27,8 @@ protected:
     static constexpr char kBook[] = "b00c";
     static constexpr char kDocument[] = "incoming.html";
 
-    // As many notes on the device as in the document, half of them the same ones, each with
-    // a text of `textSize` bytes.
+    // Creates `notes` notes on the device and as many in the document, half of them the
+    // same. Each has a text of `textSize` bytes.
     void prepare(int notes, std::size_t textSize) {
         const host::BookRecord there = bookOf(0, notes, 1, textSize);
         std::string document;
@@ -46,12 +46,12 @@ protected:
         std::filesystem::copy("mnt", "saved", std::filesystem::copy_options::recursive);
     }
 
-    // Puts the device back as it was.
+    // Restores the device after prepare().
     static void restore() {
         std::filesystem::remove_all("mnt");
         std::filesystem::copy("saved", "mnt", std::filesystem::copy_options::recursive);
     }
 
     std::string before_;  // the device's records
-    std::string after_;   // its records once the document is imported
+    std::string after_;   // its records after an import of the document
 };

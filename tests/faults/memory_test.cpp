@@ -1,4 +1,4 @@
-// Every allocation of an export and of an import fails in turn.
+// Exports and imports in which each allocation fails once.
 #include <new>
 
 #include "dump/import_result.h"
@@ -12,11 +12,11 @@ class OutOfMemory : public IncomingNotes, public testing::WithParamInterface<Sho
 protected:
     OutOfMemory() { prepare(4, 10); }
 
-    // Runs `call` with the first, the second, … allocation failing, until none does. Then
-    // `check` is told whether it went through.
+    // Calls `call` with the first, the second, … allocation failing, until none fails.
+    // After each, calls `check` with true if no exception was thrown.
     template <class Call, class Check>
     void failEveryAllocation(Call call, Check check) {
-        call();  // what stays for the life of the process is there from now on
+        call();  // allocates what the process keeps
         long nth = 0;
         for (Failed failed = Failed::kOther; failed != Failed::kNothing;) {
             restore();
@@ -28,7 +28,7 @@ protected:
                 arrived = true;
             }
             failed = endShortage();
-            // The libraries do without some allocations that fail.
+            // The libraries tolerate some failed allocations.
             EXPECT_TRUE(arrived ? failed != Failed::kNothing : failed != Failed::kNew)
                 << "allocation " << nth;
             check(!arrived);
@@ -53,7 +53,7 @@ TEST_P(OutOfMemory, FailedExportLeavesUnmarkedPrefix) {
         EXPECT_TRUE(document == (wentThrough ? whole : whole.substr(0, document.size())));
         EXPECT_TRUE(databaseBytes() == readerDatabase);
         EXPECT_EQ(readFile(host::kLibraryDatabasePath) != libraryDatabase, wentThrough)
-            << "only a whole document is marked";
+            << "only a complete document is marked";
     });
 }
 
@@ -66,7 +66,7 @@ TEST_P(OutOfMemory, ImportTakesEveryRecordOrNone) {
         const std::string records = recordsOnDevice();
         const bool imported = records == after_;
         EXPECT_TRUE(imported || records == before_);
-        // Once the notes are in, failures only keep the file from being marked.
+        // After the notes are stored, a failure only prevents the mark of the file.
         EXPECT_TRUE(!wentThrough || result == (imported ? 4 : host::kDatabaseError))
             << result;
     });

@@ -1,4 +1,4 @@
-// The dump: what goes in comes out, and the same records are the same bytes.
+// The dump: it restores all records, and equal records give equal bytes.
 #include <zlib.h>
 
 #include <algorithm>
@@ -62,7 +62,7 @@ TEST_F(Dump, IsOneGzipMemberOfJson) {
 
 TEST_F(Dump, CarriesMegabytesOfPictures) {
     std::mt19937 random;
-    std::string picture(1 << 20, '\0');  // of bytes that do not compress
+    std::string picture(1 << 20, '\0');  // bytes that do not compress
     std::generate(picture.begin(), picture.end(),
                   [&] { return static_cast<char>(random() >> 24); });
     host::BookRecord book{"ab", "", "", {}};

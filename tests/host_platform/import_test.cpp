@@ -1,5 +1,4 @@
-// Documents such as the corpus of the fuzz target has no room for, and a reader database
-// that fails.
+// Imports of documents too large for the fuzz corpus, and failures of the reader database.
 #include <libxml/xmlerror.h>
 #include <sys/stat.h>
 
@@ -34,7 +33,7 @@ std::string failureOfReading() {
     }
 }
 
-// At least `size` bytes, with a number that grows in place of each '#'.
+// Returns at least `size` bytes of repeated units; an increasing number replaces each '#'.
 std::string repeated(const std::string& unit, std::size_t size) {
     std::string text;
     for (int number = 0; text.size() < size; ++number) {
@@ -68,7 +67,7 @@ TEST_F(ImportedDocument, ExternalEntitiesAreNotFetched) {
 }
 
 TEST_F(ImportedDocument, IsReadInLinearTime) {
-    // '#' stands for a number that grows. The first document is the measure.
+    // An increasing number replaces each '#'. The first document sets the time.
     const struct {
         const char *start, *unit, *refusal;
     } shapes[] = {
@@ -109,7 +108,7 @@ TEST_F(ImportedDocument, InvalidBytesPrintNothing) {
     xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
 
-// Numbers in groups, and files of other bytes than they hold.
+// Facets of a locale that groups digits and changes the bytes of files.
 struct GroupedDigits : std::numpunct<char> {
     std::string do_grouping() const override { return "\1"; }
 };
@@ -203,7 +202,7 @@ TEST_F(Store, FailuresNameFileAndCause) {
     EXPECT_THROW(store.merge({{"aa", "", "", {}}, {"ab", "", "", {{"", {}}}}}),
                  std::runtime_error);
     EXPECT_EQ(recordsOnDevice(), "");
-    EXPECT_EQ(store.merge(sampleBooks()), 4) << "another merge goes as ever";
+    EXPECT_EQ(store.merge(sampleBooks()), 4) << "a later merge succeeds";
     const std::string document = documentOf(exported());
     Engine engine;
     ASSERT_EQ(mkfifo("fifo", 0600), 0);
@@ -254,16 +253,16 @@ TEST_F(Store, PrefetchedNoteIsReturnedOnce) {
     mergeTexts('a', 1);
     ReaderDbManager manager;
     const auto keys = manager.getBookNotesHashUUIDs("ab", true);
-    const auto note = [&](std::size_t place) {
-        const Note found = manager.getNote(keys.at(place).first);
+    const auto note = [&](std::size_t index) {
+        const Note found = manager.getNote(keys.at(index).first);
         return found.uuid() + found.getText().substr(0, 1);
     };
     EXPECT_EQ(note(0) + note(1), "10a11a");
     mergeTexts('b', 2);
-    EXPECT_EQ(note(0) + note(29), "10b39b") << "asked again, and before their turn";
+    EXPECT_EQ(note(0) + note(29), "10b39b") << "requested again, and out of order";
     EXPECT_EQ(note(2).substr(0, 2) + note(28), "1238b");
     manager.getBookNotesHashUUIDs("ab", true);
-    for (std::size_t place = 0; place < keys.size(); ++place) {
-        EXPECT_EQ(note(place), std::to_string(10 + place) + "b");
+    for (std::size_t index = 0; index < keys.size(); ++index) {
+        EXPECT_EQ(note(index), std::to_string(10 + index) + "b");
     }
 }

@@ -13,8 +13,8 @@ struct ReaderBook {
     std::string path;
 };
 
-// What the two databases hold, and the title that this gives. The author is always the one
-// of the library database.
+// The content of the two databases, and the resulting title. The author is always that of
+// the library database.
 struct Lookup {
     const char* name;
     long long libraryId;  // negative if the library database does not know the book

@@ -19,8 +19,8 @@ constexpr long long kItem = 42;               // its item identifier
 constexpr long long kLibraryId = 7;
 inline const std::string kFile = "Notes/Dune  Sons.html";  // its first export
 
-// Each test works in a scratch directory of its own, with relative paths and a fresh
-// script, and leaves no connection and no database open.
+// Each test has its own scratch directory and script, uses relative paths, and must close
+// all connections and databases.
 class DeviceTest : public testing::Test {
 protected:
     DeviceTest() { script() = {}; }
@@ -30,8 +30,8 @@ private:
     ScratchDirectory scratch_;
 };
 
-// Puts the sample book, whose export is golden/full_export.html, on the device: four notes
-// with identifiers 11 to 14, a style sheet and a payload.
+// Adds the sample book, whose export is golden/full_export.html: four notes with
+// identifiers 11 to 14, a style sheet and a payload.
 inline void loadSampleBook() {
     script().bookIdsByUid[kUid] = kLibraryId;
     script().booksOfLibrary[kLibraryId] = {"Dune & \"Sons\"", "Frank <Herbert>"};
@@ -68,8 +68,9 @@ inline bool startsWith(const std::string& text, const std::string& start) {
     return text.compare(0, start.size(), start) == 0;
 }
 
-// The identifiers of the notes that were rendered, in order.
 using Ids = std::vector<unsigned long long>;
+
+// Returns the identifiers of the rendered notes, in order.
 inline Ids renderedIds() {
     Ids ids;
     for (const std::string& call : script().calls) {
@@ -80,7 +81,7 @@ inline Ids renderedIds() {
     return ids;
 }
 
-// One line each.
+// Returns the calls, one line each.
 inline std::string joined(const Calls& lines) {
     std::string text;
     for (const std::string& line : lines) {

@@ -46,7 +46,7 @@ struct GroupedDigits : std::numpunct<char> {
     std::string do_grouping() const override { return "\1"; }
 };
 
-// What a global locale may do to the bytes of every file.
+// A conversion of bytes, as a global locale may add to every file.
 struct ConvertedBytes : std::codecvt<char, char, std::mbstate_t> {
     bool do_always_noconv() const noexcept override { return false; }
     result do_out(std::mbstate_t& /*state*/, const char* from, const char* fromEnd,
@@ -80,18 +80,18 @@ TEST_F(ExportedDocument, IsTheSameInEveryLocale) {
               golden("full_export.html"));
 }
 
-// Returns the text without what begins at `from` and goes on to the end of `to`.
+// Returns the text without the part from `from` to the end of `to`.
 std::string without(std::string text, const std::string& from, const std::string& to) {
     const std::size_t start = text.find(from);
     return text.erase(start, text.find(to, start) + to.size() - start);
 }
 
-TEST_F(ExportedDocument, LeavesOutWhatIsMissing) {
+TEST_F(ExportedDocument, OmitsMissingParts) {
     const std::string author = "\n    <div class=\"bookmark bm-color-note\">\n      <span>";
     const struct {
         const char* name;
         void (*remove)();
-        std::string from, to;  // the ends of what is left out
+        std::string from, to;  // the ends of the omitted part
     } rows[] = {
         {"author", [] { script().booksOfLibrary[kLibraryId].author = ""; }, author,
          "</div>"},
@@ -166,7 +166,7 @@ TEST_F(ExportedDocument, DumpTypePrecedesHashLookup) {
 
 constexpr char kPath[] = NOTES_EXPORT_DEVICE_ROOT "/system/reader/notes.css";
 
-// The content of the exported document's style element.
+// Returns the content of the document's style element.
 std::string exportedStyle() {
     std::filesystem::remove_all("Notes");
     EXPECT_EQ(Exporter().exportAll(), 0);

@@ -6,10 +6,11 @@
 
 namespace {
 
-// With exceptions of the standard kind, or of none.
+// Runs with std::runtime_error and with an exception outside std::exception.
 class PlatformExceptions : public DeviceTest, public testing::WithParamInterface<bool> {
 protected:
-    // Runs `call`, in which the `n`th platform call fails, and tells whether that arrives.
+    // Calls `call`, in which the `n`th platform call throws; returns whether the exception
+    // was passed on.
     template <class Call>
     bool fails(int n, Call call) {
         made_ = 0;
@@ -28,12 +29,12 @@ protected:
             EXPECT_FALSE(GetParam());
         }
         script().onCall = nullptr;
-        EXPECT_LE(made_, n) << "calls went on";
+        EXPECT_LE(made_, n) << "no calls after the failure";
         return failed;
     }
 
-    // Lets the first, the second, … platform call in `call` fail, until none does. Each
-    // time, `check` receives whether one did.
+    // Calls `call` with the first, the second, … platform call throwing, until none throws.
+    // After each, calls `check` with true if one threw.
     template <class Call, class Check>
     void failEveryCall(Call call, Check check) {
         bool failed = true;
@@ -50,14 +51,14 @@ protected:
     int made_ = 0;  // platform calls
 };
 
-// Orders the sample book's notes as their pages do. Each answer counts as a platform call.
+// Orders the sample book's notes by page. Each comparison counts as a platform call.
 bool recordedOrder(void* /*userData*/, long long a, long long b) {
     scripted::recordCall("before");
     return a % 12 < b % 12;
 }
 
-// Loads the sample book, with its title in the reader database, so that every lookup is
-// made.
+// Loads the sample book with its title in the reader database, so that all lookups are
+// called.
 void loadBookOfReader() {
     loadSampleBook();
     veloran::utilities::Book book;

@@ -35,7 +35,7 @@ TEST_F(ExportedFile, HashBeyondBufferIsIgnored) {
 
 TEST_F(ExportedFile, IsOpenedBeforeTitleLookup) {
     loadSampleBook();
-    Calls before;  // that come while there is no file
+    Calls before;  // before the file exists
     script().onCall = [&](const std::string& call) {
         if (!std::filesystem::exists(kFile)) {
             before.push_back(call);

@@ -1,4 +1,4 @@
-// What callers of either interface get, and what the platform is asked for it.
+// The results of both interfaces, and their calls of the platform.
 #include <algorithm>
 
 #include "c_exporter.h"
@@ -17,7 +17,7 @@ TEST_F(CallOrder, MatchesGoldenFile) {
         exporter.export_bookmarks_to_html(kBook, {}, nullptr);
         exporter.import_from_file(kFile);
     }
-    // How often in a row a note is asked the same thing is nobody's business.
+    // Repeated calls of one getter are not part of the contract.
     Calls& calls = script().calls;
     const auto repeats = [](const auto& a, const auto& b) {
         return a == b && startsWith(a, "Note(");
@@ -51,7 +51,7 @@ TEST_F(CInterface, NullArrayExportsEveryNote) {
     const CExporter exporter(kBook, "./x//y/");
     const CExporter other(kBook, "other");
     EXPECT_EQ(exporter.fileName(), "./x//y//Dune  Sons.html");
-    EXPECT_FALSE(std::filesystem::exists("x")) << "a query creates nothing";
+    EXPECT_FALSE(std::filesystem::exists("x")) << "a query creates no file";
     EXPECT_EQ(exporter.exportNotes(), 0);
     EXPECT_EQ(withoutDates(readFile("x/y/Dune  Sons.html")), golden("full_export.html"));
     EXPECT_EQ(exporter.fileName(), "./x//y//Dune  Sons (1).html");
@@ -76,7 +76,7 @@ TEST_F(CInterface, FreeingNullDoesNothing) {
     EXPECT_TRUE(script().calls.empty()) << joined(script().calls);
 }
 
-TEST_F(CInterface, NullImportPathReachesNoEngine) {
+TEST_F(CInterface, NullImportPathSkipsEngine) {
     const CExporter exporter(kBook, "Notes");
     script().calls.clear();
     EXPECT_EQ(exporter.importFile(nullptr), -1);

@@ -27,7 +27,7 @@ Ids ascendingIds(std::size_t count) {
     return ids;
 }
 
-// Makes a book of notes without pages.
+// Adds a book of notes without pages.
 void loadIds(const Ids& ids) {
     script() = {};
     for (const unsigned long long id : ids) {
@@ -35,7 +35,7 @@ void loadIds(const Ids& ids) {
     }
 }
 
-// A book of notes 1, 2, 3 … on those pages.
+// Adds a book of notes 1, 2, 3 … on these pages.
 void loadPages(const std::vector<int>& pages) {
     script() = {};
     unsigned long long id = 0;
@@ -44,7 +44,7 @@ void loadPages(const std::vector<int>& pages) {
     }
 }
 
-// The identifiers of the notes that are rendered, in order.
+// Returns the identifiers of the rendered notes, in order.
 Ids exportedIds(const std::set<unsigned long long>& selected, const Before& before) {
     script().itemIds[kBook] = kItem;
     EXPECT_EQ(Exporter().export_bookmarks_to_html(kBook, selected, before), 0);
@@ -107,13 +107,13 @@ TEST_F(Predicate, IsCopiedBeforeItIsCalled) {
         return a == b ? asked : a > b;
     };
     EXPECT_EQ(exportedIds({}, before), (Ids{5, 4, 3, 2, 1}));
-    EXPECT_FALSE(before(1, 1)) << "the caller's own was asked";
+    EXPECT_FALSE(before(1, 1)) << "the caller's own was called";
 }
 
-TEST_F(Predicate, InconsistentAnswersWriteEveryNoteOnce) {
+TEST_F(Predicate, InconsistentResultsWriteEveryNoteOnce) {
     const Before predicates[] = {
         [](auto, auto) { return true; },
-        [](auto a, auto b) { return (b - a + 3) % 3 == 1; },  // a circle of three
+        [](auto a, auto b) { return (b - a + 3) % 3 == 1; },  // cyclic
         [answer = false](auto, auto) mutable { return answer = !answer; },
         [random = std::mt19937(1)](auto, auto) mutable { return random() % 2 == 0; },
     };
@@ -121,7 +121,7 @@ TEST_F(Predicate, InconsistentAnswersWriteEveryNoteOnce) {
         SCOPED_TRACE(size);
         loadPages(std::vector<int>(size, kNoPage));
         const auto neverBefore = [](auto a, auto b) {
-            EXPECT_NE(a, b) << "one note needs no order";
+            EXPECT_NE(a, b) << "a note must not be compared with itself";
             return false;
         };
         EXPECT_EQ(exportedIds({}, neverBefore), ascendingIds(size));

@@ -9,7 +9,7 @@ namespace {
 using RenderedNote = DeviceTest;
 using Limits = std::numeric_limits<double>;
 
-// Returns the markup of a note with those fields, which have the identifier 1.
+// Returns the markup of a note with these fields, whose identifier must be 1.
 std::string rendered(const scripted::NoteFields& fields) {
     scripted::addNote(kBook, fields);
     std::ostringstream stream;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Every kind of call, with text and elements mixed as no exported document has them.
+// Every kind of call, also in orders that no export uses.
 const std::function<void(Writer&)> kCalls[] = {
     [](Writer& w) { w.openElt("a").writeAttr("x", "1&2").writeAttr("y", ""); },
     [](Writer& w) { w.writeText("<b='c' d=\"e\">&;\n\x7f").writeText("\xff"); },

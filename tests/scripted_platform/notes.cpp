@@ -6,7 +6,7 @@ using veloran::utilities::Note;
 
 namespace {
 
-// This platform's own tags.
+// The tags of this platform.
 constexpr auto kColor = static_cast<Note::Tag>(201);
 constexpr auto kText = static_cast<Note::Tag>(202);
 constexpr auto kImage = static_cast<Note::Tag>(203);

@@ -64,7 +64,7 @@ int ImportExportDBV2::books_import(const std::string& path) {
 
 bool extractPageFromnURI(const std::string& uri, double& page) {
     recordCall("extractPageFromnURI", uri);
-    page = scripted::found(script().pages, uri, 666.0);  // no page's number
+    page = scripted::found(script().pages, uri, 666.0);  // the page number of no note
     return script().pages.count(uri) > 0;
 }
 

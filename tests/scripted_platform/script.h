@@ -1,4 +1,4 @@
-// What the scripted platform answers, and what it was asked.
+// The results and the recorded calls of the scripted platform.
 #pragma once
 
 #include <functional>
@@ -21,15 +21,15 @@ struct LibraryBook {
     std::string path = {};
 };
 
-// The answers are data, and keep the seam's promises unless a test makes them lie. Each
-// test starts from a fresh script: `script() = {}`.
+// Results are data, and follow the seam's contract unless a test breaks it. Each test
+// starts with a new script: `script() = {}`.
 struct Script {
     // Library database
     std::map<std::string, long long> bookIdsByUid;  // by raw bytes
     std::map<long long, LibraryBook> booksOfLibrary;
 
     // Reader database
-    std::map<std::string, long long> itemIds;  // by book hash, as the next two
+    std::map<std::string, long long> itemIds;  // by book hash, like the next two
     std::map<std::string, std::vector<veloran::utilities::Book>> readerBooks;
     std::map<std::string, std::vector<std::string>> noteKeys;
     std::map<std::string, veloran::utilities::Note> notes;  // by note key
@@ -39,16 +39,16 @@ struct Script {
     // Import/export engine
     bool exportSucceeds = true;
     std::string payload;
-    std::optional<std::string> base64;  // in place of that of any bytes
+    std::optional<std::string> base64;  // replaces the Base64 of all bytes
     int importResult = 0;
 
     // Files
-    std::set<std::string> existing;  // paths, besides those on disk
+    std::set<std::string> existing;  // paths, in addition to files on disk
     std::string hashText;            // of every readable file
-    std::optional<int> hashResult;   // in place of the length of `hashText`
+    std::optional<int> hashResult;   // replaces the length of `hashText`
 
-    // Every call in order, as text; then `onCall` is told, and what it throws, the call
-    // throws. Destructors and closing, which must not fail, are recorded only.
+    // Every call in order, as text. Each call then calls `onCall` and passes its exceptions
+    // on. Destructors and close(), which must not fail, are only recorded.
     std::vector<std::string> calls;
     std::function<void(const std::string& call)> onCall;
 
@@ -75,7 +75,7 @@ void recordCall(const std::string& function, const Arguments&... arguments) {
     }
 }
 
-// The entry under `key`, or the value that stands for none.
+// Returns the entry under `key`, or `none`.
 template <class Map>
 typename Map::mapped_type found(const Map& map, const typename Map::key_type& key,
                                 typename Map::mapped_type none = {}) {
@@ -94,7 +94,7 @@ struct NoteFields {
     std::string begin = {};   // URI of the start of the passage
 };
 
-// Appends a note of those fields to the book, under the key "key-ID".
+// Appends a note with these fields to the book, under the key "key-ID".
 void addNote(const std::string& bookHash, const NoteFields& fields);
 
 }  // namespace scripted

@@ -16,7 +16,7 @@ using scripted::script;
 
 int FastBookHash(const char* path, char* buffer, int size) {
     recordCall("FastBookHash", path, size);
-    // What follows the hash is filled, so that reading too far shows.
+    // Fills the rest of the buffer, so that a read past the hash is detected.
     std::fill_n(buffer, size, '#');
     script().hashText.copy(buffer, static_cast<std::size_t>(size));
     const auto length = static_cast<int>(script().hashText.size());

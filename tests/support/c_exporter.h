@@ -1,4 +1,4 @@
-// An exporter as C callers have it, for one book.
+// An exporter of one book, through the C interface.
 #pragma once
 
 #include <memory>

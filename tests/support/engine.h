@@ -1,4 +1,4 @@
-// Devices to import on, and documents to import there. Knows the seam alone.
+// Imports through the seam, and documents for them.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 #include "scratch_files.h"
 #include "utilities/serialization_utils.h"
 
-// The engine on the reader database of the device.
+// An engine on the reader database of the device.
 class Engine {
 public:
     Engine() {
@@ -23,14 +23,14 @@ private:
     Veloran::ReaderLib::ImportExportDBV2 engine_{&database_, 10, 3};
 };
 
-// The exported document around the text of the dump's element; `head` goes before that.
+// Returns a document with this text in the dump's element, after `head`.
 inline std::string documentAround(const std::string& dump, const std::string& head = "") {
     return "<!DOCTYPE html><html>\n  <head>" + head +
            "\n    <script type=\"application/x-veloran-dbdump\" book_hash=\"ab\">" + dump +
            "</script>\n  </head>\n  <body></body>\n</html>";
 }
 
-// The same around the payload.
+// Returns a document with this payload.
 inline std::string documentOf(const std::string& payload, const std::string& head = "") {
     const std::string base64 = veloran::utilities::SerializationUtils::ToBase64(payload);
     std::string text;
@@ -40,7 +40,7 @@ inline std::string documentOf(const std::string& payload, const std::string& hea
     return documentAround(text, head);
 }
 
-// What importing the document gives.
+// Imports the document and returns the result.
 inline int imported(const std::string& document) {
     writeFile("export.html", document);
     return Engine()->books_import("export.html");

@@ -14,7 +14,7 @@
 #include "store/note_tags.h"
 #include "store/reader_store.h"
 
-// Everything in the records as text, so that a difference shows.
+// Returns the records as text, for comparison and messages.
 inline std::string show(const std::vector<host::BookRecord>& books) {
     std::ostringstream out;
     for (const host::BookRecord& book : books) {
@@ -30,8 +30,8 @@ inline std::string show(const std::vector<host::BookRecord>& books) {
     return out.str();
 }
 
-// Two books in the dump's order, with every kind of tag and string: unknown tags, bytes
-// that are no text, a uuid of two notes.
+// Returns two books in the dump's order, with every kind of tag and string: unknown tags,
+// bytes that are not text, a uuid of two notes.
 inline std::vector<host::BookRecord> sampleBooks() {
     const host::NoteRecord full = {
         "full",
@@ -47,7 +47,7 @@ inline std::vector<host::BookRecord> sampleBooks() {
             {"cd", "", "", {{"full", {{host::kUuidTag, "of another book", {}, 7}}}}}};
 }
 
-// The payloads that hold `text`, and a dump of the books that the JSON text lists.
+// Return the payload of `text`, and that of a dump of the books in JSON.
 inline std::string gzipped(const std::string& text) {
     std::string payload;
     host::GzipWriter writer(payload, host::DumpLimits().size);
@@ -62,7 +62,7 @@ inline std::string dumpOf(const std::string& books) {
     return gzipped(R"({"format":"notes-export-dump","version":1,"books":[)" + books + "]}");
 }
 
-// What the device's reader database holds, as records and as bytes.
+// Return the content of the device's reader database, as records and as bytes.
 inline std::string recordsOnDevice() {
     return show(host::ReaderStore(host::kReaderDatabasePath).records());
 }
@@ -77,7 +77,7 @@ inline int merge(const std::vector<host::BookRecord>& books) {
     return host::ReaderStore(host::kReaderDatabasePath).merge(books);
 }
 
-// The payload of the device's first two books.
+// Returns the payload of the device's first two books.
 inline std::string exported() {
     std::string payload;
     const bool done = Engine()->books_export(payload, {1, 2});

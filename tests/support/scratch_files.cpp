@@ -8,9 +8,9 @@
 
 namespace {
 
-// In memory where there is room, unless the environment says where: a disk makes the tests
-// wait for their many small files.
-std::filesystem::path placeForFiles() {
+// Returns a directory in memory if it has room, because small files are slow on a disk.
+// TMPDIR may set another.
+std::filesystem::path scratchRoot() {
     constexpr const char* kMemory = "/dev/shm";
     std::error_code missing;
     const auto available = std::filesystem::space(kMemory, missing).available;
@@ -38,7 +38,7 @@ std::string withoutDates(const std::string& document) {
 }
 
 ScratchDirectory::ScratchDirectory() {
-    std::string name = (placeForFiles() / "notes_export_XXXXXX").string();
+    std::string name = (scratchRoot() / "notes_export_XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("no scratch directory at " + name);
     }
@@ -48,9 +48,9 @@ ScratchDirectory::ScratchDirectory() {
 }
 
 void ScratchDirectory::require(const std::string& path) const {
-    const std::string place = weakly_canonical(std::filesystem::absolute(path)).string();
-    if (place.compare(0, path_.string().size() + 1, path_.string() + "/") != 0) {
-        throw std::logic_error("A test may not write to " + place);
+    const std::string target = weakly_canonical(std::filesystem::absolute(path)).string();
+    if (target.compare(0, path_.string().size() + 1, path_.string() + "/") != 0) {
+        throw std::logic_error("A test may not write to " + target);
     }
 }
 

@@ -1,28 +1,27 @@
-// Files, exported documents, and directories for them.
+// Files and scratch directories for tests.
 #pragma once
 
 #include <filesystem>
 #include <string>
 
-// Empty when there is no such file.
+// Returns the content of the file; empty if there is none.
 std::string readFile(const std::string& path);
 
-// The document with "@DATE@" for every date.
+// Returns the document with "@DATE@" for every date.
 std::string withoutDates(const std::string& document);
 
-// Creates the missing directories that lead to it.
+// Writes the file, and creates its missing directories.
 void writeFile(const std::string& path, const std::string& content);
 
-// A working directory of a test's own: makes an empty one and enters it; removes it at the
-// end and goes back to where it came from.
+// An empty working directory for a test. The destructor removes it and restores the
+// previous one.
 class ScratchDirectory {
 public:
-    // Refuses to begin where the device would not be in the scratch directory.
+    // Throws if the device is not in the scratch directory.
     ScratchDirectory();
     ~ScratchDirectory();
 
-    // Throws unless `path` leads into the scratch directory, which must still be the
-    // working directory: a test's last look before it writes there.
+    // Throws if `path` is not in the scratch directory. Tests call it before they write.
     void require(const std::string& path) const;
 
     ScratchDirectory(const ScratchDirectory&) = delete;

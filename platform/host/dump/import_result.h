@@ -10,8 +10,8 @@ namespace host {
 // notes added or changed. -1 is reserved for failures of the caller.
 enum ImportResult : int {
     kFileUnreadable = -2,  // no such file, not a file, or not readable to its end
-    kNoDump = -3,          // the document holds no dump
-    kDumpDamaged = -4,     // cut, altered, or not a dump at all
+    kNoDump = -3,          // the document has no dump
+    kDumpDamaged = -4,     // cut, altered or not a dump
     kVersionUnknown = -5,  // written by a later version of this format
     kDatabaseError = -6,   // the reader database is closed, busy or broken
 };

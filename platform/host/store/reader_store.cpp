@@ -129,7 +129,7 @@ std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
 }
 
 std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {
-    // A note without tags still gives one row, whose tag is null.
+    // A note without tags still has one row, whose tag is null.
     Query rows = connection_->query(
         "SELECT uuid, tag, text, json, timestamp FROM notes LEFT JOIN tags ON note_id = id "
         "WHERE id = ? ORDER BY tag",
