@@ -41,6 +41,25 @@ TEST(NewFile, NeverReplacesAnything) {
     EXPECT_EQ(readFile("new") + readFile("old") + readFile("nowhere"), "contentold");
 }
 
+TEST(FinishedFile, MovesWithoutReplacing) {
+    const ScratchDirectory scratch;
+    for (const bool knowsLinks : {true, false}) {
+        file_system::knowsRenameFlags = file_system::knowsLinks = knowsLinks;
+        writeFile("old", "old");
+        writeFile("part", "new");
+        const auto move = [](const std::string& to) {
+            return outcome([&] { return client::moveIntoPlace("part", to, "It"); });
+        };
+        EXPECT_EQ(move("old"), "refused");
+        EXPECT_EQ(move("absent/x"), "Could not write It: No such file or directory.");
+        EXPECT_EQ(readFile("old") + readFile("part"), "oldnew");
+        EXPECT_EQ(move("target"), "done");
+        EXPECT_EQ(readFile("target") + readFile("part"), "new");
+        std::filesystem::remove("target");
+    }
+    file_system::knowsRenameFlags = file_system::knowsLinks = true;
+}
+
 // The check looks at the file that came out, because another program may have put it there
 // at the last moment.
 TEST(ReplacedFile, GoesBackIfUnexpected) {
