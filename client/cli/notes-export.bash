@@ -47,7 +47,7 @@ _notes_export_books() {
 _notes_export_words() {
     local -A options=([books]='--format --json' [load]='--pages'
         [notes]='--format --json --note --color --since --match --pictures'
-        [export]='--all --note --color --since --match --order --dir -o --update' [name]='--dir')
+        [export]='--note --color --since --match --order --dir -o --new' [name]='--dir')
     if [[ -z $command && $1 == -* ]]; then
         compgen -W '-C --help --version' -- "$1"
     elif [[ -z $command ]]; then
