@@ -2,11 +2,14 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 #include "client/error.h"
 #include "client/files/digest.h"
 #include "client/pages/page_checks.h"
+#include "client/text/affixes.h"
+#include "client/text/numbers.h"
 
 namespace client {
 namespace {
@@ -24,6 +27,23 @@ std::string tryDigest(const std::string& path) {
     }
 }
 
+std::string nameOf(const std::string& stem, int counter) {
+    return stem + (counter == 0 ? "" : " (" + std::to_string(counter) + ')') + ".html";
+}
+
+// Returns the counters of the names of this stem; 0 stands for the name without one.
+std::set<int> countersOf(const std::set<std::string>& names, const std::string& stem) {
+    const std::string start = stem + " (";
+    std::set<int> counters = {0};
+    for (auto name = names.lower_bound(start);
+         name != names.end() && startsWith(*name, start); ++name) {
+        const auto counter = parseNumber<int>(
+            std::string_view(*name).substr(start.size(), name->find(')') - start.size()));
+        counters.insert(counter.value_or(0));
+    }
+    return counters;
+}
+
 WrittenFile withInputs(WrittenFile file, const char* inputs) {
     file.inputs = inputs;
     return file;
@@ -31,16 +51,32 @@ WrittenFile withInputs(WrittenFile file, const char* inputs) {
 
 }  // namespace
 
+PagePlaces::PagePlaces(const std::string& folder) : folder_(folder) {
+    std::error_code failure;
+    for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
+         entry.increment(failure)) {
+        add(entry->path().filename().string());
+    }
+}
+
 PagePlace PagePlaces::find(const std::string& stem, const WrittenFile& wanted) {
     PagePlace free = findFree(stem);
-    for (const std::string& name : names_.of(stem)) {
-        PagePlace place{name};
-        if (isOurs(place, wanted)) {
+    for (const int counter : countersOf(names_, stem)) {
+        PagePlace place{nameOf(stem, counter)};
+        if (names_.count(place.name) > 0 && isOurs(place, wanted)) {
             return place;
         }
         free.foreign = free.foreign.empty() ? place.foreign : free.foreign;
     }
     return free;
+}
+
+PagePlace PagePlaces::findFree(const std::string& stem) const {
+    int counter = 0;
+    while (names_.count(nameOf(stem, counter)) > 0) {
+        ++counter;
+    }
+    return {nameOf(stem, counter)};
 }
 
 PagePlace PagePlaces::findFile(const std::string& name, const WrittenFile& wanted,

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "client/pages/folder_names.h"
 #include "client/pages/written_files.h"
 
 namespace client {
@@ -20,7 +20,8 @@ struct PagePlace {
 
 class PagePlaces {
 public:
-    explicit PagePlaces(const std::string& folder) : folder_(folder), names_(folder) {}
+    // Lists the folder once. A folder that is missing or cannot be listed is empty.
+    explicit PagePlaces(const std::string& folder);
 
     // Returns the first of the names of this stem whose file is ours, of the same book,
     // format and selection as `wanted`, and that nobody has changed; else a free name.
@@ -31,10 +32,10 @@ public:
     PagePlace findFile(const std::string& name, const WrittenFile& wanted,
                        const std::string& displayPath);
 
-    PagePlace findFree(const std::string& stem) const { return {names_.firstFree(stem)}; }
+    PagePlace findFree(const std::string& stem) const;
 
     // Adds a name that is taken by now.
-    void add(const std::string& name) { names_.add(name); }
+    void add(const std::string& name) { names_.insert(name); }
 
     // Notes files before they are moved, by the digest of their content. Returns the error,
     // or an empty text.
@@ -45,7 +46,7 @@ private:
     std::optional<WrittenFile> noteOf(const PagePlace& place, const WrittenFile& wanted);
 
     const std::string folder_;
-    FolderNames names_;
+    std::set<std::string> names_;
     WrittenFiles written_;
 };
 

@@ -97,14 +97,4 @@ TEST(HtmlEncoding, BecomesUtf8) {
     expectEach(cases, client::htmlAsUtf8);
 }
 
-TEST(HtmlEncoding, LongTextIsConvertedWhole) {
-    std::string html = "\xFF\xFE";
-    std::string utf8;
-    for (int i = 0; i < 100000; ++i) {
-        html += "\xAC\x20";
-        utf8 += "€";
-    }
-    EXPECT_TRUE(client::htmlAsUtf8(html) == utf8);
-}
-
 }  // namespace

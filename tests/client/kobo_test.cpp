@@ -89,16 +89,4 @@ TEST(KoboDatabase, OtherDatabaseIsRefused) {
               "sample: file is not a database");
 }
 
-TEST(KoboDatabase, StaysUntouchedAndWarnsOfLog) {
-    const ScratchDirectory scratch;
-    static_cast<void>(readSample(koboDatabase({"Color = 0"})));
-    const std::string before = readFile("sample");
-    writeFile("sample-wal", "x");
-    EXPECT_EQ(client::readSource("sample").skipped.summary("it"),
-              "Not everything in it could be read:\n  the newest notes may be in "
-              "sample-wal alone; eject the reader and connect it again\n");
-    EXPECT_TRUE(readFile("sample") == before);
-    EXPECT_FALSE(std::filesystem::exists("sample-shm"));
-}
-
 }  // namespace

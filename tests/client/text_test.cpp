@@ -1,16 +1,12 @@
 // Texts, numbers and times, as the client reads, compares and writes them.
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-#include <sstream>
 #include <string>
 
 #include "cases.h"
 #include "client/text/case_folding.h"
 #include "client/text/control_characters.h"
 #include "client/text/iso_time.h"
-#include "client/text/numbers.h"
 #include "client/text/percent_encoding.h"
 
 namespace {
@@ -56,31 +52,6 @@ TEST(ControlCharacters, BecomeSpacesInOneLine) {
         {"other planes", "\U0001F40B", "\U0001F40B"},
     };
     expectEach(cases, client::oneLine);
-}
-
-TEST(Numbers, AreReadFromTheWholeText) {
-    using client::parseNumber;
-    EXPECT_EQ(parseNumber<int>("-12"), -12);
-    EXPECT_EQ(parseNumber<unsigned>("fF", 16), 255U);
-    EXPECT_EQ(parseNumber<double>("1.5e3"), 1500.0);
-    for (const char* text : {"", " 1", "1 ", "+1", "0x1", "1.5", "2147483648", "-"}) {
-        EXPECT_EQ(parseNumber<int>(text), std::nullopt) << text;
-    }
-    EXPECT_EQ(parseNumber<unsigned>("-1"), std::nullopt);
-    EXPECT_EQ(parseNumber<double>("1e999"), std::nullopt);
-}
-
-TEST(Numbers, DecimalTextReadsBackTheSame) {
-    using Limits = std::numeric_limits<double>;
-    EXPECT_EQ(client::decimal(4.5), "4.5");
-    EXPECT_EQ(client::decimal(1e-7), "0.0000001");
-    for (const double number :
-         {0.1, -1e300 / 3, Limits::max(), Limits::lowest(), Limits::min(),
-          Limits::denorm_min(), std::nextafter(1, 2)}) {
-        const std::string text = client::decimal(number);
-        EXPECT_EQ(text.find_first_not_of("-.0123456789"), std::string::npos) << text;
-        EXPECT_EQ(client::parseNumber<double>(text), number) << text;
-    }
 }
 
 std::string shownTime(const std::string& text) {
