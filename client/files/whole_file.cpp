@@ -1,5 +1,7 @@
 #include "client/files/whole_file.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -8,6 +10,7 @@
 #include <vector>
 
 #include "client/error.h"
+#include "client/files/move_into_place.h"
 #include "client/files/signals.h"
 #include "files/input_file.h"
 #include "store/records.h"
@@ -59,24 +62,42 @@ std::string withUserError(const Read& read) {
     }
 }
 
-// Leaves the reason in errno if it fails.
-bool tryWrite(std::FILE* file, const std::string& content) {
-    const bool isWhole =
-        std::fwrite(content.data(), 1, content.size(), file) == content.size();
-    return std::fclose(file) == 0 && isWhole;
-}
-
 [[noreturn]] void throwNotWritten(const fs::path& path) {
     throw UserError("Cannot write " + path.string(), {errno, std::generic_category()});
 }
 
-// Throws, and removes the file at `part`, where a part of the file for `path` was written.
-[[noreturn]] void throwNotWritten(const fs::path& path, const fs::path& part) {
-    const int error = errno;
-    static_cast<void>(std::remove(part.c_str()));
-    errno = error;
-    throwNotWritten(path);
-}
+// A new file beside the one that it becomes. Its destructor removes it if it is still
+// there.
+class Part {
+public:
+    Part(const fs::path& path, const std::string& content)
+        : path_(path.string() + '.' + std::to_string(getpid()) + ".part") {
+        std::FILE* file = std::fopen(path_.c_str(), "wbx");  // follows no link
+        isMade_ = file != nullptr;
+        const bool isWhole = isMade_ && std::fwrite(content.data(), 1, content.size(),
+                                                    file) == content.size();
+        if (!isMade_ || std::fclose(file) != 0 || !isWhole) {
+            remove();
+            throwNotWritten(path);
+        }
+    }
+    ~Part() { remove(); }
+    Part(const Part&) = delete;
+    Part& operator=(const Part&) = delete;
+
+    const std::string& path() const { return path_; }
+
+private:
+    void remove() const {
+        const int error = errno;
+        static_cast<void>(isMade_ && std::remove(path_.c_str()) == 0);
+        errno = error;
+    }
+
+    const SignalBlock block_;
+    const std::string path_;
+    bool isMade_ = false;
+};
 
 }  // namespace
 
@@ -90,29 +111,16 @@ std::string readStart(const fs::path& path, std::size_t size) {
 
 void writeFile(const fs::path& path, const std::string& content) {
     makeFolders(path.parent_path());
-    const fs::path part = path.string() + ".part";
-    std::FILE* file = std::fopen(part.c_str(), "wb");
-    if (file == nullptr) {
+    const Part part(path, content);
+    if (std::rename(part.path().c_str(), path.c_str()) != 0) {
         throwNotWritten(path);
-    }
-    if (!tryWrite(file, content) || std::rename(part.c_str(), path.c_str()) != 0) {
-        throwNotWritten(path, part);
     }
 }
 
 bool writeNewFile(const fs::path& path, const std::string& content) {
-    const SignalBlock block;
-    std::FILE* file = std::fopen(path.c_str(), "wbx");
-    if (file == nullptr && errno == EEXIST) {
-        return false;
-    }
-    if (file == nullptr) {
-        throwNotWritten(path);
-    }
-    if (!tryWrite(file, content)) {
-        throwNotWritten(path, path);
-    }
-    return true;
+    std::error_code failure;
+    return !fs::exists(fs::symlink_status(path, failure)) &&
+           moveIntoPlace(Part(path, content).path(), path.string(), path.string());
 }
 
 void makeFolders(const fs::path& path) {

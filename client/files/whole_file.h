@@ -14,12 +14,13 @@ std::string readFile(const std::filesystem::path& path);
 // regular.
 std::string readStart(const std::filesystem::path& path, std::size_t size);
 
-// Creates the missing folders that lead to the file. A file that is there stays as it is
-// until the new one is whole.
+// Both write a new file of its own name first, so that a file that is seen is whole. A
+// signal that ends the program leaves none of it.
+
+// Creates the missing folders that lead to the file, and replaces a file that is there.
 void writeFile(const std::filesystem::path& path, const std::string& content);
 
-// Writes the file, and returns false if something stands at `path` already. A signal that
-// ends the program leaves no part of it.
+// Returns false if something stands at `path` already.
 bool writeNewFile(const std::filesystem::path& path, const std::string& content);
 
 void makeFolders(const std::filesystem::path& path);
