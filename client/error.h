@@ -1,4 +1,4 @@
-// The one exception of what a user can mend.
+// The exception for errors that a user can mend.
 #pragma once
 
 #include <stdexcept>

@@ -1,4 +1,4 @@
-// The same notes in a file of each kind that the client loads.
+// Equal notes in a file of each kind that the client loads.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
 // The client's commands. Each prints its results on standard output, one a line unless it
-// says otherwise, and throws an exception for what went wrong. Those for several things
+// says otherwise, and throws an exception for a failure. Those for several things
 // report each failure on standard error and go on, and throw FailuresReported at the end.
 #pragma once
 

@@ -53,7 +53,7 @@ void copyMode(const std::string& from, const std::string& to) {
     }
 }
 
-// Nothing of what came out may be lost: another program may have the name by now.
+// Another program may have taken the name by now; the file that came out must not be lost.
 void putBack(const std::string& aside, const std::string& to) {
     if (!tryMove(aside, to)) {
         static_cast<void>(tryMove(aside, to + ".kept"));

@@ -19,7 +19,7 @@ private:
 
 // Makes a signal that ends the program call `cleanUp` first. The program then dies of that
 // signal, as its caller expects. Signals that are ignored stay ignored. `cleanUp` may only
-// do what is safe in a signal handler; it must be the same at each call.
+// do operations that are safe in a signal handler; it must be the same at each call.
 void cleanUpOnSignal(void (*cleanUp)());
 
 }  // namespace client

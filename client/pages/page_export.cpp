@@ -97,15 +97,15 @@ PagePlace PageExport::find(const host::BookEntry& book, const WrittenFile& wante
                               : places_.find(stemOf(book), wanted);
 }
 
-// Below a file that is no folder, every name is free: the library adds no counter.
+// Nothing can exist below a file, so that the library adds no counter.
 std::string PageExport::stemOf(const host::BookEntry& book) {
     exporter_.setDirectory("/dev/null");
     const std::string name = nameOf(exporter_.fileName(book.fastHash));
     return name.substr(0, name.rfind('.'));
 }
 
-// The library finds a free name and then opens it, replacing what came there in between:
-// it writes where nobody else does.
+// The library finds a free name and then opens it; a file created there in between is
+// overwritten. So it writes where nobody else does.
 void PageExport::render(Page& page, NoteSelection& notes) {
     if (!temp_) {
         TempFolder::removeLeftovers(directory_);

@@ -1,4 +1,4 @@
-// All that a page is made of, but for its date.
+// The inputs of a page: everything in it except its date.
 #pragma once
 
 #include <set>

@@ -114,7 +114,7 @@ std::optional<WrittenFile> PagePlaces::noteOf(const PagePlace& place,
     return written_.hasMarkAlone(place.content, path) && namesBook(path, wanted.book)
                ? std::optional(withInputs(wanted, "1.1"))
                : std::nullopt;
-} catch (const std::runtime_error&) {  // what cannot be looked up is not ours
+} catch (const std::runtime_error&) {  // a file that cannot be looked up is not ours
     return std::nullopt;
 }
 

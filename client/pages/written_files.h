@@ -11,14 +11,14 @@
 
 namespace client {
 
-// What a file was made of. All but the name are digests, or words.
+// The origin of a file. All members except the name are digests, or words.
 struct WrittenFile {
     static constexpr const char* kNoRecords = "none";
 
     std::string book;       // hash
     std::string format;     // such as "html"
     std::string selection;  // of its notes, and their order
-    std::string inputs;     // all that it is made of, but for the date; or kNoRecords
+    std::string inputs;     // digest of everything in it except the date; or kNoRecords
     std::string name = {};  // of the file, in its folder
 
     bool hasRecords() const { return inputs != kNoRecords; }

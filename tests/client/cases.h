@@ -1,4 +1,4 @@
-// Tables of texts and of what becomes of them.
+// Tables of texts and of the results for them.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Records of a clippings file, and what those of a book have to do with each other.
+// Records of a clippings file, and the relations between those of one book.
 #include <gtest/gtest.h>
 
 #include <algorithm>

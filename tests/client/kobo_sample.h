@@ -3,7 +3,7 @@
 
 #include <string>
 
-// Each of `changes` is what UPDATE sets in a bookmark of its own.
+// Each of `changes` is a SET clause for a bookmark of its own.
 inline std::string koboDatabase(std::initializer_list<const char*> changes) {
     std::string sql = R"(CREATE TABLE Bookmark (BookmarkID, VolumeID, ContentID, Text,
             Annotation, DateCreated, DateModified, ChapterProgress, Hidden, UUID, Type, Color);

@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// What markup, addresses, references and layout are made of, between bars.
+// Pieces of markup, addresses, references and layout, between bars.
 constexpr std::string_view kPieces =
     "a|b c|1984.|1)|- |+ |-|--|---|==|=|%%|#|## |>|> |*|**|* * *|_|__|`|```|~~|~~~|[|]|"
     "[a](b)|![a](b)|[a]: b|[^1]|(c)|!|<|<b>|</p>|<!-- |<?|<http://a.b>|http://a_b.c/*d*|"
@@ -51,7 +51,7 @@ std::string inXml(std::string text) {
     return text;
 }
 
-// What a reader shall see: paragraphs end with a pilcrow.
+// Returns the text as a reader shall see it: paragraphs end with a pilcrow.
 std::string shownOf(const std::string& text) {
     std::istringstream paragraphs(client::replaced(
         client::withLineFeeds(inXml(host::validUtf8(text))), client::kParagraphEnd, "\1"));
@@ -72,7 +72,7 @@ std::string contentOf(const std::string& element) {
         "&amp;", "&");
 }
 
-// What the renderer shows, with the names of all elements but those that are expected.
+// Returns the text that the renderer shows, with the names of unexpected elements.
 std::string rendered(const std::string& markdown) {
     writeFile("notes.md", markdown);
     EXPECT_EQ(std::system("cmark -t xml notes.md >notes.xml"), 0);

@@ -1,4 +1,4 @@
-// Files that notes are loaded from, and what is read from them.
+// Files that notes are loaded from, and the notes read from them.
 #pragma once
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -38,7 +38,7 @@ inline std::string shownNotes(const std::string& content) {
     return shown;
 }
 
-// Returns a line for each book with its uuids and what was skipped, or the error instead.
+// Returns a line for each book with its uuids and the skipped records, or the error instead.
 inline std::string shownSample(const std::string& content) {
     std::string shown;
     try {

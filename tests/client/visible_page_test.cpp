@@ -79,7 +79,7 @@ TEST(VisiblePage, NoteIsReadAsItIsShown) {
     });
 }
 
-// What markup and white space are made of.
+// Pieces of markup and white space.
 constexpr std::string_view kPieces[] = {
     " ", "  ", "\t", "\r", "\n", "\u2028", "\u2029", "<p>", "</div>", "<br/>", "&amp;",
     "&", "\"", "'",  "a",  "漢", "\1",     "--",     "]]>", "<!--",   "<",     "\xFF"};
