@@ -136,12 +136,12 @@ void TempFolder::removeLeftovers(const std::string& parent) {
     std::error_code failure;
     for (fs::directory_iterator entry(parent, failure), end; !failure && entry != end;
          entry.increment(failure)) {
-        const std::string path = entry->path().string();
+        const std::string found = entry->path().string();
         const bool isNamed = startsWith(entry->path().filename().string(), kNameStart);
-        const int folder = isNamed ? lockFolder(path) : -1;
+        const int folder = isNamed ? lockFolder(found) : -1;
         if (folder != -1 && isOldAndOwn(folder)) {
             std::error_code ignored;
-            fs::remove_all(path, ignored);
+            fs::remove_all(found, ignored);
         }
         if (folder != -1) {
             close(folder);

@@ -38,7 +38,8 @@ inline std::string shownNotes(const std::string& content) {
     return shown;
 }
 
-// Returns a line for each book with its uuids and the skipped records, or the error instead.
+// Returns a line for each book with its uuids and the skipped records, or the error
+// instead.
 inline std::string shownSample(const std::string& content) {
     std::string shown;
     try {

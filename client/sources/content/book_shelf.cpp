@@ -46,18 +46,18 @@ ShelvedBook& BookShelf::book(const std::string& title, const std::string& author
 
 ShelvedBook& BookShelf::book(const std::string& hash, const std::string& title,
                              const std::string& author) {
-    ShelvedBook*& book = byHash_[hash];
-    if (book == nullptr) {
-        book = &books_.emplace_back(Book{hash, title, author, ""});
+    const auto [entry, isNew] = indices_.try_emplace(hash, books_.size());
+    if (isNew) {
+        books_.emplace_back(Book{hash, title, author, ""});
     }
-    return *book;
+    return books_[entry->second];
 }
 
 std::vector<IncomingBook> BookShelf::take() {
     std::vector<IncomingBook> content;
     content.reserve(books_.size());
-    for (ShelvedBook& book : books_) {
-        content.push_back(book.take());
+    for (ShelvedBook& shelved : books_) {
+        content.push_back(shelved.take());
     }
     return content;
 }

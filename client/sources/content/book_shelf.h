@@ -1,6 +1,7 @@
 // The books of a file that is being read.
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -46,7 +47,7 @@ public:
 
 private:
     std::deque<ShelvedBook> books_;
-    std::unordered_map<std::string, ShelvedBook*> byHash_;
+    std::unordered_map<std::string, std::size_t> indices_;  // by hash
 };
 
 }  // namespace client
