@@ -16,6 +16,7 @@ namespace {
 std::vector<host::LibraryBook> libraryBooks(const std::vector<IncomingBook>& books) {
     using veloran::utilities::SerializationUtils;
     std::vector<host::LibraryBook> result;
+    result.reserve(books.size());
     for (const auto& [book, notes, records] : books) {
         result.push_back(
             {SerializationUtils::FromHex(book.hash), book.title, book.author, book.path});

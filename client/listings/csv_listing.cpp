@@ -56,6 +56,6 @@ private:
 
 }  // namespace
 
-const ListingFormat kCsvFormat = listingFormat<CsvBooks, CsvNotes>("csv");
+constexpr ListingFormat kCsvFormat = listingFormat<CsvBooks, CsvNotes>("csv");
 
 }  // namespace client

@@ -118,6 +118,6 @@ private:
 
 }  // namespace
 
-const ListingFormat kJsonFormat = listingFormat<JsonBooks, JsonNotes>("json");
+constexpr ListingFormat kJsonFormat = listingFormat<JsonBooks, JsonNotes>("json");
 
 }  // namespace client

@@ -41,6 +41,6 @@ private:
 
 }  // namespace
 
-const ListingFormat kLineFormat = listingFormat<BookLines, NoteLines>("lines");
+constexpr ListingFormat kLineFormat = listingFormat<BookLines, NoteLines>("lines");
 
 }  // namespace client

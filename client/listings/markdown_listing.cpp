@@ -95,7 +95,7 @@ void MarkdownNotes::writePart(const std::string& text) {
 
 }  // namespace
 
-const ListingFormat kMarkdownFormat =
+constexpr ListingFormat kMarkdownFormat =
     listingFormat<MarkdownBooks, MarkdownNotes>("markdown");
 
 }  // namespace client

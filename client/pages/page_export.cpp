@@ -67,7 +67,11 @@ void PageExport::add(const host::BookEntry& book, NoteSelection notes) {
 }
 
 std::vector<ExportedPage> PageExport::publish() {
-    note(pending_);
+    std::vector<Page*> pages;
+    for (Page& page : pending_) {
+        pages.push_back(&page);
+    }
+    note(pages);
     for (Page& page : pending_) {
         try {
             results_[page.index] = publish(page);
@@ -123,18 +127,18 @@ void PageExport::render(Page& page, NoteSelection& notes) {
     }
 }
 
-// Where a page cannot be noted, nothing is replaced: nobody would know the new one again.
-void PageExport::note(std::vector<Page>& pages) {
+// Where pages cannot be noted, nothing is replaced: nobody would know the new ones again.
+void PageExport::note(const std::vector<Page*>& pages) {
     std::vector<std::pair<std::string, WrittenFile>> files;
-    for (Page& page : pages) {
-        page.file.name = page.place.name;
-        files.emplace_back(page.content, page.file);
+    for (Page* page : pages) {
+        page->file.name = page->place.name;
+        files.emplace_back(page->content, page->file);
     }
     const std::string error = places_.tryNote(files);
-    for (Page& page : pages) {
-        page.noteError = error;
-        if (!error.empty() && page.place.ours) {
-            page.place = places_.findFree(stemOf(page.book));
+    for (Page* page : pages) {
+        page->noteError = error;
+        if (!error.empty() && page->place.ours) {
+            page->place = places_.findFree(stemOf(page->book));
         }
     }
 }
@@ -152,9 +156,7 @@ ExportedPage PageExport::publish(Page& page) {
         if (page.place.ours && page.place.ours->inputs == page.file.inputs) {
             return {displayPath(page.place.name)};
         }
-        std::vector<Page> again(1, std::move(page));
-        note(again);
-        page = std::move(again.front());
+        note({&page});
     }
     throw UserError("The page of the book " + page.book.fastHash +
                     " keeps changing. Export it again.");

@@ -74,7 +74,7 @@ private:
     PagePlace find(const host::BookEntry& book, const WrittenFile& wanted);
     std::string stemOf(const host::BookEntry& book);
     void render(Page& page, NoteSelection& notes);
-    void note(std::vector<Page>& pages);
+    void note(const std::vector<Page*>& pages);
     ExportedPage publish(Page& page);
     bool move(const Page& page);
     ExportedPage resultOf(const Page& page) const;

@@ -11,10 +11,10 @@ namespace client {
 
 // Drops each marked passage that a later one contains, from the same start or to the same
 // end; the later one gets its identity.
-void dropSuperseded(std::vector<Clipping>& clippings);
+void dropSuperseded(std::vector<Clipping>& passages);
 
 // Makes each of the user's notes a comment of the passage that contains its position; of
 // several, the one that was marked last before it. Other notes stay separate.
-void attachNotes(std::vector<Clipping>& clippings);
+void attachNotes(std::vector<Clipping>& passages);
 
 }  // namespace client
