@@ -49,23 +49,20 @@ std::vector<host::BookRecord> recordsIn(const std::string& file) {
     }
 }
 
-// Imported files are noted, so that an export never takes them for its own.
-void note(const std::string& file) {
+// Notes the file before the library marks it: an import that is cut in between must not
+// make it look like a page that version 1.1 exported. What cannot be noted cannot be
+// marked, either.
+void tryNote(const std::string& file) {
     try {
         WrittenFiles().noteImported(contentDigest(file));
-    } catch (const std::runtime_error& error) {
-        throw UserError("The notes of " + file +
-                        " were imported, but the file could not be noted: " + error.what());
+    } catch (const std::runtime_error&) {
     }
 }
 
 int callLibrary(const std::string& file) {
+    tryNote(file);
     const Exporter exporter;
-    const int result = notes_exporter_import_from_file(exporter.handle(), file.c_str());
-    if (result >= 0) {
-        note(file);
-    }
-    return result;
+    return notes_exporter_import_from_file(exporter.handle(), file.c_str());
 }
 
 // The number for a database that failed says no more; the store throws the cause.

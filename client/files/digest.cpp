@@ -1,7 +1,9 @@
 #include "client/files/digest.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <new>
+#include <stdexcept>
 #include <vector>
 
 #include "client/text/affixes.h"
@@ -51,6 +53,16 @@ std::string contentDigest(const std::string& path) {
         isStart = false;
     }
     return digest.hexadecimal();
+}
+
+std::string tryContentDigest(const std::string& path) {
+    std::error_code failure;
+    try {
+        const auto status = std::filesystem::symlink_status(path, failure);
+        return std::filesystem::is_regular_file(status) ? contentDigest(path) : "";
+    } catch (const std::runtime_error&) {
+        return {};
+    }
 }
 
 }  // namespace client

@@ -29,4 +29,7 @@ private:
 // std::runtime_error if the file cannot be read.
 std::string contentDigest(const std::string& path);
 
+// Returns the same digest, or an empty text for a link or a file that cannot be read.
+std::string tryContentDigest(const std::string& path);
+
 }  // namespace client

@@ -1,6 +1,7 @@
 #include "client/pages/page_export.h"
 
 #include <filesystem>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -75,7 +76,7 @@ std::vector<ExportedPage> PageExport::publish() {
     for (Page& page : pending_) {
         try {
             results_[page.index] = publish(page);
-        } catch (const UserError& error) {
+        } catch (const std::runtime_error& error) {
             results_[page.index] = {"", error.what(), true};
         }
     }
@@ -117,6 +118,7 @@ void PageExport::render(Page& page, NoteSelection& notes) {
     }
     exporter_.setDirectory(temp_->path());
     page.path = exporter_.fileName(page.book.fastHash);
+    page.file.run = nameOf(temp_->path());
     temp_->expect(page.path);
     callLibrary(exporter_, page.book, notes);
     requireWhole(page.path, displayPath(nameOf(page.path)));
@@ -151,9 +153,12 @@ ExportedPage PageExport::publish(Page& page) {
         if (page.keepsRecords() || move(page)) {
             return resultOf(page);
         }
+        // Another collection may have put the same bytes there.
+        places_.tryForget(page.content, page.file);
         places_.add(page.place.name);
         page.place = find(page.book, page.file);
-        if (page.place.ours && page.place.ours->inputs == page.file.inputs) {
+        if (page.file.hasRecords() && page.place.ours &&
+            page.place.ours->inputs == page.file.inputs) {
             return {displayPath(page.place.name)};
         }
         note({&page});
@@ -169,7 +174,7 @@ bool PageExport::move(const Page& page) {
         return moveIntoPlace(page.path, path, displayPath(name));
     }
     const auto isUntouched = [&](const std::string& file) {
-        return contentDigest(file) == page.place.content;
+        return tryContentDigest(file) == page.place.content;
     };
     const bool isDone = replaceFile(page.path, path, isUntouched, displayPath(name));
     std::error_code ignored;

@@ -16,17 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Returns the digest of a file's content; empty if the file is not regular or unreadable.
-std::string tryDigest(const std::string& path) {
-    std::error_code failure;
-    try {
-        return fs::is_regular_file(fs::symlink_status(path, failure)) ? contentDigest(path)
-                                                                      : "";
-    } catch (const std::runtime_error&) {
-        return {};
-    }
-}
-
 std::string nameOf(const std::string& stem, int counter) {
     return stem + (counter == 0 ? "" : " (" + std::to_string(counter) + ')') + ".html";
 }
@@ -91,7 +80,7 @@ PagePlace PagePlaces::findFile(const std::string& name, const WrittenFile& wante
 }
 
 bool PagePlaces::isOurs(PagePlace& place, const WrittenFile& wanted) {
-    place.content = tryDigest(folder_ + '/' + place.name);
+    place.content = tryContentDigest(folder_ + '/' + place.name);
     auto note = place.content.empty() ? std::nullopt : noteOf(place, wanted);
     if (!note) {
         place.foreign = place.name;
@@ -125,6 +114,13 @@ std::string PagePlaces::tryNote(
         return {};
     } catch (const std::runtime_error& error) {
         return error.what();
+    }
+}
+
+void PagePlaces::tryForget(const std::string& content, const WrittenFile& file) {
+    try {
+        written_.forget(content, file);
+    } catch (const std::runtime_error&) {  // the note can only match a file of this content
     }
 }
 

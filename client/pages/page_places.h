@@ -41,6 +41,9 @@ public:
     // or an empty text.
     std::string tryNote(const std::vector<std::pair<std::string, WrittenFile>>& files);
 
+    // Removes the note of a file that was not moved.
+    void tryForget(const std::string& content, const WrittenFile& file);
+
 private:
     bool isOurs(PagePlace& place, const WrittenFile& wanted);
     std::optional<WrittenFile> noteOf(const PagePlace& place, const WrittenFile& wanted);

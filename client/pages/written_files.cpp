@@ -11,12 +11,17 @@ namespace {
 
 constexpr int kMarkProperty = 7;  // the library's
 constexpr int kNotesProperty = 1007;
-constexpr const char* kImported = "imported\n";
+constexpr const char* kImported = "imported\n";  // or marked, but not moved
 
 std::string digestOf(const std::string& name) {
     Digest digest;
     digest.add(name);
     return digest.hexadecimal();
+}
+
+std::string lineOf(const WrittenFile& file) {
+    return file.book + ' ' + file.format + ' ' + file.selection + ' ' + file.inputs + ' ' +
+           digestOf(file.name) + ' ' + file.run + '\n';
 }
 
 }  // namespace
@@ -34,7 +39,7 @@ std::optional<WrittenFile> WrittenFiles::find(const std::string& content,
     WrittenFile file;
     std::string nameDigest;
     while (lines >> file.book >> file.format >> file.selection >> file.inputs >>
-           nameDigest) {
+           nameDigest >> file.run) {
         if (nameDigest == wanted) {
             file.name = name;
             return file;
@@ -45,10 +50,21 @@ std::optional<WrittenFile> WrittenFiles::find(const std::string& content,
 
 // Two files of one content differ in their names; the latest note of a name counts.
 void WrittenFiles::note(const std::string& content, const WrittenFile& file) {
-    const std::string line = file.book + ' ' + file.format + ' ' + file.selection + ' ' +
-                             file.inputs + ' ' + digestOf(file.name) + '\n';
     const std::string known = notes(content);
-    library_.setFileProp(content, kNotesProperty, known == kImported ? line : line + known);
+    library_.setFileProp(content, kNotesProperty,
+                         lineOf(file) + (known == kImported ? "" : known));
+}
+
+void WrittenFiles::forget(const std::string& content, const WrittenFile& file) {
+    library_.inWriteTransaction([&] {
+        std::string known = notes(content);
+        const std::string line = lineOf(file);
+        if (const std::size_t start = known.find(line); start != std::string::npos) {
+            known.erase(start, line.size());
+            library_.setFileProp(content, kNotesProperty,
+                                 known.empty() ? kImported : known);
+        }
+    });
 }
 
 void WrittenFiles::note(const std::vector<std::pair<std::string, WrittenFile>>& files) {

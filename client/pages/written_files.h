@@ -20,6 +20,7 @@ struct WrittenFile {
     std::string selection;  // of its notes, and their order
     std::string inputs;     // digest of everything in it except the date; or kNoRecords
     std::string name = {};  // of the file, in its folder
+    std::string run = {};   // name of the temporary folder that it was written in
 
     bool hasRecords() const { return inputs != kNoRecords; }
     bool isOfSame(const WrittenFile& other) const {
@@ -37,6 +38,9 @@ public:
 
     // Notes these files, by the digest of their content, in one transaction.
     void note(const std::vector<std::pair<std::string, WrittenFile>>& files);
+
+    // Removes the note of a file that was not moved to its place.
+    void forget(const std::string& content, const WrittenFile& file);
 
     // Notes that files of this content were read, unless they are noted already.
     void noteImported(const std::string& content);

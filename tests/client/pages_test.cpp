@@ -221,6 +221,24 @@ TEST(Export, NamedFileIsReplacedWhereItsLinkLeads) {
                  client::UserError);
 }
 
+// Two exports at once find the same free name.
+TEST(Export, EqualPageOfAnotherCollectionStaysItsOwn) {
+    const ScratchDirectory scratch;
+    load(100);
+    auto book = host::ReaderStore(host::kReaderDatabasePath).findBook("0a");
+    client::PageExport late({"pages"});
+    late.add(*book, client::selectNotes("0a", {}, "", false));
+    for (const auto& entry : fs::recursive_directory_iterator("pages")) {
+        if (entry.is_regular_file()) {
+            fs::copy(entry.path(), kPage);
+            break;
+        }
+    }
+    EXPECT_EQ(late.publish().at(0).path, "pages/Emma (1).html");
+    load(200);
+    EXPECT_EQ(exportPage().path, "pages/Emma (1).html");
+}
+
 // A killed program leaves its folder, whose lock nobody holds.
 TEST(TempFolder, LeftoverOfKilledProgramIsRemoved) {
     const ScratchDirectory scratch;
