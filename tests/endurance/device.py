@@ -1,5 +1,6 @@
 """A device in a folder, the client that works on it, and the expected content."""
 
+import hashlib
 import json
 import os
 import resource
@@ -12,6 +13,7 @@ import xml.parsers.expat
 import model
 
 CONFIG = "mnt/ext1/system/config"
+ENDING = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP, signal.SIGQUIT, signal.SIGPIPE, signal.SIGXCPU)
 
 
 class Finding(Exception):
@@ -24,34 +26,77 @@ def check(holds, *what):
 
 
 def title_of(book):
-    return f"Book {book[-6:]}"
+    """Gives two books the same title."""
+    return f"Book {int(book, 16) // 2}"
+
+
+class Pages:
+    """The folder of pages that all devices share, and its expected content."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        self.digests = {}  # by path
+        os.makedirs(folder)
+
+    def read(self):
+        """Returns the digest of each file, and None for a folder."""
+        digests = dict.fromkeys(os.path.join(self.folder, name) for name in os.listdir(self.folder))
+        for path in filter(os.path.isfile, digests):
+            with open(path, "rb") as file:
+                digests[path] = hashlib.sha1(file.read()).digest()
+        return digests
+
+    def verify(self):
+        """Checks that every byte of every file is as expected."""
+        found = self.read()
+        wrong = sorted(path for path in found | self.digests if found.get(path, "") != self.digests.get(path, ""))
+        check(not wrong, "changed, came or went:", wrong)
+
+    def leftovers(self):
+        return {entry.path for entry in os.scandir(self.folder) if entry.name.startswith(".notes-export-")}
 
 
 class Device:
-    def __init__(self, client, folder):
+    def __init__(self, client, folder, pages=None):
         self.client = client
         self.folder = folder
+        self.pages = pages
         self.books = {}
         self.database = os.path.join(folder, CONFIG, "books.db")
-        self.pages = os.path.join(folder, "pages")
-        self.carried = {}  # the book in each page of the folder of pages, by path
-        os.makedirs(self.pages)
+        self.noted = {}  # the book, options and hash of the notes of its pages, by path and digest
+        os.makedirs(folder)
 
-    def updates(self, book):
-        """Returns whether an update must write the book's page, and the pages that it may replace."""
-        pages = {path: books for path, books in self.carried.items() if book in books}
-        now = self.books[book]
-        replaceable = {path for path, books in pages.items() if model.includes(now, books[book])}
-        return all(books[book] != now for books in pages.values()), replaceable
+    def place(self, book, options):
+        """Returns the path that an export must print, the notes of the page, and whether it is up to date.
+        A page may be replaced only if this device noted its content for the same book and options."""
+        notes = model.select(model.read(self.database, [book])[book], options)
+        now = hash(repr(notes))  # also of their order
+        names = [title_of(book), *(f"{title_of(book)} ({number})" for number in range(1, 1000))]
+        paths = [os.path.join(self.pages.folder, name + ".html") for name in names]
+        for path in paths:
+            *kind, then = self.noted.get((path, self.pages.digests.get(path)), (None,))
+            if kind == [book, options]:
+                return path, notes, then == now
+        return next(path for path in paths if path not in self.pages.digests), notes, False
 
-    def take_update(self, book, path):
-        """Records that an update printed this path (or None) for the book."""
-        is_stale, replaceable = self.updates(book)
-        check((path is not None) == is_stale, self.folder, book, "is stale:", is_stale, "printed:", path)
-        if path is not None:
-            check(path in replaceable or (not replaceable and path not in self.carried),
-                  path, "was written, and might replace", replaceable)
-            self.carried[path] = model.copy({book: self.books[book]})
+    def take(self, books, options, lines):
+        """Records the pages that an export wrote, and returns them with their books. A line that was not
+        printed is None. Takes clients that ran at once as if they ran one after the other."""
+        found = self.pages.read()
+        written = []
+        for book, line in zip(books, lines, strict=True):
+            path, notes, is_current = self.place(book, options)
+            check(line in (path, None), self.folder, book, options, "printed", line, "instead of", path)
+            if is_current or (line is None and found.get(path) == self.pages.digests.get(path)):
+                continue
+            verify_page(self.client, path, {book: notes}, self.folder + "-scratch")
+            self.pages.digests[path] = found[path]
+            self.noted[path, found[path]] = (book, () if "--new" in options else options, hash(repr(notes)))
+            written.append((path, {book: notes}))
+        return written
+
+    def start_export(self, books, options, **limits):
+        return self.start("export", *books, *options, "--dir", self.pages.folder, **limits)
 
     def load(self, books):
         """Makes these books the only content of the device."""
@@ -81,6 +126,9 @@ class Device:
 
         def apply():
             signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            for number in ENDING:
+                signal.signal(number, signal.SIG_DFL)
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
             for what, most in limits:
                 resource.setrlimit(what, (most, most))
 
@@ -89,9 +137,12 @@ class Device:
 
     def run(self, *arguments, **options):
         """Runs the client and returns the lines that it printed."""
-        process = self.start(*arguments, **options)
+        return self.finish(self.start(*arguments, **options))
+
+    @staticmethod
+    def finish(process):
         out, errors = process.communicate()
-        check(process.returncode == 0, arguments, process.returncode, errors.decode())
+        check(process.returncode == 0, process.args, process.returncode, errors.decode())
         return out.decode().splitlines()
 
     def verify(self, only=None):
@@ -107,16 +158,8 @@ class Device:
             found |= {os.path.relpath(os.path.join(folder, name), self.folder) for name in files}
             found |= {name for name in folders if name.startswith(".")}
         wanted = {f"{CONFIG}/books.db", f"{CONFIG}/library.db", "mnt/ext1/system/reader/notes.css"}
-        wanted |= {os.path.relpath(path, self.folder) for path in self.carried}
         found = {path for path in found if not path.endswith(".db-journal")}
         check(found == wanted, self.folder, "has", sorted(found ^ wanted))
-
-    def repair(self, was_killed):
-        """Opens both databases, which rolls back cut changes, and removes the files that SIGKILL leaves."""
-        self.run("books")
-        for name in os.listdir(self.pages):
-            if was_killed and name.startswith(".notes-export-"):
-                shutil.rmtree(os.path.join(self.pages, name))
 
 
 def write_note(connection, book, uuid, tags):

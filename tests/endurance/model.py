@@ -50,12 +50,10 @@ def merge(books, other):
                     note[number] = tag
 
 
-def includes(notes, older):
-    """Returns whether `notes` have each of the older tags, unchanged or newer."""
-    return all(
-        uuid in notes and all(
-            number in notes[uuid] and notes[uuid][number].timestamp >= tag.timestamp for number, tag in tags.items())
-        for uuid, tags in older.items())
+def select(notes, options):
+    """Returns the notes that a page has which is exported with these options."""
+    yellow = {uuid: tags for uuid, tags in notes.items() if COLOR in tags and tags[COLOR].text == b"yellow"}
+    return yellow if "--color" in options else notes
 
 
 def copy(books):
@@ -73,7 +71,7 @@ def read(database, only=None):
         for book in only:
             rows = connection.execute(
                 "SELECT uuid, tag, tags.text, json, timestamp FROM books LEFT JOIN notes ON book_id = books.id "
-                "LEFT JOIN tags ON note_id = notes.id WHERE fast_hash = ?", (book,))
+                "LEFT JOIN tags ON note_id = notes.id WHERE fast_hash = ? ORDER BY notes.id", (book,))
             for uuid, number, text, json_text, timestamp in rows:
                 notes = books.setdefault(book, {})
                 if uuid is not None:
