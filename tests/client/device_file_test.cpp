@@ -43,19 +43,4 @@ TEST(DeviceFile, FaultIsNamedWithItsPlace) {
         "non-whitespace after JSON value.\n");
 }
 
-TEST(Source, UnknownFileIsRefused) {
-    const ScratchDirectory scratch;
-    const std::string message =
-        "sample is not a file that notes can be loaded from. Known kinds: an "
-        "exported page, clippings, a Kobo reader's database, an annotation set, a device "
-        "file.";
-    for (const char* content : {"", " \n", "[]", "p { margin: 0 }", "<html></html>",
-                                "Emma\n- Your Highlight on page 5\n\na\n", "PK\3\4"}) {
-        EXPECT_EQ(shownSample(content), message) << content;
-    }
-    std::filesystem::create_directory("folder");
-    EXPECT_THROW(client::readSource("folder"), client::UserError);
-    EXPECT_THROW(client::readSource("absent"), client::UserError);
-}
-
 }  // namespace

@@ -24,23 +24,6 @@ std::string outcome(const Action& action) {
     }
 }
 
-TEST(NewFile, NeverReplacesAnything) {
-    const ScratchDirectory scratch;
-    writeFile("old", "old");
-    std::filesystem::create_symlink("nowhere", "link");
-    const Case cases[] = {
-        {"new", "done"},
-        {"old", "refused"},
-        {"link", "refused"},
-        {"absent/file", "Cannot write absent/file: No such file or directory"},
-        {"old/file", "Cannot write old/file: Not a directory"},
-    };
-    expectEach(cases, [](const std::string& path) {
-        return outcome([&] { return client::writeNewFile(path, "content"); });
-    });
-    EXPECT_EQ(readFile("new") + readFile("old") + readFile("nowhere"), "contentold");
-}
-
 TEST(FinishedFile, MovesWithoutReplacing) {
     const ScratchDirectory scratch;
     for (const bool knowsLinks : {true, false}) {

@@ -46,18 +46,6 @@ TEST(KoboBookmark, BecomesNote) {
     });
 }
 
-TEST(KoboDatabase, NotesComeInOrderOfText) {
-    const ScratchDirectory scratch;
-    const std::string content =
-        koboDatabase({"UUID = 1, ContentID = 'v!2', ChapterProgress = 0.1",
-                      "UUID = 2, ChapterProgress = 0.9", "UUID = 3, ContentID = 'v!1#p7'",
-                      "UUID = 4, VolumeID = 'w/lost.epub', ContentID = 'x'",
-                      "UUID = 5, VolumeID = NULL", "UUID = 6"});
-    EXPECT_EQ(shownSample(content),
-              "lost.epub by : 4\nEmma by Jane Austen: 3 6 2 1\n"
-              "Not everything in it could be read:\n  the bookmark b names no book\n");
-}
-
 TEST(KoboDatabase, ColumnsOfLaterFirmwareMayLack) {
     const ScratchDirectory scratch;
     const Case cases[] = {
