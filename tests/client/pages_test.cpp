@@ -204,6 +204,10 @@ TEST(Export, PageWithoutRecordsReplacesNone) {
     EXPECT_TRUE(page.failed);
     EXPECT_EQ(readFile(kPage), before);
     EXPECT_EQ(filesIn("pages"), "Emma.html|");
+    fs::remove(kPage);
+    exportPage();
+    EXPECT_EQ(exportPage().path, kPage);  // no further page with each export
+    EXPECT_EQ(filesIn("pages"), "Emma.html|");
 }
 
 TEST(Export, NamedFileIsReplacedWhereItsLinkLeads) {
