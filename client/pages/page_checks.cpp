@@ -14,7 +14,6 @@
 #include "client/files/whole_file.h"
 #include "dump/format.h"
 #include "dump/import_result.h"
-#include "dump/payload.h"
 #include "dump/reader.h"
 #include "dump/writer.h"
 #include "store/database_paths.h"

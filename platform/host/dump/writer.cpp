@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "dump/format.h"
-#include "dump/gunzip_stream.h"
 #include "dump/gzip_writer.h"
 #include "dump/json_sax.h"
 #include "dump/note_json.h"
@@ -22,34 +21,11 @@ bool isText(const std::string& bytes) {
     return bytes.find('\0') == std::string::npos && isUtf8(bytes);
 }
 
-// An output stream that compares the text with that of an existing dump.
-class ComparingStream {
-public:
-    using Ch = char;
-
-    explicit ComparingStream(Payload payload)
-        : expected_(std::move(payload), DumpLimits().size) {}
-
-    // Past the end, Take() returns zero bytes, which JSON does not contain.
-    void Put(char c) { isSame_ = isSame_ && expected_.Take() == c; }
-    void Flush() {}
-    void beginIncompressible() {}
-    void endIncompressible() {}
-    void finish() { isSame_ = isSame_ && expected_.atEnd(); }
-
-    bool isSame() const { return isSame_; }
-
-private:
-    GunzipStream expected_;
-    bool isSame_ = true;
-};
-
-// Writes JSON to a GzipWriter or a ComparingStream.
-template <class Stream>
+// Writes the JSON of a dump.
 class DumpWriter {
 public:
     DumpWriter(ReaderStore& store, const std::set<unsigned long long>& selected,
-               Stream& stream, std::size_t maxRecords)
+               GzipWriter& stream, std::size_t maxRecords)
         : store_(store),
           selected_(selected),
           stream_(stream),
@@ -73,14 +49,13 @@ private:
 
     ReaderStore& store_;
     const std::set<unsigned long long>& selected_;
-    Stream& stream_;
-    JsonWriter<Stream> json_;
+    GzipWriter& stream_;
+    JsonWriter<GzipWriter> json_;
     NoteJson noteJson_;
     std::size_t recordsLeft_;
 };
 
-template <class Stream>
-void DumpWriter<Stream>::write(const std::vector<BookEntry>& books) {
+void DumpWriter::write(const std::vector<BookEntry>& books) {
     json_.StartObject();
     key("format");
     json_.String(kFormatName);
@@ -96,16 +71,14 @@ void DumpWriter<Stream>::write(const std::vector<BookEntry>& books) {
     stream_.finish();
 }
 
-template <class Stream>
-void DumpWriter<Stream>::startRecord() {
+void DumpWriter::startRecord() {
     if (recordsLeft_-- == 0) {
         throw std::runtime_error("the dump exceeds its largest number of records");
     }
     json_.StartObject();
 }
 
-template <class Stream>
-void DumpWriter<Stream>::book(const BookEntry& book) {
+void DumpWriter::book(const BookEntry& book) {
     startRecord();
     bytes("fast_hash", book.fastHash);
     bytes("title", book.title);
@@ -121,8 +94,7 @@ void DumpWriter<Stream>::book(const BookEntry& book) {
     json_.EndObject();
 }
 
-template <class Stream>
-void DumpWriter<Stream>::note(std::int64_t id) {
+void DumpWriter::note(std::int64_t id) {
     const NoteRecord note = store_.note(id).value();
     startRecord();
     bytes("uuid", note.uuid);
@@ -135,8 +107,7 @@ void DumpWriter<Stream>::note(std::int64_t id) {
     json_.EndObject();
 }
 
-template <class Stream>
-void DumpWriter<Stream>::tag(const TagRecord& tag) {
+void DumpWriter::tag(const TagRecord& tag) {
     startRecord();
     key("tag");
     json_.Int(tag.tag);
@@ -150,8 +121,7 @@ void DumpWriter<Stream>::tag(const TagRecord& tag) {
     json_.EndObject();
 }
 
-template <class Stream>
-void DumpWriter<Stream>::bytes(const std::string& name, const std::string& value) {
+void DumpWriter::bytes(const std::string& name, const std::string& value) {
     if (isText(value)) {
         key(name);
         string(value);
@@ -178,9 +148,8 @@ std::vector<BookEntry> findBooks(ReaderStore& store,
 }
 
 // Returns false if none of the books exists.
-template <class Stream>
 bool write(ReaderStore& store, const std::set<unsigned long long>& books,
-           const std::set<unsigned long long>& notes, Stream& stream,
+           const std::set<unsigned long long>& notes, GzipWriter& stream,
            std::size_t maxRecords) {
     bool any = false;
     store.inReadTransaction([&] {
@@ -200,12 +169,6 @@ bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
                const DumpLimits& limits) {
     GzipWriter stream(out, limits.size);
     return write(store, books, notes, stream, limits.records);
-}
-
-bool isCurrentDump(ReaderStore& store, const std::set<unsigned long long>& books,
-                   const std::set<unsigned long long>& notes, Payload payload) {
-    ComparingStream stream(std::move(payload));
-    return write(store, books, notes, stream, DumpLimits().records) && stream.isSame();
 }
 
 }  // namespace host

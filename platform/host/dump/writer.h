@@ -5,7 +5,6 @@
 #include <string>
 
 #include "dump/format.h"
-#include "dump/payload.h"
 #include "store/reader_store.h"
 
 namespace host {
@@ -18,10 +17,5 @@ namespace host {
 bool writeDump(ReaderStore& store, const std::set<unsigned long long>& books,
                const std::set<unsigned long long>& notes, std::string& out,
                const DumpLimits& limits = {});
-
-// Returns whether the payload holds the text that writeDump would write now. Also throws
-// DumpError if the payload is damaged.
-bool isCurrentDump(ReaderStore& store, const std::set<unsigned long long>& books,
-                   const std::set<unsigned long long>& notes, Payload payload);
 
 }  // namespace host
