@@ -1,6 +1,7 @@
 // Loads hostile files of every kind into a collection.
 #include <set>
 
+#include "client/collection/loading.h"
 #include "client/error.h"
 #include "client/sources/source.h"
 #include "fuzz_target.h"
@@ -34,10 +35,10 @@ void checkNames(const std::vector<IncomingBook>& books) {
     }
 }
 
-int load(const char* file, host::ReaderStore& store) {
+int load(const char* file, host::ReaderStore& reader, host::LibraryStore& library) {
     client::SourceContent content = client::readSource(file);
     checkNames(content.books);
-    return store.load(client::takeRecords(content.books), content.onKnownBook).changed;
+    return client::loadBooks(content.books, content.onKnownBook, reader, library).changed;
 }
 
 }  // namespace
@@ -46,10 +47,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     constexpr char kFile[] = "source";
     static const ScratchDirectory scratch;
     writeFile(kFile, std::string(data, data + size));
-    host::ReaderStore store(":memory:");
+    host::ReaderStore reader(":memory:");
+    host::LibraryStore library(":memory:");
     try {
-        const int changed = load(kFile, store);
-        check(load(kFile, store) == 0, "a second load changes nothing");
+        const int changed = load(kFile, reader, library);
+        check(load(kFile, reader, library) == 0, "a second load changes nothing");
         fuzz::outcome = "brings_" + std::to_string(changed);
     } catch (const client::UserError&) {
         fuzz::outcome = "refused";

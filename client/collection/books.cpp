@@ -52,11 +52,12 @@ std::string described(const BookEntry& book) {
 
 [[noreturn]] void throwAmbiguous(const std::string& typed,
                                  const std::vector<BookEntry>& books) {
-    std::vector<std::string> lines;
-    std::transform(books.begin(), books.end(), std::back_inserter(lines), described);
+    FirstFew lines;
+    for (const BookEntry& book : books) {
+        lines.add(described(book));
+    }
     throw UserError("More than one book has a hash or a title that starts with \"" + typed +
-                    "\":\n" + firstFew(lines, lines.size()) + "Type more of it. " +
-                    kListsThemAll);
+                    "\":\n" + lines.text() + "Type more of it. " + kListsThemAll);
 }
 
 std::vector<BookEntry> booksIn(host::ReaderStore& store) {
@@ -67,6 +68,8 @@ std::vector<BookEntry> booksIn(host::ReaderStore& store) {
     return books;
 }
 
+}  // namespace
+
 std::string authorOf(const std::string& hash, host::LibraryStore& library) {
     if (!host::isBookHash(hash)) {  // FromHex may give the uid of another book
         return {};
@@ -74,8 +77,6 @@ std::string authorOf(const std::string& hash, host::LibraryStore& library) {
     const auto id = library.findBook(veloran::utilities::SerializationUtils::FromHex(hash));
     return id ? library.book(*id).value_or(host::LibraryBook{}).author : std::string();
 }
-
-}  // namespace
 
 std::vector<BookEntry> allBooks() {
     host::ReaderStore store(host::kReaderDatabasePath);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "client/collection/book.h"
+#include "store/library_store.h"
 #include "store/reader_store.h"
 
 namespace client {
@@ -20,6 +21,9 @@ host::BookEntry findBook(const std::string& typed);
 // Throws UserError if the book's hash is not valid, because it could be a path or an
 // option.
 void requireHash(const host::BookEntry& book);
+
+// Returns the author in the library database; empty if it is not known.
+std::string authorOf(const std::string& hash, host::LibraryStore& library);
 
 std::vector<Book> detailsOf(const std::vector<host::BookEntry>& books);
 

@@ -1,32 +1,39 @@
-// Adds books and notes to the collection.
+// Books and notes on their way into the collection.
 #pragma once
 
-#include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "client/collection/book.h"
-#include "client/collection/note.h"
-#include "store/reader_store.h"
+#include "client/collection/packed_notes.h"
+#include "store/records.h"
 
 namespace client {
 
-struct IncomingBook {
-    Book book;  // an empty title, author or path is not known
-    std::vector<Note> notes;
-    // Notes from the dump of another collection, with any tags.
-    std::vector<host::NoteRecord> records;
+// The effect on a note that the collection has already.
+enum class OnKnownNote {
+    MergeNewer,  // of each part, the newer version stays
+    ReplaceOwn,  // the same; but if earlier loads of this file gave all of it, it is
+                 // replaced
+    AddMissing,  // only the parts that it lacks are added
 };
 
-// Creates the collection if there is none. Moves the notes out of `books`. Hashes must be
-// unique in `books`, and uuids within each book. Known notes are replaced by newer ones
-// only. Throws UserError or std::runtime_error; then either no note or every note was
-// written.
-host::LoadResult addToCollection(std::vector<IncomingBook>& books,
-                                 host::OnKnownBook onKnownBook,
-                                 const std::optional<std::string>& styleSheet);
+struct IncomingBook {
+    Book book = {};              // an empty title, author or path is not known
+    bool isHashDerived = false;  // from title and author
+    OnKnownNote onKnownNote = OnKnownNote::MergeNewer;
+    PackedNotes notes = {};
 
-// Returns the books as records, and moves the notes out of them.
-std::vector<host::BookRecord> takeRecords(std::vector<IncomingBook>& books);
+    // With ReplaceOwn: the notes, and versions of notes, that a later record of the file
+    // replaces. The collection has them if the file was loaded before it had that record.
+    PackedNotes replaced = {};
+
+    // By uuid: the uuids that earlier versions of this program derived for the same note.
+    std::unordered_map<std::string, std::vector<std::string>> formerUuids = {};
+
+    // Notes from the dump of another collection, with any tags.
+    std::vector<host::NoteRecord> records = {};
+};
 
 }  // namespace client

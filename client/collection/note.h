@@ -17,7 +17,9 @@ struct Note {
     std::string comment;    // as text
     std::string picture;    // the bytes of an image file
     std::int64_t time = 0;  // when the note was made, in seconds since the Unix epoch
-    std::int64_t commentTime = 0;  // counts only if it is later
+    // When the comment, and when the other parts changed last; count only if later.
+    std::int64_t commentTime = 0;
+    std::int64_t changeTime = 0;
 };
 
 }  // namespace client

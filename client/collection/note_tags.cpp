@@ -33,18 +33,19 @@ std::optional<double> pageAt(const std::string& uri) {
 
 host::NoteRecord toRecord(Note note) {
     host::NoteRecord record{note.uuid, {}};
+    const std::int64_t time = std::max(note.time, note.changeTime);
     addText(record, host::kUuidTag, std::move(note.uuid), note.time);
     if (note.page) {
         record.tags.push_back(
-            {host::kAnchorTag, "", positionJson("anchor", *note.page), note.time});
+            {host::kAnchorTag, "", positionJson("anchor", *note.page), time});
         record.tags.push_back(
-            {host::kRangeTag, "", positionJson("begin", *note.page), note.time});
+            {host::kRangeTag, "", positionJson("begin", *note.page), time});
     }
-    addText(record, host::kColorTag, std::move(note.color), note.time);
-    addText(record, host::kTextTag, std::move(note.text), note.time);
+    addText(record, host::kColorTag, std::move(note.color), time);
+    addText(record, host::kTextTag, std::move(note.text), time);
     addText(record, host::kCommentTag, std::move(note.comment),
             std::max(note.time, note.commentTime));
-    addText(record, host::kImageTag, std::move(note.picture), note.time);
+    addText(record, host::kImageTag, std::move(note.picture), time);
     return record;
 }
 

@@ -1,34 +1,24 @@
-#include <algorithm>
-
 #include "client/collection/collection_folder.h"
-#include "client/collection/incoming_books.h"
+#include "client/collection/loading.h"
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
 #include "client/sources/source.h"
-#include "client/text/control_characters.h"
-#include "client/text/first_few.h"
 
 namespace client {
 namespace {
 
-std::string keptNotes(const std::vector<host::KeptNote>& notes) {
-    if (notes.empty()) {
-        return {};
-    }
-    std::vector<std::string> lines;
-    for (std::size_t i = 0; i < std::min(notes.size(), kMaxNamed); ++i) {
-        lines.push_back(oneLine(notes[i].uuid) + " of " + oneLine(notes[i].fastHash) +
-                        "  \"" + oneLine(notes[i].title) + "\"");
-    }
-    return "Kept the collection's version of these notes; the file's differ but are not "
-           "newer:\n" +
-           firstFew(lines, notes.size());
+std::string keptNotes(const FirstFew& notes) {
+    return notes.isEmpty()
+               ? ""
+               : "Kept the collection's version of these notes; the file's differ but are "
+                 "not newer:\n" +
+                     notes.text();
 }
 
 // Nothing is written before all of the file is known to be right.
 Outcome loadFile(const std::string& file, std::size_t files) {
     SourceContent content = readSource(file);
-    const host::LoadResult notes =
+    const LoadResult notes =
         addToCollection(content.books, content.onKnownBook, content.styleSheet);
     return {resultOf(file, files, notes.changed),
             content.skipped.summary(file) + keptNotes(notes.kept)};

@@ -12,6 +12,16 @@
 
 namespace client {
 
+std::string DigestValue::hexadecimal() const {
+    XXH128_canonical_t canonical;
+    XXH128_canonicalFromHash(&canonical, hash);
+    std::string digits;
+    for (const unsigned char byte : canonical.digest) {
+        digits += client::hexadecimal(byte);
+    }
+    return digits;
+}
+
 Digest::Digest() : state_(XXH3_createState(), XXH3_freeState) {
     if (state_ == nullptr) {
         throw std::bad_alloc();
@@ -26,16 +36,6 @@ void Digest::add(std::string_view bytes) {
 void Digest::addText(std::string_view text) {
     add(std::to_string(text.size()) + ':');
     add(text);
-}
-
-std::string Digest::hexadecimal() const {
-    XXH128_canonical_t hash;
-    XXH128_canonicalFromHash(&hash, XXH3_128bits_digest(state_.get()));
-    std::string digits;
-    for (const unsigned char byte : hash.digest) {
-        digits += client::hexadecimal(byte);
-    }
-    return digits;
 }
 
 std::string contentDigest(const std::string& path) {

@@ -3,11 +3,28 @@
 
 #include <xxhash.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace client {
+
+// Bytes of a digest, to be compared.
+struct DigestValue {
+    XXH128_hash_t hash;
+
+    bool operator==(const DigestValue& other) const {
+        return XXH128_isEqual(hash, other.hash) != 0;
+    }
+    std::string hexadecimal() const;
+
+    struct Hash {
+        std::size_t operator()(const DigestValue& value) const {
+            return static_cast<std::size_t>(value.hash.low64);
+        }
+    };
+};
 
 class Digest {
 public:
@@ -18,7 +35,8 @@ public:
     // Also adds the length, so that no other sequence of texts gives the same digest.
     void addText(std::string_view text);
 
-    std::string hexadecimal() const;
+    DigestValue value() const { return {XXH3_128bits_digest(state_.get())}; }
+    std::string hexadecimal() const { return value().hexadecimal(); }
 
 private:
     std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)> state_;

@@ -1,4 +1,4 @@
-// Case folding, for comparisons.
+// Forms of texts for comparisons: case folding and Unicode normalization.
 #pragma once
 
 #include <string>
@@ -13,5 +13,9 @@ std::string caseFolded(const std::string& text);
 
 // Also makes characters equal that differ only in form, such as full-width digits.
 std::string caseFoldedNfkc(const std::string& text);
+
+// Returns the name for comparing with other names: composed, without invisible characters,
+// with one space for each run of spaces, and none at its ends. Case stays.
+std::string comparableName(const std::string& name);
 
 }  // namespace client

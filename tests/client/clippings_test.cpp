@@ -73,7 +73,8 @@ Clipping marked(std::int64_t first, std::int64_t last, const std::string& text,
 }
 
 Clipping noteAt(std::int64_t place, const std::string& text, std::int64_t time = 0) {
-    Clipping clipping = marked(place, place, text, ClippingKind::Note);
+    Clipping clipping = marked(place, place, "", ClippingKind::Note);
+    clipping.note.comment = text;
     clipping.note.time = time;
     return clipping;
 }
@@ -88,16 +89,20 @@ Clipping nowhere(Clipping clipping) {
     return clipping;
 }
 
-// Returns the clippings that remain, each with the index whose identity it has.
-std::string shownPassages(std::vector<Clipping> clippings) {
-    client::dropSuperseded(clippings);
-    client::attachNotes(clippings);
+// Returns the notes that remain, each with the number of the clipping whose uuid it has,
+// and its times if they differ from that of its clipping.
+std::string shownPassages(const std::vector<Clipping>& clippings) {
+    client::Passages passages;
+    for (std::size_t i = 0; i < clippings.size(); ++i) {
+        Clipping clipping = clippings[i];
+        clipping.note.uuid = std::to_string(i);
+        passages.add(std::move(clipping));
+    }
+    client::IncomingBook book;
+    passages.moveTo(book);
     std::string shown;
-    for (const Clipping& clipping : clippings) {
-        if (!clipping.isDropped) {
-            shown += std::to_string(clipping.origin) + ':' + clipping.note.text + '/' +
-                     clipping.note.comment + ' ';
-        }
+    for (const client::Note& note : book.notes) {
+        shown += note.uuid + ':' + note.text + '/' + note.comment + ' ';
     }
     return shown;
 }
@@ -115,7 +120,7 @@ TEST(Passages, LatestVersionTakesOverIdentity) {
         {"to one end", {marked(12, 14, "c"), whole}, "0:abc/ "},
         {"the same again", {whole, whole}, "0:abc/ "},
         {"thrice", {marked(10, 11, "a"), marked(10, 12, "ab"), whole}, "0:abc/ "},
-        {"inside, at neither end", {marked(11, 13, "b"), whole}, "0:b/ 1:abc/ "},
+        {"inside, at neither end", {marked(11, 13, "b"), whole}, "1:abc/ 0:b/ "},
         {"other text", {marked(10, 12, "x"), whole}, "0:x/ 1:abc/ "},
         {"shorter later", {whole, marked(10, 12, "a")}, "0:abc/ 1:a/ "},
         {"on pages", {onPages(marked(10, 12, "a")), onPages(whole)}, "0:abc/ "},
@@ -140,7 +145,7 @@ TEST(Passages, NoteBecomesCommentOfItsPassage) {
         {"at the start", {a, noteAt(10, "n")}, "0:a/n "},
         {"at the end", {a, noteAt(14, "n")}, "0:a/n "},
         {"made before the passage", {n, a}, "1:a/n "},
-        {"before the start", {a, noteAt(9, "n")}, "0:a/ 1:/n "},
+        {"before the start", {a, noteAt(9, "n")}, "1:/n 0:a/ "},
         {"behind the end", {a, noteAt(15, "n")}, "0:a/ 1:/n "},
         {"latest before it", {a, b, n, marked(12, 12, "c")}, "0:a/ 1:b/n 3:c/ "},
         {"marked again", {marked(10, 11, "a"), n, marked(10, 14, "ab")}, "0:ab/n "},
@@ -151,18 +156,55 @@ TEST(Passages, NoteBecomesCommentOfItsPassage) {
         {"page and location", {onPages(a), n}, "0:a/ 1:/n "},
         {"page of a passage with a location", {both, onPages(n)}, "0:b/ 1:/n "},
         {"bookmark", {marked(12, 12, "", ClippingKind::Bookmark), n}, "0:/ 1:/n "},
-        {"without a place", {a, nowhere(n)}, "0:a/ 1:/n "},
+        {"without a place", {a, nowhere(n)}, "1:/n 0:a/ "},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(shownPassages(row.clippings), row.remaining) << row.name;
     }
 }
 
-TEST(Passages, CommentHasTimeOfLatestRemark) {
-    std::vector<Clipping> clippings = {marked(1, 9, "a"), noteAt(2, "m", 200),
-                                       noteAt(3, "n", 100)};
-    client::attachNotes(clippings);
-    EXPECT_EQ(clippings[0].note.commentTime, 200);
+struct Times {
+    std::int64_t time, changeTime, commentTime;
+};
+
+TEST(Passages, LaterRecordIsNewer) {
+    const auto at = [](Clipping clipping, std::int64_t time) {
+        clipping.note.time = time;
+        return clipping;
+    };
+    const Clipping part = marked(1, 5, "a");
+    const Clipping whole = marked(1, 9, "ab");
+    const struct {
+        const char* name;
+        std::vector<Clipping> clippings;
+        Times times;
+    } rows[] = {
+        {"marked again", {at(part, 100), at(whole, 200)}, {200, 101, 0}},
+        {"by an earlier clock", {at(part, 100), at(whole, 90)}, {90, 101, 0}},
+        {"undated", {part, whole}, {0, 1, 0}},
+        {"remark", {at(whole, 100), noteAt(2, "m", 200)}, {100, 0, 200}},
+        {"remarks by an earlier clock",
+         {at(whole, 1), noteAt(2, "m", 200), noteAt(3, "n", 100)},
+         {1, 0, 201}},
+        {"marked again, with a remark",
+         {at(part, 100), noteAt(2, "m", 200), at(whole, 90)},
+         {90, 101, 201}},
+        {"two joined, of which one has a remark",
+         {at(part, 100), noteAt(2, "m", 200), at(marked(6, 9, "b"), 300), at(whole, 50)},
+         {50, 301, 201}},
+    };
+    for (const auto& row : rows) {
+        client::Passages passages;
+        for (const Clipping& clipping : row.clippings) {
+            passages.add(clipping);
+        }
+        client::IncomingBook book;
+        passages.moveTo(book);
+        const client::Note note = *book.notes.begin();
+        EXPECT_EQ(note.time, row.times.time) << row.name;
+        EXPECT_EQ(note.changeTime, row.times.changeTime) << row.name;
+        EXPECT_EQ(note.commentTime, row.times.commentTime) << row.name;
+    }
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "client/collection/incoming_books.h"
 #include "client/collection/note_filter.h"
 #include "client/collection/note_reader.h"
 #include "sample_source.h"
@@ -74,8 +73,7 @@ TEST(Collection, GivesBackEveryFieldOfNote) {
     notes[0].picture = std::string("\0\xFF", 2);
     notes[0].page = -1e300 / 3;
     notes[1].page = 1.0 / 3;
-    std::vector<client::IncomingBook> books = {{{"ab", "Emma", "", ""}, notes, {}}};
-    client::addToCollection(books, host::OnKnownBook::FillEmpty, {});
+    addBook({"ab", "Emma", "", ""}, notes);
     client::NoteFilter filter;
     filter.ids = {1, 2, 9};
     client::NoteReader reader(filter);

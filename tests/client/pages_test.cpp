@@ -11,10 +11,10 @@
 #include <set>
 #include <string>
 
-#include "client/collection/incoming_books.h"
 #include "client/error.h"
 #include "client/pages/page_export.h"
 #include "file_systems.h"
+#include "sample_source.h"
 #include "scratch_files.h"
 #include "store/database_paths.h"
 
@@ -30,8 +30,7 @@ void load(std::int64_t time, const std::string& author = "Austen") {
     note.text = "handsome, clever";
     note.color = "yellow";
     note.time = time;
-    std::vector<client::IncomingBook> books = {{{"0a", "Emma", author, ""}, {note}, {}}};
-    client::addToCollection(books, host::OnKnownBook::Overwrite, "p {}");
+    addBook({"0a", "Emma", author, ""}, {note}, "p {}");
 }
 
 void inDatabase(const char* path, const std::string& sql) {

@@ -3,8 +3,11 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "client/collection/loading.h"
 #include "client/error.h"
 #include "client/listings/listing.h"
 #include "client/sources/source.h"
@@ -27,6 +30,16 @@ inline std::string show(const client::Note& note) {
            '|' + note.comment + '|' + note.picture + '|' + client::timeText(note);
 }
 
+// Adds a book with the notes to the collection.
+inline void addBook(const client::Book& book, const std::vector<client::Note>& notes,
+                    const std::optional<std::string>& styleSheet = {}) {
+    std::vector<client::IncomingBook> books = {{book}};
+    for (const client::Note& note : notes) {
+        books[0].notes.add(note);
+    }
+    client::addToCollection(books, host::OnKnownBook::Overwrite, styleSheet);
+}
+
 // Returns a line for each note.
 inline std::string shownNotes(const std::string& content) {
     std::string shown;
@@ -44,9 +57,9 @@ inline std::string shownSample(const std::string& content) {
     std::string shown;
     try {
         const client::SourceContent source = readSample(content);
-        for (const auto& [book, notes, records] : source.books) {
-            shown += book.title + " by " + book.author + ':';
-            for (const client::Note& note : notes) {
+        for (const client::IncomingBook& book : source.books) {
+            shown += book.book.title + " by " + book.book.author + ':';
+            for (const client::Note& note : book.notes) {
                 shown += ' ' + note.uuid;
             }
             shown += '\n';

@@ -11,7 +11,6 @@
 
 #include "c_exporter.h"
 #include "cases.h"
-#include "client/collection/incoming_books.h"
 #include "client/text/line_breaks.h"
 #include "sample_source.h"
 
@@ -115,20 +114,19 @@ client::Note asShown(client::Note note) {
 TEST(VisiblePage, GivesBackTheNotesOfItsExport) {
     const ScratchDirectory scratch;
     std::mt19937 random(1);
-    client::IncomingBook book{
-        {"ab", std::string("T") + kOddLine, std::string(kOddLine) + 'Z', ""}, {}, {}};
+    const client::Book book{"ab", std::string("T") + kOddLine, std::string(kOddLine) + 'Z',
+                            ""};
+    std::vector<client::Note> notes;
     for (int number = 0; number < 1000; ++number) {
-        book.notes.push_back(oddNote(random, number));
+        notes.push_back(oddNote(random, number));
     }
-    const std::vector<client::Note> notes = book.notes;
-    std::vector<client::IncomingBook> books = {std::move(book)};
-    client::addToCollection(books, host::OnKnownBook::FillEmpty, {});
+    addBook(book, notes);
     const CExporter exporter("ab", "pages");
     const std::string file = exporter.fileName();
     ASSERT_EQ(exporter.exportNotes(), 0);
     const client::VisiblePage page = readVisiblePage(readFile(file));
-    EXPECT_EQ(page.heading.substr(22), books[0].book.title);
-    EXPECT_EQ(page.author, books[0].book.author);
+    EXPECT_EQ(page.heading.substr(22), book.title);
+    EXPECT_EQ(page.author, book.author);
     ASSERT_EQ(page.notes.size(), notes.size());
     for (std::size_t i = 0; i < notes.size(); ++i) {
         EXPECT_EQ(show(page.notes[i]), show(asShown(notes[i])));

@@ -1,7 +1,6 @@
 // One record of a clippings file.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,13 +24,8 @@ struct Clipping {
     std::optional<ClippingKind> kind = {};
     std::optional<ClippingRange> page = {};  // nullopt also for Roman numerals
     std::optional<ClippingRange> location = {};
-    Note note = {};                // text and time; passages.h adds comments
+    Note note = {};                // text and time
     bool hasLimitMessage = false;  // instead of the passage
-
-    // Set by passages.h.
-    std::size_t origin = 0;         // index of the clipping whose identity it has
-    std::size_t latestComment = 0;  // offset of the latest remark in the comment
-    bool isDropped = false;         // merged into another clipping
 };
 
 // Reads the lines of one record, without the line that ends it. Returns nullopt if they are

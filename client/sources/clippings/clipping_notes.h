@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "client/sources/clippings/clipping.h"
+#include "client/sources/clippings/passages.h"
 #include "client/sources/content/book_shelf.h"
 
 namespace client {
@@ -14,14 +15,12 @@ public:
     // Adds the next record of the file.
     void add(Clipping clipping);
 
-    // Returns the books with their notes, in the order of the file, and removes them. A
-    // note of the user becomes the comment of the passage around it. If a passage was
-    // marked again, from the same start or to the same end, the latest version is used.
+    // Returns the books with their notes, in the order of the file, and removes them.
     std::vector<IncomingBook> take();
 
 private:
     BookShelf shelf_;
-    std::unordered_map<ShelvedBook*, std::vector<Clipping>> clippings_;
+    std::unordered_map<ShelvedBook*, Passages> passages_;
 };
 
 }  // namespace client

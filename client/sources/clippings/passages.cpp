@@ -3,28 +3,15 @@
 #include <string.h>
 
 #include <algorithm>
-#include <functional>
-#include <map>
-#include <optional>
-#include <queue>
-#include <set>
+#include <string>
 #include <utility>
 
 namespace client {
 namespace {
 
-enum class Unit { Location, Page };
-
-// Pages count only for clippings without a location.
-std::optional<ClippingRange> rangeOf(const Clipping& clipping, Unit unit) {
-    return unit == Unit::Location ? clipping.location
-           : clipping.location    ? std::nullopt
-                                  : clipping.page;
-}
-
-bool isMarked(const Clipping& passage) {
-    return !passage.isDropped && (passage.kind == ClippingKind::Highlight ||
-                                  passage.kind == ClippingKind::Article);
+bool isMarked(const Clipping& clipping) {
+    return clipping.kind == ClippingKind::Highlight ||
+           clipping.kind == ClippingKind::Article;
 }
 
 // Returns whether `text` contains `part`, in linear time.
@@ -32,157 +19,150 @@ bool contains(const std::string& text, const std::string& part) {
     return memmem(text.data(), text.size(), part.data(), part.size()) != nullptr;
 }
 
-bool supersedes(const Clipping& later, const Clipping& earlier, Unit unit) {
-    const auto whole = rangeOf(later, unit);
-    const auto part = rangeOf(earlier, unit);
-    return isMarked(earlier) && part->first >= whole->first && part->last <= whole->last &&
-           contains(later.note.text, earlier.note.text);
+bool contains(const ClippingRange& range, const ClippingRange& part) {
+    return part.first >= range.first && part.last <= range.last;
 }
 
-// The latest passage for each start and for each end.
-class Latest {
-public:
-    explicit Latest(Unit unit) : unit_(unit) {}
+std::int64_t timeOfText(const Note& note) { return std::max(note.time, note.changeTime); }
 
-    void drop(std::vector<Clipping>& passages, std::size_t later) {
-        Clipping& passage = passages[later];
-        const auto range = rangeOf(passage, unit_);
-        if (!range || !isMarked(passage)) {
-            return;
-        }
-        for (std::size_t* latest : {&latestAt(byStart_, range->first, later),
-                                    &latestAt(byEnd_, range->last, later)}) {
-            Clipping& earlier = passages[std::exchange(*latest, later)];
-            if (&earlier != &passage && supersedes(passage, earlier, unit_)) {
-                earlier.isDropped = true;
-                passage.origin = earlier.origin;
-            }
-        }
-    }
-
-private:
-    using ByPosition = std::map<std::int64_t, std::size_t>;
-
-    static std::size_t& latestAt(ByPosition& positions, std::int64_t position,
-                                 std::size_t latest) {
-        return positions.try_emplace(position, latest).first->second;
-    }
-
-    const Unit unit_;
-    ByPosition byStart_;
-    ByPosition byEnd_;
-};
-
-// Adds a comment. A note that contains the previous one replaces it.
-void addComment(Clipping& passage, const Clipping& note) {
-    const std::string& text = note.note.text;
-    std::string& comment = passage.note.comment;
-    if (!contains(text, comment.substr(passage.latestComment))) {
-        comment += "\u2029";  // PARAGRAPH SEPARATOR
-        passage.latestComment = comment.size();
-    }
-    comment.replace(passage.latestComment, std::string::npos, text);
-    passage.note.commentTime = std::max(passage.note.commentTime, note.note.time);
+std::int64_t timeOfComment(const Note& note) {
+    return std::max(note.time, note.commentTime);
 }
 
-// A pass through the book, with the passages that contain the current position.
-class Sweep {
-public:
-    Sweep(const std::vector<Clipping>& passages, Unit unit);
-
-    // Returns the passage for the note at this position; positions must not decrease.
-    std::optional<std::size_t> passageAt(std::int64_t position, std::size_t note);
-
-private:
-    struct Marked {
-        ClippingRange range;
-        std::size_t passage;
-    };
-
-    void goTo(std::int64_t position);
-
-    std::vector<Marked> ahead_;  // by descending start
-    std::set<std::size_t> here_;
-    using End = std::pair<std::int64_t, std::size_t>;
-    std::priority_queue<End, std::vector<End>, std::greater<>> ends_;
-};
-
-Sweep::Sweep(const std::vector<Clipping>& passages, Unit unit) {
-    for (std::size_t i = 0; i < passages.size(); ++i) {
-        if (const auto range = rangeOf(passages[i], unit); range && isMarked(passages[i])) {
-            ahead_.push_back({*range, i});
-        }
-    }
-    std::sort(ahead_.begin(), ahead_.end(), [](const Marked& a, const Marked& b) {
-        return a.range.first > b.range.first;
-    });
+std::int64_t positionOf(const std::optional<ClippingRange>& range) {
+    return range ? range->first : 0;
 }
 
-void Sweep::goTo(std::int64_t position) {
-    for (; !ahead_.empty() && ahead_.back().range.first <= position; ahead_.pop_back()) {
-        here_.insert(ahead_.back().passage);
-        ends_.emplace(ahead_.back().range.last, ahead_.back().passage);
+// Adds `more` to `all`, in the time of the shorter one.
+void append(std::vector<std::size_t>& all, std::vector<std::size_t> more) {
+    if (all.size() < more.size()) {
+        all.swap(more);
     }
-    for (; !ends_.empty() && ends_.top().first < position; ends_.pop()) {
-        here_.erase(ends_.top().second);
-    }
-}
-
-std::optional<std::size_t> Sweep::passageAt(std::int64_t position, std::size_t note) {
-    goTo(position);
-    if (here_.empty()) {
-        return std::nullopt;
-    }
-    const auto next = here_.lower_bound(note);
-    return next == here_.begin() ? *next : *std::prev(next);
-}
-
-// Returns the user's notes that are not attached yet and have a position in the unit,
-// ordered by position.
-std::vector<std::size_t> notesByPosition(const std::vector<Clipping>& passages, Unit unit) {
-    std::vector<std::size_t> notes;
-    for (std::size_t i = 0; i < passages.size(); ++i) {
-        if (passages[i].kind == ClippingKind::Note && !passages[i].isDropped &&
-            rangeOf(passages[i], unit)) {
-            notes.push_back(i);
-        }
-    }
-    std::stable_sort(notes.begin(), notes.end(), [&](std::size_t a, std::size_t b) {
-        return rangeOf(passages[a], unit)->first < rangeOf(passages[b], unit)->first;
-    });
-    return notes;
+    all.insert(all.end(), more.begin(), more.end());
 }
 
 }  // namespace
 
-void dropSuperseded(std::vector<Clipping>& passages) {
-    for (std::size_t i = 0; i < passages.size(); ++i) {
-        passages[i].origin = i;
+// Pages count only for clippings without a location.
+void Passages::add(Clipping clipping) {
+    const std::size_t index = marks_.size();
+    const bool isLocated = clipping.location.has_value();
+    marks_.push_back(
+        {std::move(clipping.note), isLocated ? clipping.location : clipping.page});
+    Marks& marks = isLocated ? withLocation_ : withPage_;
+    if (!marks_.back().range) {
+        return;
     }
-    for (const Unit unit : {Unit::Location, Unit::Page}) {
-        Latest latest(unit);
-        for (std::size_t i = 0; i < passages.size(); ++i) {
-            latest.drop(passages, i);
-        }
+    if (isMarked(clipping)) {
+        addPassage(marks, index);
+    } else if (clipping.kind == ClippingKind::Note) {
+        addRemark(marks, index);
     }
 }
 
-void attachNotes(std::vector<Clipping>& passages) {
-    for (const Unit unit : {Unit::Location, Unit::Page}) {
-        Sweep sweep(passages, unit);
-        for (const std::size_t note : notesByPosition(passages, unit)) {
-            const std::int64_t position = rangeOf(passages[note], unit)->first;
-            if (const auto passage = sweep.passageAt(position, note)) {
-                addComment(passages[*passage], passages[note]);
-                passages[note].isDropped = true;
-            }
+void Passages::addPassage(Marks& marks, std::size_t index) {
+    const ClippingRange range = *marks_[index].range;
+    for (std::size_t* latest :
+         {&marks.byStart.try_emplace(range.first, index).first->second,
+          &marks.byEnd.try_emplace(range.last, index).first->second}) {
+        replaceIfContained(std::exchange(*latest, index), index);
+    }
+    marks.passages.add(range, index);
+    const auto first = marks.remarks.lower_bound(range.first);
+    const auto end = marks.remarks.upper_bound(range.last);
+    for (auto remark = first; remark != end; ++remark) {
+        attach(remark->second, marks_[index]);
+    }
+    marks.remarks.erase(first, end);
+}
+
+void Passages::addRemark(Marks& marks, std::size_t index) {
+    const std::int64_t position = marks_[index].range->first;
+    if (const auto passage = marks.passages.at(position)) {
+        attach(index, marks_[*passage]);
+    } else {
+        marks.remarks.emplace(position, index);
+    }
+}
+
+void Passages::replaceIfContained(std::size_t earlierIndex, std::size_t laterIndex) {
+    Mark& earlier = marks_[earlierIndex];
+    Mark& later = marks_[laterIndex];
+    if (earlierIndex == laterIndex || earlier.isDropped ||
+        !contains(*later.range, *earlier.range) ||
+        !contains(later.note.text, earlier.note.text)) {
+        return;
+    }
+    replaced_.add(later.note);
+    replaced_.add(earlier.note);
+    later.note.uuid = std::move(earlier.note.uuid);
+    later.note.page = later.note.page ? later.note.page : earlier.note.page;
+    later.note.changeTime = std::max(later.note.changeTime, timeOfText(earlier.note) + 1);
+    if (!earlier.remarks.empty()) {
+        later.note.commentTime =
+            std::max(later.note.commentTime, timeOfComment(earlier.note) + 1);
+        append(later.remarks, std::move(earlier.remarks));
+    }
+    earlier = {};
+    earlier.isDropped = true;
+}
+
+void Passages::attach(std::size_t remarkIndex, Mark& passage) {
+    Mark& remark = marks_[remarkIndex];
+    replaced_.add(remark.note);
+    const std::int64_t later =
+        passage.remarks.empty() ? remark.note.time : timeOfComment(passage.note) + 1;
+    passage.note.commentTime =
+        std::max({passage.note.commentTime, remark.note.time, later});
+    passage.remarks.push_back(remarkIndex);
+    remark.isDropped = true;
+}
+
+// Of a remark and a later one at the same position that contains it, only the later one
+// counts.
+std::string Passages::commentOf(Mark& mark) const {
+    const auto position = [this](std::size_t remark) {
+        return std::pair(positionOf(marks_[remark].range), remark);
+    };
+    std::sort(mark.remarks.begin(), mark.remarks.end(),
+              [&](std::size_t a, std::size_t b) { return position(a) < position(b); });
+    std::string comment;
+    std::size_t latest = 0;  // offset of the latest remark
+    for (const std::size_t remark : mark.remarks) {
+        const std::string& text = marks_[remark].note.comment;
+        if (!contains(text, comment.substr(latest))) {
+            comment += "\u2029";  // PARAGRAPH SEPARATOR
+            latest = comment.size();
+        }
+        comment.replace(latest, std::string::npos, text);
+    }
+    return comment;
+}
+
+std::vector<std::size_t> Passages::remainingByPosition() const {
+    std::vector<std::size_t> indices;
+    for (std::size_t i = 0; i < marks_.size(); ++i) {
+        if (!marks_[i].isDropped) {
+            indices.push_back(i);
         }
     }
-    for (Clipping& passage : passages) {
-        if (passage.kind == ClippingKind::Note) {
-            passage.note.comment = std::exchange(passage.note.text, {});
+    std::stable_sort(indices.begin(), indices.end(), [this](std::size_t a, std::size_t b) {
+        return positionOf(marks_[a].range) < positionOf(marks_[b].range);
+    });
+    return indices;
+}
+
+void Passages::moveTo(IncomingBook& book) {
+    for (const std::size_t index : remainingByPosition()) {
+        Mark& mark = marks_[index];
+        if (!mark.remarks.empty()) {
+            mark.note.comment = commentOf(mark);
         }
+        book.notes.add(mark.note);
+        mark.note = {};
     }
+    book.replaced = std::move(replaced_);
+    marks_.clear();
 }
 
 }  // namespace client

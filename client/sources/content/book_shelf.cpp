@@ -1,54 +1,73 @@
 #include "client/sources/content/book_shelf.h"
 
+#include <string_view>
 #include <utility>
-
-#include "client/files/digest.h"
 
 namespace client {
 namespace {
 
-// Returns hexadecimal digits that depend only on the parts.
-std::string derivedId(const std::vector<std::string_view>& parts) {
+// Returns a digest that depends only on the parts.
+DigestValue digestOf(const std::vector<std::string_view>& parts) {
     Digest digest;
     for (const std::string_view part : parts) {
         digest.add(std::string_view("\0", 1));
         digest.add(part);
     }
-    return digest.hexadecimal();
-}
-
-std::string derivedUuid(const std::string& bookHash, const Identity& identity) {
-    std::vector<std::string_view> parts = {bookHash};
-    parts.insert(parts.end(), identity.begin(), identity.end());
-    return derivedId(parts);
+    return digest.value();
 }
 
 }  // namespace
 
-void ShelvedBook::add(Note note, const Identity& identity) {
+std::string ShelvedBook::derivedUuid(const Identity& identity) const {
+    std::vector<std::string_view> parts = {content_.book.hash};
+    parts.insert(parts.end(), identity.begin(), identity.end());
+    return digestOf(parts).hexadecimal();
+}
+
+bool ShelvedBook::identify(Note& note, const Identity& identity) {
     if (note.uuid.empty()) {
-        note.uuid = derivedUuid(content_.book.hash, identity);
+        note.uuid = derivedUuid(identity);
     }
-    const std::string content =
-        derivedId({note.text, note.comment, note.color, note.picture});
-    const auto taken = contents_.find(note.uuid);
-    if (taken != contents_.end() && taken->second != content) {
-        note.uuid = derivedId({note.uuid, content});
+    const DigestValue content =
+        digestOf({note.text, note.comment, note.color, note.picture});
+    const auto [first, isNew] = contents_.emplace(digestOf({note.uuid}), content);
+    if (isNew || first->second == content) {
+        return isNew;
     }
-    if (contents_.emplace(note.uuid, content).second) {
-        content_.notes.push_back(std::move(note));
+    note.uuid = digestOf({note.uuid, content.hexadecimal()}).hexadecimal();
+    return contents_.emplace(digestOf({note.uuid}), content).second;
+}
+
+void ShelvedBook::add(Note note, const Identity& identity) {
+    if (identify(note, identity)) {
+        content_.notes.add(note);
+    }
+}
+
+void ShelvedBook::add(Note note, const Identity& identity,
+                      const std::vector<Identity>& former) {
+    if (identify(note, identity)) {
+        std::vector<std::string>& uuids = content_.formerUuids[note.uuid];
+        for (const Identity& other : former) {
+            uuids.push_back(derivedUuid(other));
+        }
+        content_.notes.add(note);
     }
 }
 
 ShelvedBook& BookShelf::book(const std::string& title, const std::string& author) {
-    return book(derivedId({title, author}), title, author);
+    return book({digestOf({title, author}).hexadecimal(), title, author, ""}, true);
 }
 
 ShelvedBook& BookShelf::book(const std::string& hash, const std::string& title,
                              const std::string& author) {
-    const auto [entry, isNew] = indices_.try_emplace(hash, books_.size());
+    return book({hash, title, author, ""}, false);
+}
+
+ShelvedBook& BookShelf::book(const Book& book, bool isHashDerived) {
+    const auto [entry, isNew] = indices_.try_emplace(book.hash, books_.size());
     if (isNew) {
-        books_.emplace_back(Book{hash, title, author, ""});
+        books_.emplace_back(IncomingBook{book, isHashDerived});
     }
     return books_[entry->second];
 }
@@ -56,9 +75,11 @@ ShelvedBook& BookShelf::book(const std::string& hash, const std::string& title,
 std::vector<IncomingBook> BookShelf::take() {
     std::vector<IncomingBook> content;
     content.reserve(books_.size());
-    for (ShelvedBook& shelved : books_) {
-        content.push_back(shelved.take());
+    while (!books_.empty()) {
+        content.push_back(std::move(books_.front().content()));
+        books_.pop_front();
     }
+    indices_.clear();
     return content;
 }
 

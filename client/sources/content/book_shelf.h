@@ -3,12 +3,13 @@
 
 #include <cstddef>
 #include <deque>
+#include <optional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "client/collection/incoming_books.h"
+#include "client/files/digest.h"
 
 namespace client {
 
@@ -18,18 +19,29 @@ using Identity = std::vector<std::string>;
 // A book to which notes are added.
 class ShelvedBook {
 public:
-    explicit ShelvedBook(Book book) : content_{std::move(book), {}, {}} {}
+    // The hash from which uuids are derived is that of `book`.
+    explicit ShelvedBook(IncomingBook book) : content_(std::move(book)) {}
 
-    // Adds the note. If it has no uuid, one is derived from the book and `identity`, equal
-    // on every machine. If the book already has a note with the uuid, an equal note is
-    // dropped, and another one gets a uuid derived from its content.
-    void add(Note note, const Identity& identity);
+    // Sets the note's uuid. If it has none, one is derived from the book and `identity`,
+    // equal on every machine. If the book already has a note with the uuid, another note
+    // gets a uuid derived from its content. Returns false if the notes are equal.
+    bool identify(Note& note, const Identity& identity);
 
-    IncomingBook take() { return std::move(content_); }
+    // Adds the note with the uuid that identify() gives, unless the book has it.
+    void add(Note note, const Identity& identity = {});
+
+    // Adds a note without a uuid. If the collection has it under the uuid of one of the
+    // `former` identities, it keeps that.
+    void add(Note note, const Identity& identity, const std::vector<Identity>& former);
+
+    IncomingBook& content() { return content_; }
 
 private:
+    std::string derivedUuid(const Identity& identity) const;
+
     IncomingBook content_;
-    std::unordered_map<std::string, std::string> contents_;  // of the notes, by uuid
+    // Digests of the contents, by the digests of the uuids.
+    std::unordered_map<DigestValue, DigestValue, DigestValue::Hash> contents_;
 };
 
 // References to its books stay valid.
@@ -46,6 +58,8 @@ public:
     std::vector<IncomingBook> take();
 
 private:
+    ShelvedBook& book(const Book& book, bool isHashDerived);
+
     std::deque<ShelvedBook> books_;
     std::unordered_map<std::string, std::size_t> indices_;  // by hash
 };

@@ -1,12 +1,12 @@
 // The books and notes of a file.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "client/collection/incoming_books.h"
+#include "client/text/first_few.h"
 
 namespace client {
 
@@ -20,8 +20,7 @@ public:
     std::string summary(const std::string& file) const;
 
 private:
-    std::size_t count_ = 0;
-    std::vector<std::string> first_;
+    FirstFew records_;
 };
 
 // Hashes are unique, and uuids are unique within a book.

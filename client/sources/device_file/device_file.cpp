@@ -92,7 +92,9 @@ IncomingBook readBook(const Json::Value& json, const std::string& location,
     IncomingBook book;
     book.book = {readHash(object), object.text("title"), object.text("author"),
                  object.text("path")};
-    book.notes = readNotes(object, location, folder);
+    for (const Note& note : readNotes(object, location, folder)) {
+        book.notes.add(note);
+    }
     object.requireNoOtherMembers();
     return book;
 }

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <ctime>
+#include <set>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,19 +20,6 @@
 
 namespace client {
 namespace {
-
-// Returns the heading's local time, in seconds since the Unix epoch; 0 if it has none.
-std::int64_t timeIn(const std::string& date) {
-    const auto time = parseIsoTime(date);
-    if (!time) {
-        return 0;
-    }
-    const auto asUtc = static_cast<std::time_t>(*time);
-    std::tm local{};
-    gmtime_r(&asUtc, &local);
-    local.tm_isdst = -1;
-    return std::mktime(&local);
-}
 
 struct Heading {
     std::string date;
@@ -59,8 +47,10 @@ std::vector<IncomingBook> visibleBook(VisiblePage& page, SkippedRecords& skipped
     const Heading heading = parseHeading(page.heading);
     BookShelf shelf;
     ShelvedBook& book = bookOf(page, heading.title, shelf);
+    book.content().onKnownNote = OnKnownNote::AddMissing;
+    const std::int64_t time = parseIsoTime(heading.date).value_or(0);
     for (Note& note : page.notes) {
-        note.time = timeIn(heading.date);
+        note.time = time;
         const Identity identity = {note.text, note.comment};
         book.add(std::move(note), identity);
     }
@@ -70,17 +60,21 @@ std::vector<IncomingBook> visibleBook(VisiblePage& page, SkippedRecords& skipped
     return shelf.take();
 }
 
+IncomingBook recordedBook(host::BookRecord record, const VisiblePage& page) {
+    const bool isOfPage = record.fastHash == asciiLowered(page.bookHash);
+    IncomingBook book;
+    book.book = {record.fastHash, record.title, isOfPage ? page.author : "", record.path};
+    book.records = std::move(record.notes);
+    return book;
+}
+
 // Returns no book if there is no dump that this platform can read.
 std::vector<IncomingBook> recordedBooks(const std::string& path, const VisiblePage& page,
                                         SkippedRecords& skipped) {
     std::vector<IncomingBook> books;
     try {
         for (host::BookRecord& record : host::readDump(path)) {
-            const bool isOfPage = record.fastHash == asciiLowered(page.bookHash);
-            books.push_back(
-                {{record.fastHash, record.title, isOfPage ? page.author : "", record.path},
-                 {},
-                 std::move(record.notes)});
+            books.push_back(recordedBook(std::move(record), page));
         }
     } catch (const host::DumpError& error) {
         if (error.result != host::kNoDump) {
@@ -90,13 +84,29 @@ std::vector<IncomingBook> recordedBooks(const std::string& path, const VisiblePa
     return books;
 }
 
+// Returns whether the page shows notes, and the records are not theirs.
+bool areOfAnotherBook(const std::vector<IncomingBook>& books, const VisiblePage& page) {
+    std::set<std::string_view> shown;
+    for (const Note& note : page.notes) {
+        shown.insert(note.uuid);
+    }
+    const auto isShown = [&](const host::NoteRecord& record) {
+        return shown.count(record.uuid) > 0;
+    };
+    return !shown.empty() &&
+           std::none_of(books.begin(), books.end(), [&](const IncomingBook& book) {
+               return std::any_of(book.records.begin(), book.records.end(), isShown);
+           });
+}
+
 }  // namespace
 
 bool isExportedPage(std::string_view start) {
     std::string text(start);
     text.erase(std::remove(text.begin(), text.end(), '\0'), text.end());  // of UTF-16
+    text = asciiLowered(text);
     return text.find("<html") != std::string::npos &&
-           (text.find("Veloran Bookmarks Export") != std::string::npos ||
+           (text.find("veloran bookmarks export") != std::string::npos ||
             text.find("x-veloran-dbdump") != std::string::npos ||
             text.find("bookmark bm-color-") != std::string::npos);
 }
@@ -111,6 +121,9 @@ SourceContent readExportedPage(const std::string& path) {
     }
     if (content.books.empty()) {
         content.books = visibleBook(page, content.skipped);
+    } else if (areOfAnotherBook(content.books, page)) {
+        content.skipped.add(
+            "its records are another book's; what the page shows was not read");
     }
     return content;
 }

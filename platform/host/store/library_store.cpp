@@ -24,7 +24,9 @@ constexpr Schema kSchema = {1, R"(
 constexpr const char* kPutBook =
     "INSERT INTO books (fast_hash, title, author, path) VALUES (?, ?, ?, ?) "
     "ON CONFLICT (fast_hash) DO UPDATE "
-    "SET title = excluded.title, author = excluded.author, path = excluded.path";
+    "SET title = coalesce(nullif(excluded.title, ''), title), "
+    "author = coalesce(nullif(excluded.author, ''), author), "
+    "path = coalesce(nullif(excluded.path, ''), path)";
 constexpr const char* kCompleteBook =
     "INSERT INTO books (fast_hash, title, author, path) VALUES (?, ?, ?, ?) "
     "ON CONFLICT (fast_hash) DO UPDATE "

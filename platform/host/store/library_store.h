@@ -34,7 +34,7 @@ public:
     // Returns whether the database that is at `path` now is this one.
     bool isAt(const std::string& path) const;
 
-    // Adds the book, or replaces the one with its hash.
+    // Adds the book, or changes the one with its hash as OnKnownBook::Overwrite says.
     void putBook(const LibraryBook& book);
 
     // Adds the books in one transaction; `known` says how books with a known hash change.

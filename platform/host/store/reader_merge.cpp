@@ -17,14 +17,16 @@ constexpr const char* kInsertNote =
 constexpr const char* kFindNote = "SELECT id FROM notes WHERE book_id = ? AND uuid = ?";
 // Both skip equal values, because such an update would still write to the file.
 constexpr const char* kCorrectBook =
-    "UPDATE books SET title = ?2, path = ?3 WHERE fast_hash = ?1 AND (title, path) IS NOT "
-    "(?2, ?3)";
+    "UPDATE books SET title = coalesce(nullif(?2, ''), title), path = "
+    "coalesce(nullif(?3, ''), path) WHERE fast_hash = ?1 AND ((?2 <> '' AND title <> ?2) "
+    "OR "
+    "(?3 <> '' AND path <> ?3))";
 constexpr const char* kCompleteBook =
     "UPDATE books SET title = coalesce(nullif(title, ''), ?2), path = "
     "coalesce(nullif(path, ''), ?3) WHERE fast_hash = ?1 AND ((title = '' AND ?2 <> '') OR "
     "(path = '' AND ?3 <> ''))";
-constexpr const char* kFindOtherTag =
-    "SELECT 1 FROM tags WHERE note_id = ? AND tag = ? AND (text, json) IS NOT (?, ?)";
+constexpr const char* kRemoveTags = "DELETE FROM tags WHERE note_id = ?";
+constexpr const char* kRemoveNote = "DELETE FROM notes WHERE id = ?";
 
 // Several tags in one statement take a quarter less time than one statement for each.
 constexpr std::size_t kMaxTagsAtOnce = 8;
@@ -71,27 +73,15 @@ int ReaderStore::merge(const std::vector<BookRecord>& books) {
     return merged;
 }
 
-LoadResult ReaderStore::load(const std::vector<BookRecord>& books, OnKnownBook known) {
-    LoadResult result;
-    connection_->write([&] {
-        for (const BookRecord& book : books) {
-            loadBook(book, known, result);
-        }
-    });
-    return result;
+void ReaderStore::inWriteTransaction(const std::function<void()>& work) {
+    connection_->write(work);
 }
 
-void ReaderStore::loadBook(const BookRecord& book, OnKnownBook known, LoadResult& result) {
+std::int64_t ReaderStore::putBook(const BookRecord& book, OnKnownBook known) {
     const std::int64_t bookId = mergeBook(book);
     const char* update = known == OnKnownBook::Overwrite ? kCorrectBook : kCompleteBook;
     connection_->query(update, book.fastHash, book.title, book.path).run();
-    for (const NoteRecord& incoming : book.notes) {
-        const Merged merged = mergeNote(bookId, incoming);
-        result.changed += merged.changed ? 1 : 0;
-        if (!merged.complete && differs(bookId, incoming)) {
-            result.kept.push_back({book.fastHash, book.title, incoming.uuid});
-        }
-    }
+    return bookId;
 }
 
 std::int64_t ReaderStore::mergeBook(const BookRecord& book) {
@@ -99,18 +89,18 @@ std::int64_t ReaderStore::mergeBook(const BookRecord& book) {
     return findBook(book.fastHash).value().id;
 }
 
-ReaderStore::Merged ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord& note) {
+MergedNote ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord& note) {
     const bool isNew = connection_->query(kInsertNote, bookId, note.uuid).run() > 0;
     const std::int64_t noteId =
-        isNew ? connection_->lastInsertedId() : findNote(bookId, note.uuid);
+        isNew ? connection_->lastInsertedId() : findNote(bookId, note.uuid).value();
     const std::size_t taken = mergeTags(noteId, note);
     return {isNew || taken > 0, taken == note.tags.size()};
 }
 
-std::int64_t ReaderStore::findNote(std::int64_t bookId, const std::string& uuid) {
+std::optional<std::int64_t> ReaderStore::findNote(std::int64_t bookId,
+                                                  const std::string& uuid) {
     Query row = connection_->query(kFindNote, bookId, uuid);
-    row.next();
-    return row.integer(0);
+    return row.next() ? std::optional(row.integer(0)) : std::nullopt;
 }
 
 std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) {
@@ -129,13 +119,13 @@ std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) 
     return taken;
 }
 
-bool ReaderStore::differs(std::int64_t bookId, const NoteRecord& note) {
-    const std::int64_t noteId = findNote(bookId, note.uuid);
-    return std::any_of(note.tags.begin(), note.tags.end(), [&](const TagRecord& tag) {
-        const std::int64_t number = tag.tag;
-        return connection_->query(kFindOtherTag, noteId, number, Blob{tag.text}, tag.json)
-            .next();
-    });
+void ReaderStore::removeTags(std::int64_t noteId) {
+    connection_->query(kRemoveTags, noteId).run();
+}
+
+void ReaderStore::removeNote(std::int64_t noteId) {
+    removeTags(noteId);
+    connection_->query(kRemoveNote, noteId).run();
 }
 
 }  // namespace host

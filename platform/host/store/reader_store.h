@@ -22,16 +22,9 @@ struct BookEntry {
     std::string path;
 };
 
-// A note that a load did not replace, although the loaded one differs.
-struct KeptNote {
-    std::string fastHash;  // of its book
-    std::string title;     // of its book
-    std::string uuid;
-};
-
-struct LoadResult {
-    int changed = 0;  // notes added or changed
-    std::vector<KeptNote> kept;
+struct MergedNote {
+    bool changed = false;   // in any way
+    bool complete = false;  // every tag was taken over
 };
 
 // A connection to the database; serves one thread at a time. Every failure is
@@ -63,6 +56,9 @@ public:
     // Returns the note with all its tags, ordered by number; nullopt if there is none.
     std::optional<NoteRecord> note(std::int64_t noteId);
 
+    // Returns the identifier of the book's note with this uuid; nullopt if there is none.
+    std::optional<std::int64_t> findNote(std::int64_t bookId, const std::string& uuid);
+
     // Returns all records. Equal contents give equal records, independent of row
     // identifiers.
     std::vector<BookRecord> records();
@@ -78,22 +74,26 @@ public:
     // unchanged.
     int merge(const std::vector<BookRecord>& books);
 
-    // Merges the records as merge() does, but also sets titles and paths of known books as
-    // `known` says. Reports each note with a tag whose text or JSON still differs from its
-    // record.
-    LoadResult load(const std::vector<BookRecord>& books, OnKnownBook known);
+    // The functions below are the steps of a load. Each changes the database at once,
+    // unless `work` of inWriteTransaction() calls it.
+
+    // Makes everything that `work` does through this object one transaction.
+    void inWriteTransaction(const std::function<void()>& work);
+
+    // Adds the book, unless its hash is known; then `known` says how title and path change.
+    // Returns its identifier.
+    std::int64_t putBook(const BookRecord& book, OnKnownBook known);
+
+    // Adds the note, or merges its tags as merge() does.
+    MergedNote mergeNote(std::int64_t bookId, const NoteRecord& note);
+
+    // Removes the note's tags; removeNote() also removes the note.
+    void removeTags(std::int64_t noteId);
+    void removeNote(std::int64_t noteId);
 
 private:
     std::int64_t mergeBook(const BookRecord& book);
-    void loadBook(const BookRecord& book, OnKnownBook known, LoadResult& result);
-    struct Merged {
-        bool changed;   // the note, in any way
-        bool complete;  // every tag was taken over
-    };
-    Merged mergeNote(std::int64_t bookId, const NoteRecord& note);
-    std::int64_t findNote(std::int64_t bookId, const std::string& uuid);
     std::size_t mergeTags(std::int64_t noteId, const NoteRecord& note);  // taken over
-    bool differs(std::int64_t bookId, const NoteRecord& note);
 
     std::unique_ptr<Connection> connection_;
 };

@@ -32,8 +32,8 @@ struct BookRecord {
     std::vector<NoteRecord> notes;
 };
 
-// The effect of records on a known book: replace its title, author and path, or fill in the
-// empty ones.
+// The effect of records on a known book: replace its title, author and path by those that
+// are not empty, or fill in the empty ones.
 enum class OnKnownBook { Overwrite, FillEmpty };
 
 }  // namespace host

@@ -1,0 +1,100 @@
+#include "client/collection/note_loader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "client/collection/note_tags.h"
+#include "client/collection/own_notes.h"
+#include "client/text/control_characters.h"
+#include "store/note_tags.h"
+
+namespace client {
+namespace {
+
+using host::NoteRecord;
+using host::TagRecord;
+
+const TagRecord* findTag(const NoteRecord& note, std::int32_t tag) {
+    const auto found =
+        std::find_if(note.tags.begin(), note.tags.end(),
+                     [tag](const TagRecord& candidate) { return candidate.tag == tag; });
+    return found == note.tags.end() ? nullptr : &*found;
+}
+
+bool differs(const NoteRecord& present, const NoteRecord& loaded) {
+    return std::any_of(loaded.tags.begin(), loaded.tags.end(), [&](const TagRecord& tag) {
+        const TagRecord* other = findTag(present, tag.tag);
+        return other == nullptr || other->text != tag.text || other->json != tag.json;
+    });
+}
+
+// Removes the tags that the present note has, and a place if it has any. What remains is
+// older than every change of the note.
+void keepMissing(NoteRecord& loaded, const NoteRecord& present) {
+    const bool isPlaced = findTag(present, host::kAnchorTag) != nullptr ||
+                          findTag(present, host::kRangeTag) != nullptr;
+    const auto isPresent = [&](const TagRecord& tag) {
+        const bool isPlace = tag.tag == host::kAnchorTag || tag.tag == host::kRangeTag;
+        return (isPlace && isPlaced) || findTag(present, tag.tag) != nullptr;
+    };
+    loaded.tags.erase(std::remove_if(loaded.tags.begin(), loaded.tags.end(), isPresent),
+                      loaded.tags.end());
+    for (TagRecord& tag : loaded.tags) {
+        tag.timestamp = 0;
+    }
+}
+
+}  // namespace
+
+void NoteLoader::load(IncomingBook& book) {
+    if (book.onKnownNote == OnKnownNote::ReplaceOwn) {
+        result_.changed += removeOwnNotes(book, bookId_, store_);
+    }
+    for (NoteRecord& record : std::exchange(book.records, {})) {
+        merge(std::exchange(record, {}));
+    }
+    for (Note note : book.notes) {
+        loadNote(book, std::move(note));
+    }
+}
+
+void NoteLoader::loadNote(const IncomingBook& book, Note note) {
+    note.uuid = knownUuid(book, note.uuid);
+    NoteRecord record = toRecord(std::move(note));
+    if (book.onKnownNote == OnKnownNote::AddMissing) {
+        if (const auto present = known(record.uuid)) {
+            keepMissing(record, *present);
+        }
+    }
+    merge(record);
+}
+
+void NoteLoader::merge(const NoteRecord& note) {
+    const host::MergedNote merged = store_.mergeNote(bookId_, note);
+    result_.changed += merged.changed ? 1 : 0;
+    if (!merged.complete && differs(known(note.uuid).value(), note)) {
+        result_.kept.add(oneLine(note.uuid) + " of " + oneLine(book_.hash) + "  \"" +
+                         oneLine(book_.title) + '"');
+    }
+}
+
+std::optional<NoteRecord> NoteLoader::known(const std::string& uuid) {
+    const auto id = store_.findNote(bookId_, uuid);
+    return id ? store_.note(*id) : std::nullopt;
+}
+
+// Returns the uuid under which the collection has the note, or will have it.
+std::string NoteLoader::knownUuid(const IncomingBook& book, const std::string& uuid) {
+    const auto former = book.formerUuids.find(uuid);
+    if (former == book.formerUuids.end() || store_.findNote(bookId_, uuid)) {
+        return uuid;
+    }
+    for (const std::string& candidate : former->second) {
+        if (store_.findNote(bookId_, candidate)) {
+            return candidate;
+        }
+    }
+    return uuid;
+}
+
+}  // namespace client

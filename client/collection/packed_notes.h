@@ -1,0 +1,41 @@
+// A sequence of notes that takes little more memory than their texts.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <string>
+
+#include "client/collection/note.h"
+
+namespace client {
+
+class PackedNotes {
+public:
+    class Iterator {
+    public:
+        Iterator(const PackedNotes& notes, std::size_t block)
+            : notes_(&notes), block_(block) {}
+
+        Note operator*() const;
+        Iterator& operator++();
+        bool operator!=(const Iterator& other) const {
+            return block_ != other.block_ || offset_ != other.offset_;
+        }
+
+    private:
+        const PackedNotes* notes_;
+        std::size_t block_;
+        std::size_t offset_ = 0;
+    };
+
+    void add(const Note& note);
+
+    bool isEmpty() const { return blocks_.empty(); }
+    Iterator begin() const { return {*this, 0}; }
+    Iterator end() const { return {*this, blocks_.size()}; }
+
+private:
+    std::deque<std::string> blocks_;  // a string for each note would take a third more
+};
+
+}  // namespace client
