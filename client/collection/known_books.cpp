@@ -1,28 +1,39 @@
 #include "client/collection/known_books.h"
 
 #include <algorithm>
-#include <set>
+#include <filesystem>
+#include <map>
 #include <string>
+#include <tuple>
 #include <unordered_map>
 
 #include "client/collection/books.h"
 #include "client/text/case_folding.h"
+#include "store/book_hash.h"
 
 namespace client {
 namespace {
 
+// Returns the title that a page shows.
+std::string shownTitle(const Book& book) {
+    return book.title.empty() ? std::filesystem::path(book.path).filename().string()
+                              : book.title;
+}
+
 class KnownBooks {
 public:
-    void add(const std::string& hash, const std::string& title, const std::string& author) {
-        hashes_[keyOf(title, author)].insert(hash);
+    void add(const Book& book) {
+        books_[keyOf(shownTitle(book), book.author)].insert_or_assign(book.hash,
+                                                                      book.title);
     }
 
-    // Returns the book's own hash if no known book has its title and author, or several.
-    std::string hashFor(const Book& book) const {
-        const auto fitting = hashes_.find(keyOf(book.title, book.author));
-        const bool isKnown =
-            !book.title.empty() && fitting != hashes_.end() && fitting->second.size() == 1;
-        return isKnown ? *fitting->second.begin() : book.hash;
+    // Sets hash and title to those of the known book, if exactly one has the book's title
+    // and author.
+    void recognise(Book& book) const {
+        const auto fitting = books_.find(keyOf(book.title, book.author));
+        if (!book.title.empty() && fitting != books_.end() && fitting->second.size() == 1) {
+            std::tie(book.hash, book.title) = *fitting->second.begin();
+        }
     }
 
 private:
@@ -30,13 +41,17 @@ private:
         return comparableName(title) + '\0' + comparableName(author);
     }
 
-    std::unordered_map<std::string, std::set<std::string>> hashes_;
+    using Titles = std::map<std::string, std::string>;  // by hash
+    std::unordered_map<std::string, Titles> books_;
 };
 
 KnownBooks booksIn(host::ReaderStore& reader, host::LibraryStore& library) {
     KnownBooks known;
-    for (const host::BookEntry& book : reader.books()) {
-        known.add(book.fastHash, book.title, authorOf(book.fastHash, library));
+    for (const host::BookEntry& entry : reader.books()) {
+        if (host::isBookHash(entry.fastHash)) {  // the library takes no other
+            known.add({entry.fastHash, entry.title, authorOf(entry.fastHash, library),
+                       entry.path});
+        }
     }
     return known;
 }
@@ -50,10 +65,11 @@ void useKnownHashes(std::vector<IncomingBook>& books, host::ReaderStore& reader,
         return;
     }
     KnownBooks known = booksIn(reader, library);
-    for (auto& incoming : books) {
-        Book& book = incoming.book;
-        book.hash = incoming.isHashDerived ? known.hashFor(book) : book.hash;
-        known.add(book.hash, book.title, book.author);
+    for (IncomingBook& incoming : books) {
+        if (incoming.isHashDerived) {
+            known.recognise(incoming.book);
+        }
+        known.add(incoming.book);
     }
 }
 
