@@ -4,6 +4,7 @@
 #include "client/cli/command_line.h"
 #include "client/cli/examples.h"
 #include "client/cli/filter_options.h"
+#include "client/cli/usage_errors.h"
 #include "client/commands/commands.h"
 
 namespace client {
@@ -23,6 +24,7 @@ void addTarget(CLI::App& command, PageTarget& target) {
     command.add_option("-o", target.file, "Write this file; for one BOOK")
         ->type_name("FILE")
         ->transform(callersPath())
+        ->check(checkFile)
         ->excludes("--dir");
     command.add_flag("--new", target.isNew, "Write a new page and keep the old ones")
         ->excludes("-o");

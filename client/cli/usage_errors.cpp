@@ -2,6 +2,7 @@
 
 #include "client/terminal/terminal.h"
 #include "client/text/affixes.h"
+#include "client/text/case_folding.h"
 #include "client/text/control_characters.h"
 #include "client/text/iso_time.h"
 #include "client/text/numbers.h"
@@ -22,7 +23,15 @@ std::string checkDate(const std::string& text) {
 }
 
 std::string checkSearchText(const std::string& text) {
-    return text.empty() ? "the text to look for is empty" : std::string();
+    return text.empty()               ? "the text to look for is empty"
+           : caseFolded(text).empty() ? "the text to look for has only invisible characters"
+                                      : std::string();
+}
+
+std::string checkFile(const std::string& path) {
+    return path.empty()         ? "the path is empty"
+           : path.back() == '/' ? path + " names a folder, which is for --dir"
+                                : std::string();
 }
 
 CLI::Error unknownWords(const std::vector<std::string>& words) {

@@ -15,8 +15,11 @@ std::string checkNoteId(const std::string& text);
 
 std::string checkDate(const std::string& text);
 
-// Rejects an empty text, because all notes contain it.
+// Rejects a text without visible characters, because all notes contain it.
 std::string checkSearchText(const std::string& text);
+
+// Rejects a path that no file can have.
+std::string checkFile(const std::string& path);
 
 // Returns the error for words where a command was expected.
 CLI::Error unknownWords(const std::vector<std::string>& words);
