@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -18,6 +19,8 @@ namespace fs = std::filesystem;
 void makeAbsolute(std::string& path) {
     if (!path.empty()) {
         path = fs::absolute(path).string();
+        // SQLite reads what follows two slashes as the name of a host.
+        path.erase(0, std::min(path.find_first_not_of('/'), path.size()) - 1);
     }
 }
 

@@ -63,8 +63,7 @@ TempFolder::TempFolder(const std::string& parent) {
     bool done = false;
     for (int i = 0; i < kAttempts && !done; ++i) {
         errno = 0;
-        makeParents(parent);
-        done = make(parent);
+        done = makeParents(parent) && make(parent);
         if (errno != ENOENT) {
             break;
         }
@@ -90,15 +89,22 @@ TempFolder::~TempFolder() {
     }
 }
 
-// A failure here makes the folder itself fail, for the same reason.
-void TempFolder::makeParents(const std::string& parent) {
+// Leaves the cause in errno if it fails. What stands at a path already may be a folder that
+// another program has just made.
+bool TempFolder::makeParents(const std::string& parent) {
     fs::path folder;
     for (const fs::path& part : fs::path(parent)) {
         folder /= part;
-        if (!isFolder(folder) && mkdir(folder.c_str(), 0777) == 0) {
+        if (isFolder(folder)) {
+            continue;
+        }
+        if (mkdir(folder.c_str(), 0777) == 0) {
             made_.push_back(folder.string());
+        } else if (errno != EEXIST) {
+            return false;
         }
     }
+    return true;
 }
 
 bool TempFolder::make(const std::string& parent) {

@@ -27,7 +27,7 @@ public:
     static void removeLeftovers(const std::string& parent);
 
 private:
-    void makeParents(const std::string& parent);
+    bool makeParents(const std::string& parent);
     bool make(const std::string& parent);
     void remove() const noexcept;
     static void removeCurrent();

@@ -2,10 +2,13 @@
 
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <new>
 #include <stdexcept>
+#include <system_error>
 
 #include "store/records.h"
 
@@ -13,6 +16,25 @@ namespace host {
 namespace {
 
 constexpr int kBusyTimeoutMs = 5000;
+
+// Returns the path and the error of a file or folder in which SQLite cannot read or write,
+// because its own texts hide the system's; empty if there is none.
+std::string deniedAccess(const std::string& path) {
+    const std::string folder = std::filesystem::path(path).parent_path().string();
+    for (const std::string& place : {path, folder}) {
+        if (access(place.c_str(), R_OK | W_OK) != 0 && errno != ENOENT) {
+            return place + ": " + std::generic_category().message(errno);
+        }
+    }
+    return {};
+}
+
+std::string describe(const SQLite::Exception& error, const std::string& path) {
+    const int code = error.getErrorCode();
+    const std::string denied =
+        code == SQLITE_READONLY || code == SQLITE_CANTOPEN ? deniedAccess(path) : "";
+    return denied.empty() ? path + ": " + error.what() : denied;
+}
 
 template <class Action>
 decltype(auto) withPath(const std::string& path, Action action) {
@@ -22,7 +44,7 @@ decltype(auto) withPath(const std::string& path, Action action) {
         if (error.getErrorCode() == SQLITE_NOMEM) {
             throw std::bad_alloc();
         }
-        throw std::runtime_error(path + ": " + error.what());
+        throw std::runtime_error(describe(error, path));
     }
 }
 

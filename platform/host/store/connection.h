@@ -72,7 +72,7 @@ private:
 };
 
 // Serves one thread at a time. Every failure is std::bad_alloc or a std::runtime_error that
-// names the file.
+// names the file, or its folder if that denies access.
 class Connection {
 public:
     // Opens the database at `path`. Creates missing directories, the file and its tables;
