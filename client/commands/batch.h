@@ -70,7 +70,7 @@ inline void requireDone(bool allDone) {
 
 // Returns the line for a file: its number alone if it is the only file, else with its name.
 inline std::string resultOf(const std::string& file, std::size_t files, int changed) {
-    return std::to_string(changed) + (files > 1 ? "\t" + file : "") + "\n";
+    return std::to_string(changed) + (files > 1 ? "\t" + printable(file) : "") + "\n";
 }
 
 }  // namespace client

@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <iostream>
 #include <utility>
 
@@ -9,15 +7,10 @@
 #include "client/error.h"
 #include "client/pages/note_selection.h"
 #include "client/pages/page_export.h"
-#include "client/text/control_characters.h"
+#include "client/terminal/terminal.h"
 
 namespace client {
 namespace {
-
-// Programs get every byte; a terminal would obey some of them.
-std::string printable(const std::string& path) {
-    return (isatty(STDOUT_FILENO) == 1 ? oneLine(path) : path) + '\n';
-}
 
 class Command {
 public:
@@ -69,7 +62,7 @@ Outcome Command::exportBook(const host::BookEntry& book) {
 Outcome Command::publish() {
     Outcome outcome;
     for (const ExportedPage& page : pages_.publish()) {
-        outcome.result += page.path.empty() ? "" : printable(page.path);
+        outcome.result += page.path.empty() ? "" : printable(page.path) + '\n';
         outcome.message += page.message;
         outcome.failed = outcome.failed || page.failed;
     }
@@ -82,8 +75,9 @@ void exportNotes(const ExportRequest& request) { Command(request).run(); }
 
 void printName(const std::string& typed, const PageTarget& target) {
     const host::BookEntry book = findBook(typed);
-    std::cout << printable(
-        PageExport(target).nextPath(book, selectNotes(book.fastHash, {}, "", false)));
+    std::cout << printable(PageExport(target).nextPath(
+                     book, selectNotes(book.fastHash, {}, "", false)))
+              << '\n';
 }
 
 }  // namespace client

@@ -1,19 +1,26 @@
-// Lists for programs: one array of objects on one line. Bytes that are not UTF-8 become
-// U+FFFD.
-#include <rapidjson/ostreamwrapper.h>
+// Lists for programs: one array of objects on one line. Characters that control a terminal
+// are escaped, and bytes that are not UTF-8 become U+FFFD.
+#include <rapidjson/stringbuffer.h>
 
 #include <cstdint>
+#include <cstdio>
 
 #include "client/listings/listing.h"
+#include "client/text/control_characters.h"
 #include "client/text/numbers.h"
 #include "dump/json_sax.h"
-#include "text/utf8.h"
 
 namespace client {
 namespace {
 
 rapidjson::SizeType length(const std::string& text) {
     return static_cast<rapidjson::SizeType>(text.size());
+}
+
+std::string escaped(unsigned code, std::string_view /*character*/) {
+    char escape[16];
+    static_cast<void>(std::snprintf(escape, sizeof escape, "\\u%04X", code));
+    return escape;
 }
 
 // The array, from its first bracket to the line end after its last.
@@ -26,27 +33,36 @@ public:
         json_.StartObject();
         members(json_);
         json_.EndObject();
+        flush();
     }
 
     void end() {
         json_.EndArray();
+        flush();
         out_ << '\n';
     }
 
-    using Writer = host::JsonWriter<rapidjson::OStreamWrapper>;
+    using Buffer =
+        rapidjson::GenericStringBuffer<rapidjson::UTF8<>, host::ThrowingAllocator>;
+    using Writer = host::JsonWriter<Buffer>;
 
 private:
+    // The writer escapes only what JSON requires. What is left stands within strings.
+    void flush() {
+        out_ << replaceControls({buffer_.GetString(), buffer_.GetSize()}, escaped);
+        buffer_.Clear();
+    }
+
     std::ostream& out_;
-    rapidjson::OStreamWrapper stream_{out_};
-    Writer json_{stream_};
+    Buffer buffer_;
+    Writer json_{buffer_};
 };
 
 using Writer = Array::Writer;
 
 void writeText(Writer& json, const char* name, const std::string& text) {
-    const std::string valid = host::validUtf8(text);
     json.Key(name);
-    json.String(valid.data(), length(valid));
+    json.String(text.data(), length(text));
 }
 
 void writePage(Writer& json, const Note& note) {

@@ -31,6 +31,11 @@ std::string bold(const std::string& text) {
     return isColorful(STDOUT_FILENO) ? "\033[1m" + text + "\033[0m" : text;
 }
 
+std::string printable(const std::string& path) {
+    const bool isPlain = isatty(STDOUT_FILENO) == 0 && path.find('\n') == std::string::npos;
+    return isPlain ? path : oneLine(path);
+}
+
 std::string errorText(const std::string& text) {
     std::string result =
         isColorful(STDERR_FILENO) ? "\033[1;31mnotes-export:\033[0m " : "notes-export: ";

@@ -14,6 +14,10 @@ bool isColorful(int descriptor);
 // Returns the text in bold for standard output.
 std::string bold(const std::string& text);
 
+// Returns the path for a line of standard output. A terminal would obey some characters,
+// and a line feed would end the line; other programs get every byte.
+std::string printable(const std::string& path);
+
 // Returns the message for standard error: after the program's name, and without control
 // characters, because paths may contain any.
 std::string errorText(const std::string& text);

@@ -28,6 +28,8 @@ bool isSeparatorOrDirection(unsigned code) {
            (0x2028 <= code && code <= 0x202E) || (0x2066 <= code && code <= 0x2069);
 }
 
+bool isNoncharacter(unsigned code) { return code == 0xFFFE || code == 0xFFFF; }
+
 }  // namespace
 
 bool isControl(unsigned code) { return code < 0x20 || (0x7F <= code && code <= 0x9F); }
@@ -40,7 +42,7 @@ std::string replaceControls(
     while (!text.empty()) {
         const auto [code, bytes] = firstCharacter(text);
         text.remove_prefix(bytes.size());
-        if (isControl(code) || isSeparatorOrDirection(code)) {
+        if (isControl(code) || isSeparatorOrDirection(code) || isNoncharacter(code)) {
             result += instead(code, bytes);
         } else {
             result += code == 0xFFFD ? "\uFFFD" : bytes;

@@ -45,6 +45,7 @@ TEST(ControlCharacters, BecomeSpacesInOneLine) {
         {"directions", "\u202A\u202E\u202F\u2066\u2069\u206A", "  \u202F  \u206A"},
         {"marks of direction", "\u061B\u061C\u200D\u200E\u200F\u2010",
          "\u061B \u200D  \u2010"},
+        {"noncharacters", "\uFFFD\uFFFE\uFFFF", "\uFFFD  "},
         {"stray bytes", "a\xFF\x80z", "a\uFFFD\uFFFDz"},
         {"cut character", "\xE2\x82", "\uFFFD\uFFFD"},
         {"surrogate", "\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
