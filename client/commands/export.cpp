@@ -1,10 +1,11 @@
 #include <iostream>
+#include <set>
+#include <string>
 #include <utility>
 
 #include "client/collection/books.h"
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
-#include "client/error.h"
 #include "client/pages/note_selection.h"
 #include "client/pages/page_export.h"
 #include "client/terminal/terminal.h"
@@ -15,7 +16,7 @@ namespace {
 class Command {
 public:
     explicit Command(const ExportRequest& request)
-        : request_(request), pages_(request.target) {}
+        : request_(request), notes_(request.filter), pages_(request.target) {}
     void run();
 
 private:
@@ -24,15 +25,16 @@ private:
     Outcome publish();
 
     const ExportRequest& request_;
+    std::set<std::string> exported_;  // hashes
+    NoteReader notes_;
     PageExport pages_;
-    bool anySelected_ = false;
 };
 
 void Command::run() {
     const bool isRendered = exportBooks();
     const bool isPublished = report([this] { return publish(); });
-    if (isRendered && !anySelected_) {
-        throw UserError("No note is selected, and nothing was exported.");
+    if (isRendered) {
+        notes_.requireFound();
     }
     requireDone(isRendered && isPublished);
 }
@@ -49,11 +51,12 @@ bool Command::exportBooks() {
 
 Outcome Command::exportBook(const host::BookEntry& book) {
     requireHash(book);
+    if (!exported_.insert(book.fastHash).second) {  // it was named twice
+        return {};
+    }
     const bool isOnlyBook = request_.books.size() == 1;
-    NoteSelection notes =
-        selectNotes(book.fastHash, request_.filter, request_.order, isOnlyBook);
+    NoteSelection notes = selectNotes(notes_, book.fastHash, request_.order, isOnlyBook);
     if (!notes.isEmpty) {
-        anySelected_ = true;
         pages_.add(book, std::move(notes));
     }
     return pages_.isFull() ? publish() : Outcome();
@@ -75,8 +78,10 @@ void exportNotes(const ExportRequest& request) { Command(request).run(); }
 
 void printName(const std::string& typed, const PageTarget& target) {
     const host::BookEntry book = findBook(typed);
+    const NoteFilter all;
+    NoteReader notes(all);
     std::cout << printable(PageExport(target).nextPath(
-                     book, selectNotes(book.fastHash, {}, "", false)))
+                     book, selectNotes(notes, book.fastHash, "", false)))
               << '\n';
 }
 

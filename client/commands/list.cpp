@@ -5,7 +5,6 @@
 #include "client/collection/books.h"
 #include "client/collection/note_reader.h"
 #include "client/commands/commands.h"
-#include "client/error.h"
 #include "store/database_paths.h"
 #include "store/reader_store.h"
 
@@ -61,9 +60,7 @@ void NoteLister::listBook(const Book& book) {
 
 void NoteLister::end() {
     listing_->end();
-    if (const auto id = notes_.missingId()) {
-        throw UserError("The listed books have no note " + std::to_string(*id) + '.');
-    }
+    notes_.requireFound();
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <iomanip>
 #include <sstream>
 
-#include "client/collection/note_reader.h"
 #include "client/error.h"
 
 namespace client {
@@ -44,15 +43,15 @@ std::string describe(const NoteFilter& filter, const std::string& order) {
 
 }  // namespace
 
-NoteSelection selectNotes(const std::string& bookHash, const NoteFilter& filter,
+NoteSelection selectNotes(NoteReader& reader, const std::string& bookHash,
                           const std::string& order, bool mustHaveIds) {
+    const NoteFilter& filter = reader.filter();
     NoteSelection selection;
     selection.before = orderNamed(order);
     selection.description = describe(filter, order);
     if (filter.isEmpty() && selection.before != byNewest) {
         return selection;
     }
-    NoteReader reader(filter);
     reader.read(bookHash, [&](const Note& note) {
         selection.ids.insert(note.id);
         selection.times[static_cast<long long>(note.id)] = note.time;

@@ -6,7 +6,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "client/collection/note_filter.h"
+#include "client/collection/note_reader.h"
 #include "notes_export/notes_export.h"
 
 namespace client {
@@ -19,9 +19,10 @@ struct NoteSelection {
     std::string description = {};  // of the filter and the order, equal for equal ones
 };
 
-// Selects notes of one book. `order` is "id" or "newest", or else by page. With
-// `mustHaveIds`, throws UserError if the book lacks a note that the filter names.
-NoteSelection selectNotes(const std::string& bookHash, const NoteFilter& filter,
+// Selects the notes of one book that meet the reader's filter. `order` is "id" or "newest",
+// or else by page. With `mustHaveIds`, throws UserError if the book lacks a note that the
+// filter names.
+NoteSelection selectNotes(NoteReader& reader, const std::string& bookHash,
                           const std::string& order, bool mustHaveIds);
 
 }  // namespace client

@@ -42,7 +42,8 @@ client::ExportedPage exportPage(const std::string& order = "",
                                 client::PageTarget target = {"pages"}) {
     auto book = host::ReaderStore(host::kReaderDatabasePath).findBook("0a");
     client::PageExport pages(target);
-    pages.add(*book, client::selectNotes("0a", filter, order, false));
+    client::NoteReader notes(filter);
+    pages.add(*book, client::selectNotes(notes, "0a", order, false));
     return pages.publish().at(0);
 }
 
@@ -230,7 +231,9 @@ TEST(Export, EqualPageOfAnotherCollectionStaysItsOwn) {
     load(100);
     auto book = host::ReaderStore(host::kReaderDatabasePath).findBook("0a");
     client::PageExport late({"pages"});
-    late.add(*book, client::selectNotes("0a", {}, "", false));
+    const client::NoteFilter all;
+    client::NoteReader notes(all);
+    late.add(*book, client::selectNotes(notes, "0a", "", false));
     for (const auto& entry : fs::recursive_directory_iterator("pages")) {
         if (entry.is_regular_file()) {
             fs::copy(entry.path(), kPage);
