@@ -1,56 +1,15 @@
 #include "client/sources/exported_page/encoding.h"
 
-#include <iconv.h>
-
 #include <algorithm>
-#include <cstdint>
-#include <optional>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "client/text/affixes.h"
+#include "client/text/encoding.h"
 #include "text/utf8.h"
 
 namespace client {
 namespace {
-
-class Converter {
-public:
-    explicit Converter(const std::string& encoding)
-        : handle_(iconv_open("UTF-8", encoding.c_str())) {}
-    ~Converter() {
-        if (isOpen()) {
-            iconv_close(handle_);
-        }
-    }
-    Converter(const Converter&) = delete;
-    Converter& operator=(const Converter&) = delete;
-
-    bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
-
-    // Returns nullopt if the text is cut, or invalid in the encoding.
-    std::optional<std::string> converted(std::string& text);
-
-private:
-    iconv_t handle_;
-};
-
-std::optional<std::string> Converter::converted(std::string& text) {
-    std::vector<char> block(65536);
-    std::string result;
-    char* from = text.data();
-    std::size_t left = text.size();
-    while (left > 0) {
-        char* to = block.data();
-        std::size_t room = block.size();
-        iconv(handle_, &from, &left, &to, &room);
-        if (room == block.size()) {
-            return std::nullopt;
-        }
-        result.append(block.data(), block.size() - room);
-    }
-    return result;
-}
 
 std::string encodingNamedIn(std::string_view html) {
     constexpr std::size_t kStart = 4096;
@@ -70,14 +29,10 @@ std::string encodingNamedIn(std::string_view html) {
 
 std::string htmlAsUtf8(std::string html) {
     constexpr std::string_view kByteOrderMark = "\ufeff";
-    std::string encoding;
-    if (startsWith(html, "\xff\xfe") || startsWith(html, "\xfe\xff")) {
-        encoding = "UTF-16";
-    } else if (!host::isUtf8(html)) {
-        encoding = encodingNamedIn(html);
-    }
-    if (Converter converter(encoding); !encoding.empty() && converter.isOpen()) {
-        html = converter.converted(html).value_or(html);
+    html = utf16AsUtf8(std::move(html));
+    if (!host::isUtf8(html)) {
+        const std::string encoding = encodingNamedIn(html);
+        html = asUtf8(std::move(html), encoding);
     }
     return std::string(withoutPrefix(html, kByteOrderMark));
 }

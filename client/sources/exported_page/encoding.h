@@ -6,8 +6,8 @@
 namespace client {
 
 // Returns the HTML document as UTF-8, without a byte order mark. The mark selects UTF-16;
-// otherwise the document names its encoding. A document that cannot be converted is
-// returned unchanged.
+// otherwise the document names its encoding. U+FFFD replaces what is invalid in it. A
+// document that names no known encoding is returned unchanged.
 std::string htmlAsUtf8(std::string html);
 
 }  // namespace client
