@@ -21,7 +21,7 @@ Outcome loadFile(const std::string& file, std::size_t files) {
     const LoadResult notes =
         addToCollection(content.books, content.onKnownBook, content.styleSheet);
     return {resultOf(file, files, notes.changed),
-            content.skipped.summary(file) + keptNotes(notes.kept)};
+            content.remark + content.skipped.summary(file) + keptNotes(notes.kept)};
 }
 
 bool loadFiles(const std::vector<std::string>& files) {

@@ -1,14 +1,14 @@
 // Records of a clippings file, and the relations between those of one book.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "cases.h"
 #include "client/sources/clippings/clipping.h"
 #include "client/sources/clippings/passages.h"
+#include "client/text/line_breaks.h"
+#include "sample_source.h"
 
 namespace {
 
@@ -16,8 +16,10 @@ using client::Clipping;
 using client::ClippingKind;
 using client::ClippingRange;
 
-std::string shownRecord(const std::vector<std::string_view>& lines) {
-    const auto clipping = client::parseClipping(lines);
+using namespace std::string_literals;
+
+std::string shownRecord(const std::string& record) {
+    const auto clipping = client::parseClipping(record);
     return clipping ? clipping->title + '|' + clipping->author + '|' + clipping->note.text +
                           (clipping->hasLimitMessage ? "|limit" : "")
                     : "refused";
@@ -35,9 +37,11 @@ TEST(ClippingRecord, HasTitleAndAuthor) {
         {"parenthesis that does not open", "Emma :) b)", "Emma :) b)||"},
         {"byte order mark and spaces", "\uFEFF Emma\u00A0(J) ", "Emma|J|"},
         {"empty", "\uFEFF ", "refused"},
+        {"second line of a record", "- Note on page 5", "refused"},
+        {"Windows-1252", "L\x92\xC9tranger (Ren\xE9)\xA0", "L’Étranger (René)||"},
     };
     expectEach(cases, [](const std::string& line) {
-        return shownRecord({line, "\uFEFF- Page 5"});
+        return shownRecord(line + "\n\uFEFF- Page 5");
     });
 }
 
@@ -46,21 +50,88 @@ TEST(ClippingRecord, HasTextAndKind) {
         {"empty lines around and inside", " a  \n\n\u3000b\n \n", "E||a\n\nb"},
         {"message of a limit", " <You have reached the clipping limit>",
          "E||<You have reached the clipping limit>|limit"},
+        {"message without spaces", "<您已达到本内容的剪贴上限>",
+         "E||<您已达到本内容的剪贴上限>|limit"},
         {"short text in angle brackets", "<b> bold </b>", "E||<b> bold </b>"},
         {"address", "<https://example.org/>", "E||<https://example.org/>"},
+        {"element", "<p>the first of many words</p>", "E||<p>the first of many words</p>"},
+        {"attributes", "<a b='c' the='d' e='f'>", "E||<a b='c' the='d' e='f'>"},
+        {"code", "<T extends Comparable>", "E||<T extends Comparable>"},
+        {"comment", "<!-- the first of many -->", "E||<!-- the first of many -->"},
+        {"speech", "<Handsome, clever, and rich.>", "E||<Handsome, clever, and rich.>"},
+        {"several lines", "<a b c d\ne f>", "E||<a b c d\ne f>"},
+        {"brackets alone", "<>", "E||<>"},
+        {"Windows-1252", "\x93h\xE4ndsome\x94\nä\n\x81\xA0", "E||“händsome”\nä\n\uFFFD"},
     };
     expectEach(cases, [](const std::string& text) {
-        std::vector<std::string_view> lines = {"E", "- Sivu 9", ""};
-        for (std::string_view rest = text; !rest.empty();) {
-            lines.push_back(rest.substr(0, rest.find('\n')));
-            rest.remove_prefix(std::min(lines.back().size() + 1, rest.size()));
-        }
-        return shownRecord(lines);
+        return shownRecord("E\n- Sivu 9\n\n" + text);
     });
-    EXPECT_EQ(client::parseClipping({"E", "- Sivu 9", "a"})->kind, ClippingKind::Highlight);
-    EXPECT_EQ(client::parseClipping({"E", "- Sivu 9", ""})->kind, ClippingKind::Bookmark);
-    EXPECT_EQ(shownRecord({"E"}), "refused");
-    EXPECT_EQ(shownRecord({"E", "On page 5", "", "a"}), "refused");
+    EXPECT_EQ(client::parseClipping("E\n- Sivu 9\na")->kind, ClippingKind::Highlight);
+    EXPECT_EQ(client::parseClipping("E\n- Sivu 9\n")->kind, ClippingKind::Bookmark);
+    EXPECT_EQ(shownRecord("E"), "refused");
+    EXPECT_EQ(shownRecord("E\nOn page 5\n\na"), "refused");
+}
+
+// Returns the text with another one for each line feed.
+std::string withEnds(const std::string& end, const std::string& text) {
+    return client::replaced(text, "\n", end);
+}
+
+std::string inUtf16(const std::string& text, bool isLittleEndian) {
+    std::string result = isLittleEndian ? "\xFF\xFE" : "\xFE\xFF";
+    for (const char character : text) {
+        result +=
+            isLittleEndian ? std::string{character, '\0'} : std::string{'\0', character};
+    }
+    return result;
+}
+
+// Returns the title and the texts of each book, and what is to be said about the file.
+std::string shownClippings(const std::string& content) {
+    std::string shown;
+    try {
+        const client::SourceContent source = readSample(content);
+        for (const client::IncomingBook& book : source.books) {
+            shown += book.book.title + ':';
+            for (const client::Note& note : book.notes) {
+                shown += ' ' + note.text + note.comment;
+            }
+            shown += '\n';
+        }
+        return shown + source.remark + source.skipped.summary("it");
+    } catch (const client::UserError&) {
+        return "refused";
+    }
+}
+
+TEST(ClippingsFile, IsReadHoweverItWasDamaged) {
+    const ScratchDirectory scratch;
+    const std::string a = "A\n- Your Highlight on page 1\n\na\n==========\n";
+    const std::string b = "\uFEFFB\n- Your Note on page 2\n\nb\n==========\n";
+    const std::string latin = "C\xE9\n- Note on page 3\n\n\xE4\n==========\n";
+    const std::string skipped = "Not everything in it could be read:\n  line ";
+    const std::string noEnd = ": the record has no end, as if the file were cut\n";
+    const std::string noTitle = ": neither a title nor what it is of can be read\n";
+    const NamedCase cases[] = {
+        {"separator first", "\uFEFF==========\n" + a, "A: a\n"},
+        {"empty line first", "\uFEFF\n" + a, "A: a\n"},
+        {"damaged record first", "x\n==========\n" + a, "A: a\n" + skipped + "1" + noTitle},
+        {"title missing", "\n" + a.substr(2) + a, "A: a\n" + skipped + "2" + noTitle},
+        {"without the last line end", a.substr(0, a.size() - 1) + b, "A: a\nB: b\n"},
+        {"cut before a byte order mark", a.substr(0, 31) + b,
+         "B: b\n" + skipped + "1" + noEnd},
+        {"separator within text", a.substr(0, 30) + "==========b\n- c\n" + a.substr(30),
+         "A: ==========b\n- c\na\n"},
+        {"line ends of a Macintosh", withEnds("\r", a + b), "A: a\nB: b\n"},
+        {"line ends converted twice", withEnds("\r\r\n", a) + a, "A: a\n"},
+        {"little-endian UTF-16", inUtf16(withEnds("\r\n", a), true), "A: a\n"},
+        {"big-endian UTF-16", inUtf16(a, false), "A: a\n"},
+        {"Windows-1252", a + latin + "D\xE9\n",
+         "A: a\nCé: ä\nsample: line 6 and 1 more are not UTF-8 and read as Windows-1252\n" +
+             skipped + "11" + noEnd},
+        {"list in Markdown", "x\n==========\ny\n- z\n==========\n", "refused"},
+    };
+    expectEach(cases, shownClippings);
 }
 
 Clipping marked(std::int64_t first, std::int64_t last, const std::string& text,

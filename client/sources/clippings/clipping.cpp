@@ -2,20 +2,19 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
+#include <utility>
 
+#include "client/sources/clippings/scanning.h"
 #include "client/text/affixes.h"
+#include "client/text/encoding.h"
+#include "client/text/line_breaks.h"
+#include "text/utf8.h"
 
 namespace client {
 namespace {
 
-// With the byte order mark, which some readers write before each record.
-constexpr std::array<std::string_view, 6> kSpaces = {" ",      "\t",     "\r",
-                                                     "\u00a0", "\u3000", "\ufeff"};
 constexpr std::array<std::string_view, 2> kOpeners = {"(", "\uff08"};
 constexpr std::array<std::string_view, 2> kClosers = {")", "\uff09"};
-
-std::string_view withoutSpaces(std::string_view text) { return trimmed(text, kSpaces); }
 
 // Returns the offset of the parenthesis that ends the line; it may contain others.
 std::size_t startOfLastParenthesis(std::string_view line) {
@@ -45,38 +44,74 @@ void setTitleAndAuthor(Clipping& clipping, std::string_view line) {
     }
 }
 
-std::string joined(std::vector<std::string_view> lines) {
-    std::transform(lines.begin(), lines.end(), lines.begin(), withoutSpaces);
+void decodeTitleAndAuthor(Clipping& clipping) {
+    clipping.rawTitle = clipping.title;
+    clipping.rawAuthor = clipping.author;
+    clipping.title = withoutSpaces(windows1252AsUtf8(clipping.rawTitle));
+    clipping.author = withoutSpaces(windows1252AsUtf8(clipping.rawAuthor));
+}
+
+// Returns the lines without spaces around each, and without empty lines around all.
+std::string textOf(std::string_view lines) {
+    lines = withoutSpaces(lines);
+    const bool isUtf8 = host::isUtf8(lines);
     std::string text;
-    for (const std::string_view line : lines) {
-        text.append(line).append("\n");
+    text.reserve(lines.size());
+    while (!lines.empty()) {
+        const std::string_view line = takeLine(lines);
+        if (isUtf8) {
+            text += withoutSpaces(line);
+        } else {
+            text += withoutSpaces(decodedLine(line));
+        }
+        text += lines.empty() ? "" : "\n";
     }
-    const std::size_t first = text.find_first_not_of('\n');
-    const std::size_t last = text.find_last_not_of('\n');
-    return first == std::string::npos ? "" : text.substr(first, last - first + 1);
+    return text;
+}
+
+bool hasManyIdeographs(std::string_view text) {
+    constexpr auto kMany = 8;
+    return std::count_if(text.begin(), text.end(), [](char byte) {
+               return byte >= '\xE3' && byte <= '\xED';
+           }) >= kMany;
 }
 
 // Returns whether the reader wrote this message instead of a passage, because too much of
-// the book was marked. It may be in any language.
+// the book was marked. It may be in any language: a sentence without a full stop in angle
+// brackets. Markup, code and speech in angle brackets are passages.
 bool isLimitMessage(std::string_view text) {
-    return text.size() > 20 && text.front() == '<' && text.back() == '>' &&
-           text.find(' ') != std::string_view::npos;
+    constexpr std::string_view kInNoMessage = "<>=\"/{}\n";
+    constexpr std::string_view kEndsOfSpeech = ".,!?";
+    constexpr auto kFewestSpaces = 3;
+    if (text.size() < 3 || text.front() != '<' || text.back() != '>') {
+        return false;
+    }
+    text = text.substr(1, text.size() - 2);
+    return text.find_first_of(kInNoMessage) == std::string_view::npos &&
+           text.front() != '!' &&
+           kEndsOfSpeech.find(text.back()) == std::string_view::npos &&
+           (std::count(text.begin(), text.end(), ' ') >= kFewestSpaces ||
+            hasManyIdeographs(text));
 }
 
 }  // namespace
 
-std::optional<Clipping> parseClipping(const std::vector<std::string_view>& lines) {
-    if (lines.size() < 2) {
-        return std::nullopt;
-    }
-    const std::string_view title = withoutSpaces(lines[0]);
-    auto clipping = parseDetails(withoutSpaces(lines[1]));
-    if (title.empty() || !clipping) {
+std::string decodedLine(std::string_view line) {
+    return host::isUtf8(line) ? std::string(line) : windows1252AsUtf8(line);
+}
+
+std::optional<Clipping> parseClipping(std::string_view record) {
+    const std::string_view title = withoutSpaces(takeLine(record));
+    auto clipping = parseDetails(takeLine(record));
+    if (title.empty() || isDetails(title) || !clipping) {
         return std::nullopt;
     }
     setTitleAndAuthor(*clipping, title);
+    if (!host::isUtf8(title)) {
+        decodeTitleAndAuthor(*clipping);
+    }
     std::string& text = clipping->note.text;
-    text = joined({std::next(lines.begin(), 2), lines.end()});
+    text = textOf(record);
     clipping->hasLimitMessage = isLimitMessage(text);
     if (!clipping->kind) {
         clipping->kind = text.empty() ? ClippingKind::Bookmark : ClippingKind::Highlight;

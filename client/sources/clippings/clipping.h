@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "client/collection/note.h"
 
@@ -21,6 +20,9 @@ struct ClippingRange {
 struct Clipping {
     std::string title = {};
     std::string author = {};
+    // The bytes of title and author in the file, if their line is not UTF-8; else empty.
+    std::string rawTitle = {};
+    std::string rawAuthor = {};
     std::optional<ClippingKind> kind = {};
     std::optional<ClippingRange> page = {};  // nullopt also for Roman numerals
     std::optional<ClippingRange> location = {};
@@ -29,11 +31,19 @@ struct Clipping {
 };
 
 // Reads the lines of one record, without the line that ends it. Returns nullopt if they are
-// not a record.
-std::optional<Clipping> parseClipping(const std::vector<std::string_view>& lines);
+// not a record. A line that is not UTF-8 is read as Windows-1252, whatever the others are,
+// so that a record is the same after the file has grown.
+std::optional<Clipping> parseClipping(std::string_view record);
 
 // Returns a clipping without title and text, and if the language is unknown also without
 // kind; nullopt if the line does not start with a dash.
 std::optional<Clipping> parseDetails(std::string_view line);
+
+// Returns whether the line can only be the second line of a record: it has a kind, and a
+// place or a time.
+bool isDetails(std::string_view line);
+
+// Returns the line as UTF-8.
+std::string decodedLine(std::string_view line);
 
 }  // namespace client

@@ -19,8 +19,12 @@ Identity identityOf(const Clipping& clipping) {
 
 }  // namespace
 
+// The bytes of the file make the hash, so that it is the same however they are decoded.
 void ClippingNotes::add(Clipping clipping) {
-    ShelvedBook& book = shelf_.book(clipping.title, clipping.author);
+    const bool isRaw = !clipping.rawTitle.empty();
+    const std::string hash = derivedBookHash(isRaw ? clipping.rawTitle : clipping.title,
+                                             isRaw ? clipping.rawAuthor : clipping.author);
+    ShelvedBook& book = shelf_.book({hash, clipping.title, clipping.author, ""}, true);
     Note& note = clipping.note;
     if (clipping.kind == ClippingKind::Note) {
         note.comment = std::exchange(note.text, {});

@@ -1,21 +1,37 @@
 #include "client/sources/clippings/clippings_file.h"
 
+#include <cstddef>
 #include <optional>
 #include <utility>
-#include <vector>
 
 #include "client/files/whole_file.h"
 #include "client/sources/clippings/clipping.h"
 #include "client/sources/clippings/clipping_notes.h"
+#include "client/sources/clippings/scanning.h"
+#include "client/text/affixes.h"
+#include "client/text/encoding.h"
+#include "client/text/line_breaks.h"
+#include "text/utf8.h"
 
 namespace client {
 namespace {
 
-constexpr std::string_view kEndOfRecord = "==========";
+constexpr std::string_view kSeparator = "==========";
+constexpr std::string_view kByteOrderMark = "\ufeff";
 
-std::string_view withoutEnding(std::string_view line) {
-    return line.substr(0, line.find_last_not_of("\r ") + 1);
+bool isSeparator(std::string_view line) { return withoutSpaces(line) == kSeparator; }
+
+// Returns the text as UTF-8 if it is UTF-16, with a line feed at the end of each line.
+std::string decodedFile(std::string text) {
+    return withLineFeedEnds(utf16AsUtf8(std::move(text)));
 }
+
+// The end of a record and the start of the next one, as offsets in a line.
+struct Boundary {
+    std::size_t end;
+    std::size_t next;
+    bool isSeparator;
+};
 
 // Iterates over the records of a text.
 class Records {
@@ -23,43 +39,100 @@ public:
     explicit Records(std::string_view text) : rest_(text) {}
 
     bool next();
-    const std::vector<std::string_view>& lines() const { return lines_; }
+    std::string_view text() const { return text_; }
     std::size_t firstLine() const { return firstLine_; }
     bool hasEnd() const { return hasEnd_; }
 
 private:
-    std::string_view takeLine();
+    void skipToRecord();
+    std::optional<Boundary> boundaryIn(std::string_view line) const;
 
     std::string_view rest_;
-    std::vector<std::string_view> lines_;
-    std::size_t linesTaken_ = 0;
-    std::size_t firstLine_ = 0;
+    std::string_view text_;
+    std::size_t line_ = 1;  // number of the rest's first line
+    std::size_t firstLine_ = 1;
     bool hasEnd_ = false;
 };
 
-std::string_view Records::takeLine() {
-    const std::size_t length = rest_.find('\n');
-    const std::string_view line = rest_.substr(0, length);
-    rest_.remove_prefix(length == std::string_view::npos ? rest_.size() : length + 1);
-    ++linesTaken_;
-    return line;
+void Records::skipToRecord() {
+    for (std::string_view rest = rest_; !rest.empty(); ++line_) {
+        const std::string_view line = takeLine(rest);
+        if (!withoutSpaces(line).empty() && !isSeparator(line)) {
+            return;
+        }
+        rest_ = rest;
+    }
+    rest_ = {};
 }
 
-// Skips empty lines before the record.
+// A record may also start within a line, where a file that is cut or lacks its last line
+// end was joined with another. Then the next line must be the second line of a record,
+// because a passage may contain anything.
+std::optional<Boundary> Records::boundaryIn(std::string_view line) const {
+    if (isSeparator(line)) {
+        return Boundary{0, line.size(), true};
+    }
+    const bool hasSeparator = startsWith(line, kSeparator);
+    const std::size_t mark = hasSeparator ? 0 : line.find(kByteOrderMark);
+    std::string_view rest = rest_;
+    if (mark == std::string_view::npos || !isDetails(takeLine(rest))) {
+        return std::nullopt;
+    }
+    return Boundary{mark, hasSeparator ? kSeparator.size() : mark, hasSeparator};
+}
+
 bool Records::next() {
-    lines_.clear();
+    skipToRecord();
+    firstLine_ = line_;
+    text_ = rest_;
     hasEnd_ = false;
-    while (!rest_.empty() && !hasEnd_) {
-        const std::string_view line = withoutEnding(takeLine());
-        hasEnd_ = line == kEndOfRecord;
-        if (lines_.empty() && !line.empty()) {
-            firstLine_ = linesTaken_;
+    for (std::size_t length = 0; !rest_.empty(); length = text_.size() - rest_.size()) {
+        const std::string_view line = takeLine(rest_);
+        const auto boundary = length > 0 ? boundaryIn(line) : std::nullopt;
+        if (boundary) {
+            hasEnd_ = boundary->isSeparator;
+            rest_ = text_.substr(length + boundary->next);
+            text_ = text_.substr(0, length + boundary->end);
+            return true;
         }
-        if (!hasEnd_ && !(lines_.empty() && line.empty())) {
-            lines_.push_back(line);
+        ++line_;
+    }
+    return !text_.empty();
+}
+
+// The lines that are not UTF-8.
+class ForeignLines {
+public:
+    void addFrom(std::string_view record, std::size_t firstLine);
+
+    // Returns an empty text if there is none.
+    std::string remark(const std::string& path) const;
+
+private:
+    std::size_t first_ = 0;
+    std::size_t count_ = 0;
+};
+
+void ForeignLines::addFrom(std::string_view record, std::size_t firstLine) {
+    if (host::isUtf8(record)) {
+        return;
+    }
+    for (std::size_t line = firstLine; !record.empty(); ++line) {
+        if (!host::isUtf8(takeLine(record))) {
+            first_ = count_ == 0 ? line : first_;
+            ++count_;
         }
     }
-    return hasEnd_ || !lines_.empty();
+}
+
+std::string ForeignLines::remark(const std::string& path) const {
+    if (count_ == 0) {
+        return {};
+    }
+    const std::string lines =
+        count_ == 1 ? " is" : " and " + std::to_string(count_ - 1) + " more are";
+    return path + ": line " + std::to_string(first_) + lines +
+           " not UTF-8 and read as Windows-1252\n";
 }
 
 std::string whyUnreadable(const Records& records, const std::optional<Clipping>& clipping) {
@@ -70,25 +143,38 @@ std::string whyUnreadable(const Records& records, const std::optional<Clipping>&
 
 }  // namespace
 
+// A record that is not the first must be in a known language, because other texts have
+// lines that start with a dash, too.
 bool isClippings(std::string_view start) {
-    Records records(start);
-    return records.next() && parseClipping(records.lines()).has_value() &&
-           start.find(kEndOfRecord) != std::string_view::npos;
+    const std::string text = decodedFile(std::string(start));
+    Records records(text);
+    for (bool isFirst = true; records.next(); isFirst = false) {
+        std::string_view details = records.text();
+        takeLine(details);
+        if (records.hasEnd() && parseClipping(records.text()) &&
+            (isFirst || isDetails(takeLine(details)))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 SourceContent readClippings(const std::string& path) {
-    const std::string text = readFile(path);
+    const std::string text = decodedFile(readFile(path));
     SourceContent content;
     ClippingNotes notes;
+    ForeignLines foreign;
     for (Records records(text); records.next();) {
-        auto clipping = parseClipping(records.lines());
+        auto clipping = parseClipping(records.text());
         if (records.hasEnd() && clipping && !clipping->hasLimitMessage) {
+            foreign.addFrom(records.text(), records.firstLine());
             notes.add(std::move(*clipping));
         } else {
             content.skipped.add("line " + std::to_string(records.firstLine()) + ": " +
                                 whyUnreadable(records, clipping));
         }
     }
+    content.remark = foreign.remark(path);
     content.books = notes.take();
     return content;
 }

@@ -63,7 +63,7 @@ void addNumber(Moment& moment, const NumberInText& number) {
         moment.afterTime = number.rest;
     } else if (number.digits == 4 && moment.year < 0) {
         moment.year = number.value;
-    } else if (startsWith(number.rest, "月")) {
+    } else if (prefixLength(number.rest, words::kAfterMonth) > 0) {
         moment.month = number.value;
     } else if (number.digits <= 2 && moment.day == 0) {
         moment.day = number.value;

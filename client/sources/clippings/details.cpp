@@ -1,6 +1,7 @@
 #include "client/sources/clippings/clipping.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,10 @@ namespace {
 namespace words = clipping_words;
 
 using Ranges = std::vector<ClippingRange>;
+
+// The last two are in Windows-1252.
+constexpr std::array<std::string_view, 5> kDashes = {"-", "\u2013", "\u2014", "\x96",
+                                                     "\x97"};
 
 std::vector<std::string> parts(const std::string& line) {
     std::vector<std::string> result;
@@ -36,11 +41,38 @@ std::int64_t completed(std::int64_t last, std::size_t digits, std::int64_t first
     return last < first ? std::max(first, first - first % unit + last) : last;
 }
 
+// Adds the groups of three digits after a comma or a full stop: "1,234".
+void addGroups(NumberInText& number) {
+    constexpr std::size_t kGroup = 3;
+    constexpr std::size_t kMaxDigits = 15;
+    constexpr std::string_view kSeparators = ",.";
+    bool mayHaveGroups = number.digits <= kGroup;
+    while (mayHaveGroups && number.digits <= kMaxDigits && !number.rest.empty() &&
+           kSeparators.find(number.rest.front()) != std::string_view::npos) {
+        std::size_t at = 1;
+        const auto group = nextNumber(number.rest, at);
+        mayHaveGroups = group && group->offset == 1 && group->digits == kGroup;
+        if (mayHaveGroups) {
+            number.value = number.value * 1000 + group->value;
+            number.digits += kGroup;
+            number.rest = group->rest;
+        }
+    }
+}
+
+std::optional<NumberInText> nextPlace(std::string_view text, std::size_t& at) {
+    auto number = nextNumber(text, at);
+    if (number) {
+        addGroups(*number);
+        at = text.size() - number->rest.size();
+    }
+    return number;
+}
+
 std::optional<NumberInText> endOfRange(const NumberInText& first) {
-    constexpr std::string_view kDashes[] = {"-", "\u2013", "\u2014"};
     const std::size_t dash = prefixLength(first.rest, kDashes);
     std::size_t at = dash;
-    const auto last = dash > 0 ? nextNumber(first.rest, at) : std::nullopt;
+    const auto last = dash > 0 ? nextPlace(first.rest, at) : std::nullopt;
     return last && last->offset == dash ? last : std::nullopt;
 }
 
@@ -51,7 +83,7 @@ struct RangeInText {
 };
 
 std::optional<RangeInText> nextRange(std::string_view text, std::size_t& at) {
-    const auto first = nextNumber(text, at);
+    const auto first = nextPlace(text, at);
     if (!first) {
         return std::nullopt;
     }
@@ -117,10 +149,13 @@ void guessPlaces(const Ranges& ranges, Clipping& clipping) {
 }  // namespace
 
 std::optional<Clipping> parseDetails(std::string_view line) {
-    if (!startsWith(line, "-")) {
+    constexpr std::size_t kLongest = 4096;  // for folding, which needs much memory
+    line = withoutSpaces(line).substr(0, kLongest);
+    const std::size_t dash = prefixLength(line, kDashes);
+    if (dash == 0) {
         return std::nullopt;
     }
-    std::vector<std::string> rest = parts(caseFoldedNfkc(std::string(line.substr(1))));
+    std::vector<std::string> rest = parts(caseFoldedNfkc(decodedLine(line.substr(dash))));
     Clipping clipping;
     if (const auto date = parseClippingDate(rest.back())) {
         clipping.note.time = *date;
@@ -137,6 +172,12 @@ std::optional<Clipping> parseDetails(std::string_view line) {
         guessPlaces(unnamed, clipping);
     }
     return clipping;
+}
+
+bool isDetails(std::string_view line) {
+    const auto clipping = parseDetails(line);
+    return clipping && clipping->kind &&
+           (clipping->page || clipping->location || clipping->note.time != 0);
 }
 
 }  // namespace client

@@ -1,7 +1,8 @@
-// Numbers and words in a line.
+// Numbers, words and spaces in a line.
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -10,6 +11,14 @@
 #include "client/text/affixes.h"
 
 namespace client {
+
+// With the byte order mark, which some readers write before each record.
+inline constexpr std::array<std::string_view, 7> kSpaces = {
+    " ", "\t", "\r", "\n", "\u00a0", "\u3000", "\ufeff"};
+
+inline std::string_view withoutSpaces(std::string_view text) {
+    return trimmed(text, kSpaces);
+}
 
 struct NumberInText {
     std::int64_t value;     // of its first 18 digits

@@ -55,8 +55,12 @@ void ShelvedBook::add(Note note, const Identity& identity,
     }
 }
 
+std::string derivedBookHash(const std::string& title, const std::string& author) {
+    return digestOf({title, author}).hexadecimal();
+}
+
 ShelvedBook& BookShelf::book(const std::string& title, const std::string& author) {
-    return book({digestOf({title, author}).hexadecimal(), title, author, ""}, true);
+    return book({derivedBookHash(title, author), title, author, ""}, true);
 }
 
 ShelvedBook& BookShelf::book(const std::string& hash, const std::string& title,

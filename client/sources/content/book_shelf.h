@@ -44,6 +44,9 @@ private:
     std::unordered_map<DigestValue, DigestValue, DigestValue::Hash> contents_;
 };
 
+// Returns the hash that a book has only because of its title and author.
+std::string derivedBookHash(const std::string& title, const std::string& author);
+
 // References to its books stay valid.
 class BookShelf {
 public:
@@ -54,12 +57,13 @@ public:
     ShelvedBook& book(const std::string& hash, const std::string& title,
                       const std::string& author);
 
+    // Returns the book with the hash of `book`.
+    ShelvedBook& book(const Book& book, bool isHashDerived);
+
     // Returns the books in the order in which they were added, and removes them.
     std::vector<IncomingBook> take();
 
 private:
-    ShelvedBook& book(const Book& book, bool isHashDerived);
-
     std::deque<ShelvedBook> books_;
     std::unordered_map<std::string, std::size_t> indices_;  // by hash
 };

@@ -29,6 +29,7 @@ struct SourceContent {
     std::optional<std::string> styleSheet = {};  // text, for the whole collection
     host::OnKnownBook onKnownBook = host::OnKnownBook::FillEmpty;
     SkippedRecords skipped = {};  // records that could not be read
+    std::string remark = {};      // lines about the file as a whole
 };
 
 }  // namespace client
