@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "client/text/affixes.h"
+#include "text/utf8.h"
 
 namespace client {
 namespace {
@@ -96,6 +97,10 @@ std::string windows1252AsUtf8(std::string_view text) {
         }
     }
     return result;
+}
+
+std::string lineAsUtf8(std::string_view line) {
+    return host::isUtf8(line) ? std::string(line) : windows1252AsUtf8(line);
 }
 
 }  // namespace client

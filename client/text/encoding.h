@@ -17,4 +17,7 @@ std::string utf16AsUtf8(std::string text);
 // Returns the text as UTF-8, with U+FFFD for the bytes that Windows-1252 lacks.
 std::string windows1252AsUtf8(std::string_view text);
 
+// Returns the line unchanged if it is UTF-8. Any other line is read as Windows-1252.
+std::string lineAsUtf8(std::string_view line);
+
 }  // namespace client

@@ -61,6 +61,9 @@ TEST(Identity, OfClippingComesFromKindPlaceAndTime) {
          "cbae388f3984029dfd516e849b3087dc"},
         {"no author", "Emma - Jane Austen\n- Your Highlight on page 5\n\na\n==========\n",
          "e68cb3e7756b71d025f666db1a932f86: 307bba11aa77b96e26828e80154ed352"},
+        {"title in Windows-1252",
+         "Caf\xE9 (Ren\xE9)\n- Note on page 3\n\n\xE4\n==========\n",
+         "864dd6906339ecf6b9f91668d314beb6: 2ef27d6c2121fd9f861f5cd04bf0c730"},
         {"passage that was changed",
          record("Highlight on page 5 | Location 70-71", "a") +
              record("Highlight on page 5 | Location 70-73", "a b"),

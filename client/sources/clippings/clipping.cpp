@@ -62,7 +62,7 @@ std::string textOf(std::string_view lines) {
         if (isUtf8) {
             text += withoutSpaces(line);
         } else {
-            text += withoutSpaces(decodedLine(line));
+            text += withoutSpaces(lineAsUtf8(line));
         }
         text += lines.empty() ? "" : "\n";
     }
@@ -95,10 +95,6 @@ bool isLimitMessage(std::string_view text) {
 }
 
 }  // namespace
-
-std::string decodedLine(std::string_view line) {
-    return host::isUtf8(line) ? std::string(line) : windows1252AsUtf8(line);
-}
 
 std::optional<Clipping> parseClipping(std::string_view record) {
     const std::string_view title = withoutSpaces(takeLine(record));

@@ -43,7 +43,4 @@ std::optional<Clipping> parseDetails(std::string_view line);
 // place or a time.
 bool isDetails(std::string_view line);
 
-// Returns the line as UTF-8.
-std::string decodedLine(std::string_view line);
-
 }  // namespace client

@@ -10,6 +10,7 @@
 #include "client/sources/clippings/words.h"
 #include "client/text/affixes.h"
 #include "client/text/case_folding.h"
+#include "client/text/encoding.h"
 
 namespace client {
 namespace {
@@ -41,38 +42,10 @@ std::int64_t completed(std::int64_t last, std::size_t digits, std::int64_t first
     return last < first ? std::max(first, first - first % unit + last) : last;
 }
 
-// Adds the groups of three digits after a comma or a full stop: "1,234".
-void addGroups(NumberInText& number) {
-    constexpr std::size_t kGroup = 3;
-    constexpr std::size_t kMaxDigits = 15;
-    constexpr std::string_view kSeparators = ",.";
-    bool mayHaveGroups = number.digits <= kGroup;
-    while (mayHaveGroups && number.digits <= kMaxDigits && !number.rest.empty() &&
-           kSeparators.find(number.rest.front()) != std::string_view::npos) {
-        std::size_t at = 1;
-        const auto group = nextNumber(number.rest, at);
-        mayHaveGroups = group && group->offset == 1 && group->digits == kGroup;
-        if (mayHaveGroups) {
-            number.value = number.value * 1000 + group->value;
-            number.digits += kGroup;
-            number.rest = group->rest;
-        }
-    }
-}
-
-std::optional<NumberInText> nextPlace(std::string_view text, std::size_t& at) {
-    auto number = nextNumber(text, at);
-    if (number) {
-        addGroups(*number);
-        at = text.size() - number->rest.size();
-    }
-    return number;
-}
-
 std::optional<NumberInText> endOfRange(const NumberInText& first) {
     const std::size_t dash = prefixLength(first.rest, kDashes);
     std::size_t at = dash;
-    const auto last = dash > 0 ? nextPlace(first.rest, at) : std::nullopt;
+    const auto last = dash > 0 ? nextGroupedNumber(first.rest, at) : std::nullopt;
     return last && last->offset == dash ? last : std::nullopt;
 }
 
@@ -83,7 +56,7 @@ struct RangeInText {
 };
 
 std::optional<RangeInText> nextRange(std::string_view text, std::size_t& at) {
-    const auto first = nextPlace(text, at);
+    const auto first = nextGroupedNumber(text, at);
     if (!first) {
         return std::nullopt;
     }
@@ -155,7 +128,7 @@ std::optional<Clipping> parseDetails(std::string_view line) {
     if (dash == 0) {
         return std::nullopt;
     }
-    std::vector<std::string> rest = parts(caseFoldedNfkc(decodedLine(line.substr(dash))));
+    std::vector<std::string> rest = parts(caseFoldedNfkc(lineAsUtf8(line.substr(dash))));
     Clipping clipping;
     if (const auto date = parseClippingDate(rest.back())) {
         clipping.note.time = *date;

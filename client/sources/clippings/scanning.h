@@ -31,6 +31,9 @@ struct NumberInText {
 // Returns the next number at or after `at`, and moves `at` to its end.
 std::optional<NumberInText> nextNumber(std::string_view text, std::size_t& at);
 
+// Also takes groups of three digits after commas or full stops for a part of the number.
+std::optional<NumberInText> nextGroupedNumber(std::string_view text, std::size_t& at);
+
 template <class Words>
 bool hasOneOf(std::string_view text, const Words& words) {
     return std::any_of(words.begin(), words.end(), [text](std::string_view word) {

@@ -1,0 +1,64 @@
+#include "client/sources/clippings/records.h"
+
+#include "client/sources/clippings/clipping.h"
+#include "client/sources/clippings/scanning.h"
+#include "client/text/affixes.h"
+#include "client/text/line_breaks.h"
+
+namespace client {
+namespace {
+
+constexpr std::string_view kSeparator = "==========";
+constexpr std::string_view kByteOrderMark = "\ufeff";
+
+bool isSeparator(std::string_view line) { return withoutSpaces(line) == kSeparator; }
+
+}  // namespace
+
+void Records::skipToRecord() {
+    for (std::string_view rest = rest_; !rest.empty(); ++line_) {
+        const std::string_view line = takeLine(rest);
+        if (!withoutSpaces(line).empty() && !isSeparator(line)) {
+            return;
+        }
+        rest_ = rest;
+    }
+    rest_ = {};
+}
+
+// A record may also start within a line, where a file that is cut or lacks its last line
+// end was joined with another. Then the next line must be the second line of a record,
+// because a passage may contain anything.
+std::optional<Records::Boundary> Records::boundaryIn(std::string_view line) const {
+    if (isSeparator(line)) {
+        return Boundary{0, line.size(), true};
+    }
+    const bool hasSeparator = startsWith(line, kSeparator);
+    const std::size_t mark = hasSeparator ? 0 : line.find(kByteOrderMark);
+    std::string_view rest = rest_;
+    if (mark == std::string_view::npos || !isDetails(takeLine(rest))) {
+        return std::nullopt;
+    }
+    return Boundary{mark, hasSeparator ? kSeparator.size() : mark, hasSeparator};
+}
+
+bool Records::next() {
+    skipToRecord();
+    firstLine_ = line_;
+    text_ = rest_;
+    hasSeparator_ = false;
+    for (std::size_t length = 0; !rest_.empty(); length = text_.size() - rest_.size()) {
+        const std::string_view line = takeLine(rest_);
+        const auto boundary = length > 0 ? boundaryIn(line) : std::nullopt;
+        if (boundary) {
+            hasSeparator_ = boundary->isSeparator;
+            rest_ = text_.substr(length + boundary->next);
+            text_ = text_.substr(0, length + boundary->end);
+            return true;
+        }
+        ++line_;
+    }
+    return !text_.empty();
+}
+
+}  // namespace client
