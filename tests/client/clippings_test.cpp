@@ -127,7 +127,8 @@ TEST(ClippingsFile, IsReadHoweverItWasDamaged) {
         {"little-endian UTF-16", inUtf16(withEnds("\r\n", a), true), "A: a\n"},
         {"big-endian UTF-16", inUtf16(a, false), "A: a\n"},
         {"Windows-1252", a + latin + "D\xE9\n",
-         "A: a\nCé: ä\nsample: line 6 and 1 more are not UTF-8 and read as Windows-1252\n" +
+         "A: a\nCé: ä\nsample: line 6 and 1 more are not UTF-8 and were read as "
+         "Windows-1252\n" +
              skipped + "11" + noEnd},
         {"list in Markdown", "x\n==========\ny\n- z\n==========\n", "refused"},
     };

@@ -49,10 +49,10 @@ std::string ForeignLines::remark(const std::string& path) const {
     if (count_ == 0) {
         return {};
     }
-    const std::string lines =
-        count_ == 1 ? " is" : " and " + std::to_string(count_ - 1) + " more are";
-    return path + ": line " + std::to_string(first_) + lines +
-           " not UTF-8 and read as Windows-1252\n";
+    const std::string start = path + ": line " + std::to_string(first_);
+    return count_ == 1 ? start + " is not UTF-8 and was read as Windows-1252\n"
+                       : start + " and " + std::to_string(count_ - 1) +
+                             " more are not UTF-8 and were read as Windows-1252\n";
 }
 
 std::string whyUnreadable(const Records& records, const std::optional<Clipping>& clipping) {
