@@ -57,6 +57,11 @@ TEST(Identity, OfClippingComesFromKindPlaceAndTime) {
         {"no date",
          "Emma (Jane Austen)\n- Your Highlight at location 5-6\n\nhandsome\n==========\n",
          "70fe1d9ba68d59c51b1e02a5ed46d318"},
+        {"Korean date",
+         "Emma (Jane Austen)\n- 위치 5-6의 하이라이트 | 추가됨: 2019년 1월 28일 월요일 "
+         "오후 "
+         "9:27:44\n\nhandsome\n==========\n",
+         "70fe1d9ba68d59c51b1e02a5ed46d318"},
         {"note without a place", record("Note", "mine"),
          "cbae388f3984029dfd516e849b3087dc"},
         {"no author", "Emma - Jane Austen\n- Your Highlight on page 5\n\na\n==========\n",

@@ -215,14 +215,17 @@ private:
     }
 
     std::string record() {
-        static constexpr const char* kTitles[] = {"Emma (J)", "Emma (J)", "Emma (J)",
-                                                  "\u00C9mma  (J)", "E\u0301mma (J)"};
-        static constexpr const char* kTexts[] = {"a", "b", "ab", "abc", "", "c\u2029b"};
+        static constexpr const char* kTitles[] = {"Emma (J)",       "Emma (J)",
+                                                  "\uFEFFEmma (J)", "\u00C9mma  (J)",
+                                                  "E\u0301mma (J)", "\xC9mma (J)"};
+        static constexpr const char* kTexts[] = {"a", "b",         "ab",
+                                                 "",  "\xC9\r\na", "c\u2029b"};
         static constexpr const char* kKinds[] = {"Highlight", "Highlight", "Note", "Note",
                                                  "Bookmark"};
         const std::string kind = oneOf(kKinds);
         return oneOf(kTitles) + "\n- Your " + kind + ' ' + place() + date() + "\n\n" +
-               (kind == "Bookmark" ? "" : oneOf(kTexts)) + "\n==========\n";
+               (kind == "Bookmark" ? "" : oneOf(kTexts)) +
+               "\n==========" + (below(8) == 0 ? "" : "\n");
     }
 
     std::mt19937 random_;

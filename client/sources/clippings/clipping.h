@@ -28,6 +28,8 @@ struct Clipping {
     std::optional<ClippingRange> location = {};
     Note note = {};                // text and time
     bool hasLimitMessage = false;  // instead of the passage
+    // The time for its uuid; 0 for Korean dates, which version 1.1 could not read.
+    std::int64_t identityTime = 0;
 };
 
 // Reads the lines of one record, without the line that ends it. Returns nullopt if they are

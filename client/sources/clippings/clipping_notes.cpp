@@ -14,7 +14,7 @@ std::string rangeText(const std::optional<ClippingRange>& range) {
 Identity identityOf(const Clipping& clipping) {
     return {std::to_string(static_cast<int>(clipping.kind.value())),
             rangeText(clipping.location), rangeText(clipping.page),
-            std::to_string(clipping.note.time)};
+            std::to_string(clipping.identityTime)};
 }
 
 }  // namespace

@@ -132,6 +132,9 @@ std::optional<Clipping> parseDetails(std::string_view line) {
     Clipping clipping;
     if (const auto date = parseClippingDate(rest.back())) {
         clipping.note.time = *date;
+        const bool isKorean =
+            rest.back().find(words::kAfterKoreanMonth) != std::string::npos;
+        clipping.identityTime = isKorean ? 0 : *date;
         rest.pop_back();
     }
     Ranges unnamed;

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <optional>
 #include <vector>
@@ -50,7 +51,7 @@ private:
     std::string commentOf(Mark& mark) const;
     std::vector<std::size_t> remainingByPosition() const;
 
-    std::vector<Mark> marks_;
+    std::deque<Mark> marks_;
     Marks withLocation_;
     Marks withPage_;
     PackedNotes replaced_;

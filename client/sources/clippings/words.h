@@ -27,7 +27,8 @@ inline constexpr std::array<std::string_view, 4> kAfterPage = {"ページ", "页
 inline constexpr std::array<std::string_view, 7> kBeforeLocation = {
     "loc", "posi", "ubicaci", "emplacement", "мест", "位置", "위치"};
 
-inline constexpr std::array<std::string_view, 2> kAfterMonth = {"月", "월"};
+inline constexpr std::string_view kAfterKoreanMonth = "월";
+inline constexpr std::array<std::string_view, 2> kAfterMonth = {"月", kAfterKoreanMonth};
 
 // After the time.
 inline constexpr std::array<std::string_view, 3> kPm = {"pm", "p.m", "p. m"};
