@@ -90,7 +90,7 @@ std::string NoteLoader::knownUuid(const IncomingBook& book, const std::string& u
         return uuid;
     }
     for (const std::string& candidate : former->second) {
-        if (store_.findNote(bookId_, candidate)) {
+        if (store_.findNote(bookId_, candidate) && formerUuids_.insert(candidate).second) {
             return candidate;
         }
     }

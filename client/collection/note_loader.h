@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,7 @@ private:
     const std::int64_t bookId_;
     const Book& book_;
     LoadResult& result_;
+    std::set<std::string> formerUuids_;  // that notes of this load have kept
 };
 
 }  // namespace client

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <string>
+#include <vector>
 
 #include "client/collection/note.h"
 
@@ -35,7 +35,7 @@ public:
     Iterator end() const { return {*this, blocks_.size()}; }
 
 private:
-    std::deque<std::string> blocks_;  // a string for each note would take a third more
+    std::vector<std::string> blocks_;  // a string for each note would take a third more
 };
 
 }  // namespace client

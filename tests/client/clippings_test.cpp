@@ -251,19 +251,19 @@ TEST(Passages, LaterRecordIsNewer) {
         std::vector<Clipping> clippings;
         Times times;
     } rows[] = {
-        {"marked again", {at(part, 100), at(whole, 200)}, {200, 101, 0}},
-        {"by an earlier clock", {at(part, 100), at(whole, 90)}, {90, 101, 0}},
-        {"undated", {part, whole}, {0, 1, 0}},
-        {"remark", {at(whole, 100), noteAt(2, "m", 200)}, {100, 0, 200}},
+        {"marked again", {at(part, 100), at(whole, 200)}, {200, 200, 200}},
+        {"by an earlier clock", {at(part, 100), at(whole, 90)}, {90, 101, 101}},
+        {"undated", {part, whole}, {0, 1, 1}},
+        {"remark", {at(whole, 100), noteAt(2, "m", 200)}, {100, 100, 200}},
         {"remarks by an earlier clock",
          {at(whole, 1), noteAt(2, "m", 200), noteAt(3, "n", 100)},
-         {1, 0, 201}},
+         {1, 1, 201}},
         {"marked again, with a remark",
          {at(part, 100), noteAt(2, "m", 200), at(whole, 90)},
          {90, 101, 201}},
         {"two joined, of which one has a remark",
          {at(part, 100), noteAt(2, "m", 200), at(marked(6, 9, "b"), 300), at(whole, 50)},
-         {50, 301, 201}},
+         {50, 301, 301}},
     };
     for (const auto& row : rows) {
         client::Passages passages;

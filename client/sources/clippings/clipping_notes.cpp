@@ -39,10 +39,10 @@ void ClippingNotes::add(Clipping clipping) {
 
 std::vector<IncomingBook> ClippingNotes::take() {
     for (auto& [book, passages] : passages_) {
-        book->content().onKnownNote = OnKnownNote::ReplaceOwn;
-        passages.moveTo(book->content());
+        IncomingBook& content = book->finish();
+        content.onKnownNote = OnKnownNote::ReplaceOwn;
+        std::exchange(passages, {}).moveTo(content);
     }
-    passages_.clear();
     return shelf_.take();
 }
 

@@ -23,12 +23,6 @@ bool contains(const ClippingRange& range, const ClippingRange& part) {
     return part.first >= range.first && part.last <= range.last;
 }
 
-std::int64_t timeOfText(const Note& note) { return std::max(note.time, note.changeTime); }
-
-std::int64_t timeOfComment(const Note& note) {
-    return std::max(note.time, note.commentTime);
-}
-
 std::int64_t positionOf(const std::optional<ClippingRange>& range) {
     return range ? range->first : 0;
 }
@@ -44,19 +38,46 @@ void append(std::vector<std::size_t>& all, std::vector<std::size_t> more) {
 }  // namespace
 
 // Pages count only for clippings without a location.
+Passages::Mark Passages::markOf(Clipping clipping) {
+    Note& note = clipping.note;
+    Mark mark;
+    mark.isRemark = clipping.kind == ClippingKind::Note;
+    mark.range = clipping.location ? clipping.location : clipping.page;
+    mark.page = note.page;
+    mark.time = mark.changeTime = mark.commentTime = note.time;
+    mark.uuid = std::move(note.uuid);
+    mark.text = std::move(mark.isRemark ? note.comment : note.text);
+    return mark;
+}
+
+// Returns the mark's note without its remarks.
+Note Passages::noteOf(const Mark& mark) {
+    Note note;
+    note.uuid = mark.uuid;
+    note.page = mark.page;
+    (mark.isRemark ? note.comment : note.text) = mark.text;
+    note.time = mark.time;
+    note.changeTime = mark.changeTime;
+    note.commentTime = mark.commentTime;
+    return note;
+}
+
 void Passages::add(Clipping clipping) {
+    std::optional<Marks>& marks = clipping.location ? withLocation_ : withPage_;
+    const bool isPassage = isMarked(clipping);
     const std::size_t index = marks_.size();
-    const bool isLocated = clipping.location.has_value();
-    marks_.push_back(
-        {std::move(clipping.note), isLocated ? clipping.location : clipping.page});
-    Marks& marks = isLocated ? withLocation_ : withPage_;
-    if (!marks_.back().range) {
+    marks_.push_back(markOf(std::move(clipping)));
+    const Mark& mark = marks_.back();
+    if (!mark.range || !(isPassage || mark.isRemark)) {
         return;
     }
-    if (isMarked(clipping)) {
-        addPassage(marks, index);
-    } else if (clipping.kind == ClippingKind::Note) {
-        addRemark(marks, index);
+    if (!marks) {
+        marks.emplace();
+    }
+    if (isPassage) {
+        addPassage(*marks, index);
+    } else {
+        addRemark(*marks, index);
     }
 }
 
@@ -89,47 +110,41 @@ void Passages::replaceIfContained(std::size_t earlierIndex, std::size_t laterInd
     Mark& earlier = marks_[earlierIndex];
     Mark& later = marks_[laterIndex];
     if (earlierIndex == laterIndex || earlier.isDropped ||
-        !contains(*later.range, *earlier.range) ||
-        !contains(later.note.text, earlier.note.text)) {
+        !contains(*later.range, *earlier.range) || !contains(later.text, earlier.text)) {
         return;
     }
-    replaced_.add(later.note);
-    replaced_.add(earlier.note);
-    later.note.uuid = std::move(earlier.note.uuid);
-    later.note.page = later.note.page ? later.note.page : earlier.note.page;
-    later.note.changeTime = std::max(later.note.changeTime, timeOfText(earlier.note) + 1);
-    if (!earlier.remarks.empty()) {
-        later.note.commentTime =
-            std::max(later.note.commentTime, timeOfComment(earlier.note) + 1);
-        append(later.remarks, std::move(earlier.remarks));
-    }
+    replaced_.add(noteOf(later));
+    replaced_.add(noteOf(earlier));
+    later.uuid = std::move(earlier.uuid);
+    later.page = later.page ? later.page : earlier.page;
+    later.changeTime = std::max(later.changeTime, earlier.changeTime + 1);
+    later.commentTime = std::max(later.commentTime, earlier.commentTime + 1);
+    append(later.remarks, std::move(earlier.remarks));
     earlier = {};
     earlier.isDropped = true;
 }
 
 void Passages::attach(std::size_t remarkIndex, Mark& passage) {
     Mark& remark = marks_[remarkIndex];
-    replaced_.add(remark.note);
-    const std::int64_t later =
-        passage.remarks.empty() ? remark.note.time : timeOfComment(passage.note) + 1;
-    passage.note.commentTime =
-        std::max({passage.note.commentTime, remark.note.time, later});
+    replaced_.add(noteOf(remark));
+    const std::int64_t next = passage.commentTime + (passage.remarks.empty() ? 0 : 1);
+    passage.commentTime = std::max(remark.time, next);
     passage.remarks.push_back(remarkIndex);
     remark.isDropped = true;
 }
 
 // Of a remark and a later one at the same position that contains it, only the later one
 // counts.
-std::string Passages::commentOf(Mark& mark) const {
+std::string Passages::commentOf(std::vector<std::size_t> remarks) const {
     const auto position = [this](std::size_t remark) {
         return std::pair(positionOf(marks_[remark].range), remark);
     };
-    std::sort(mark.remarks.begin(), mark.remarks.end(),
+    std::sort(remarks.begin(), remarks.end(),
               [&](std::size_t a, std::size_t b) { return position(a) < position(b); });
     std::string comment;
     std::size_t latest = 0;  // offset of the latest remark
-    for (const std::size_t remark : mark.remarks) {
-        const std::string& text = marks_[remark].note.comment;
+    for (const std::size_t remark : remarks) {
+        const std::string& text = marks_[remark].text;
         if (!contains(text, comment.substr(latest))) {
             comment += "\u2029";  // PARAGRAPH SEPARATOR
             latest = comment.size();
@@ -153,16 +168,17 @@ std::vector<std::size_t> Passages::remainingByPosition() const {
 }
 
 void Passages::moveTo(IncomingBook& book) {
+    withLocation_.reset();  // frees memory for the notes
+    withPage_.reset();
     for (const std::size_t index : remainingByPosition()) {
-        Mark& mark = marks_[index];
-        if (!mark.remarks.empty()) {
-            mark.note.comment = commentOf(mark);
+        const Mark& mark = marks_[index];
+        Note note = noteOf(mark);
+        if (!mark.isRemark) {
+            note.comment = commentOf(mark.remarks);
         }
-        book.notes.add(mark.note);
-        mark.note = {};
+        book.notes.add(note);
     }
     book.replaced = std::move(replaced_);
-    marks_.clear();
 }
 
 }  // namespace client

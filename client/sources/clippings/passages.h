@@ -3,9 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <map>
 #include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "client/collection/incoming_books.h"
@@ -30,30 +31,40 @@ public:
     void moveTo(IncomingBook& book);
 
 private:
+    // Smaller than a clipping: there may be millions.
     struct Mark {
-        Note note;
-        std::optional<ClippingRange> range;
+        bool isRemark = false;
+        bool isDropped = false;  // merged into another mark
+        std::optional<ClippingRange> range = {};
+        std::optional<double> page = {};
+        std::int64_t time = 0;
+        std::int64_t changeTime = 0;
+        std::int64_t commentTime = 0;
+        std::string uuid = {};
+        std::string text = {};                  // of the passage or of the remark
         std::vector<std::size_t> remarks = {};  // that its comment consists of
-        bool isDropped = false;                 // merged into another mark
     };
     // The marks with a location, or with a page alone.
     struct Marks {
-        std::map<std::int64_t, std::size_t> byStart;  // the latest passage
-        std::map<std::int64_t, std::size_t> byEnd;
+        std::unordered_map<std::int64_t, std::size_t> byStart;  // the latest passage
+        std::unordered_map<std::int64_t, std::size_t> byEnd;
         LatestRanges passages;
         std::multimap<std::int64_t, std::size_t> remarks;  // that no passage contains yet
     };
+
+    static Mark markOf(Clipping clipping);
+    static Note noteOf(const Mark& mark);
 
     void addPassage(Marks& marks, std::size_t index);
     void addRemark(Marks& marks, std::size_t index);
     void replaceIfContained(std::size_t earlierIndex, std::size_t laterIndex);
     void attach(std::size_t remarkIndex, Mark& passage);
-    std::string commentOf(Mark& mark) const;
+    std::string commentOf(std::vector<std::size_t> remarks) const;
     std::vector<std::size_t> remainingByPosition() const;
 
-    std::deque<Mark> marks_;
-    Marks withLocation_;
-    Marks withPage_;
+    std::vector<Mark> marks_;
+    std::optional<Marks> withLocation_;
+    std::optional<Marks> withPage_;
     PackedNotes replaced_;
 };
 

@@ -80,7 +80,7 @@ std::vector<IncomingBook> BookShelf::take() {
     std::vector<IncomingBook> content;
     content.reserve(books_.size());
     while (!books_.empty()) {
-        content.push_back(std::move(books_.front().content()));
+        content.push_back(std::move(books_.front().finish()));
         books_.pop_front();
     }
     indices_.clear();

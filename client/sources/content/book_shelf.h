@@ -36,6 +36,12 @@ public:
 
     IncomingBook& content() { return content_; }
 
+    // Returns the content, and forgets what identify() needs.
+    IncomingBook& finish() {
+        contents_ = {};
+        return content_;
+    }
+
 private:
     std::string derivedUuid(const Identity& identity) const;
 
