@@ -39,7 +39,6 @@ void Digest::addText(std::string_view text) {
 }
 
 std::string contentDigest(const std::string& path) {
-    constexpr std::string_view kByteOrderMark = "\ufeff";
     host::InputFile file(path);
     Digest digest;
     std::vector<char> block(65536);
@@ -49,7 +48,7 @@ std::string contentDigest(const std::string& path) {
         const auto kept = std::remove(block.begin(), end, '\r');
         const std::string_view text(block.data(),
                                     static_cast<std::size_t>(kept - block.begin()));
-        digest.add(isStart ? withoutPrefix(text, kByteOrderMark) : text);
+        digest.add(isStart ? withoutByteOrderMark(text) : text);
         isStart = false;
     }
     return digest.hexadecimal();

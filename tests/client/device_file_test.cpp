@@ -18,6 +18,8 @@ TEST(DeviceFile, FaultIsNamedWithItsPlace) {
         {R"({"hash": "ab"}, {})", "sample: book 2: \"hash\" is missing or empty"},
         {R"({"hash": "ab", "title": null})",
          "sample: book 1: \"title\" has the wrong type"},
+        {R"({"hash": "ab", "title": "x", "title": "y"})",
+         "sample: book 1: \"title\": is there twice"},
         {R"({"hash": "ab", "tilte": "x"})", "sample: book 1: \"tilte\": unknown member"},
         {R"({"hash": "ab", "a\u001bb": 1})", "sample: book 1: \"a b\": unknown member"},
         {R"({"hash": "ab"}, {"hash": "cd"}, {"hash": "ab"})",
@@ -37,10 +39,17 @@ TEST(DeviceFile, FaultIsNamedWithItsPlace) {
     expectEach(cases, [](const std::string& books) {
         return shownSample(R"({"books": [)" + books + "]}");
     });
-    EXPECT_EQ(
-        shownSample("{} // all"),
-        "sample is not JSON that a device file may hold:\n* Line 1, Column 4\n  Extra "
-        "non-whitespace after JSON value.\n");
+}
+
+TEST(DeviceFile, OtherTextThanJsonIsRefusedWithItsPlace) {
+    const ScratchDirectory scratch;
+    const Case cases[] = {
+        {"\uFEFF{}", ""},
+        {"{\"books\": [\n {\"hash\": \"ab\\n\",}]}",
+         "sample is not JSON: line 2, column 18: Missing a name for object member."},
+        {std::string("{}\0}", 4), "sample is not JSON: line 1, column 3: a zero byte."},
+    };
+    expectEach(cases, shownSample);
 }
 
 }  // namespace

@@ -73,8 +73,19 @@ TEST(KoboDatabase, OtherDatabaseIsRefused) {
           "fts4(a)"}) {
         EXPECT_EQ(shownSample(sql), message) << sql;
     }
-    EXPECT_EQ(shownSample(std::string("SQLite format 3\0", 16) + "x"),
-              "sample: file is not a database");
+    const Case cases[] = {
+        {std::string("SQLite format 3\0", 16) + "x", "sample: file is not a database"},
+        {"CREATE TABLE Bookmark (VolumeID); CREATE TABLE content (ContentID, "
+         "ContentType AS (ContentID || 'x'))",
+         "sample is not as a Kobo reader writes it: columns of the table Bookmark or "
+         "content are computed."},
+        {"CREATE TABLE Bookmark (VolumeID); CREATE TABLE content (ContentID); INSERT INTO "
+         "content VALUES (1), (2), (3), (4), (5), (6), (7), (8), (9); ALTER TABLE content "
+         "ADD COLUMN Title DEFAULT '" +
+             std::string(9000, 'a') + "'",
+         "sample is damaged: its rows hold more than the whole file."},
+    };
+    expectEach(cases, shownSample);
 }
 
 }  // namespace

@@ -1,70 +1,64 @@
 #include "client/sources/device_file/device_file.h"
 
-#include <json/reader.h>
-
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
-#include <map>
-#include <memory>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "client/collection/note.h"
 #include "client/error.h"
 #include "client/files/whole_file.h"
+#include "client/sources/content/json.h"
 #include "client/sources/device_file/json_object.h"
+#include "client/text/affixes.h"
 #include "store/book_hash.h"
 
 namespace client {
 namespace {
 
-Json::Value parse(const std::string& text, const std::string& path) {
-    Json::CharReaderBuilder builder;
-    Json::CharReaderBuilder::strictMode(&builder.settings_);
-    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    Json::Value json;
-    std::string errors;
-    try {
-        if (reader->parse(text.data(), text.data() + text.size(), &json, &errors)) {
-            return json;
-        }
-    } catch (const Json::Exception& error) {  // nested too deep
-        errors = error.what();
-    }
-    throw UserError(path + " is not JSON that a device file may hold:\n" + errors);
-}
-
 std::string numbered(const std::string& kind, std::size_t number) {
     return kind + std::to_string(number);
 }
 
-// Throws UserError if two of the things in the object have the same `member`.
-template <class Things, class Name>
-void checkNames(const JsonObject& object, const Things& things, Name name, const char* kind,
-                const char* member) {
-    std::map<std::string_view, std::size_t> numbers;
-    for (const auto& thing : things) {
-        const std::size_t number = numbers.size() + 1;
-        const auto [first, isNew] = numbers.try_emplace(name(thing), number);
-        if (!isNew) {
-            object.fail(numbered(kind, first->second) + numbered(" and ", number) +
-                        " have one " + member);
-        }
+// Finds names that two things of an object share.
+class Names {
+public:
+    // The name must stay valid.
+    void add(std::string_view name) { names_.emplace_back(name, names_.size() + 1); }
+
+    // Throws UserError if two of the things, which are called `kind`, share a name.
+    void requireUnique(const JsonObject& object, const char* kind, const char* member);
+
+private:
+    std::vector<std::pair<std::string_view, std::size_t>> names_;
+};
+
+void Names::requireUnique(const JsonObject& object, const char* kind, const char* member) {
+    std::sort(names_.begin(), names_.end());
+    const auto twin =
+        std::adjacent_find(names_.begin(), names_.end(),
+                           [](const auto& a, const auto& b) { return a.first == b.first; });
+    if (twin != names_.end()) {
+        object.fail(numbered(kind, twin->second) + numbered(" and ", (twin + 1)->second) +
+                    " have one " + member);
     }
 }
 
-std::string readHash(JsonObject& object) {
-    std::string hash = object.requiredText("hash");
+std::string_view readHash(JsonObject& object) {
+    const std::string_view hash = object.requiredText("hash");
     if (!host::isBookHash(hash)) {
         object.fail("expected pairs of hexadecimal digits, in lower case, as \"hash\"");
     }
     return hash;
 }
 
-Note readNote(const Json::Value& json, const std::string& location,
+Note readNote(JsonObject& object, std::string_view uuid,
               const std::filesystem::path& folder) {
-    JsonObject object(json, location);
     Note note;
+    note.uuid = uuid;
     note.time = object.integer("timestamp").value_or(0);
-    note.uuid = object.requiredText("uuid");
     note.page = object.number("page");
     note.color = object.text("color");
     note.text = object.text("text");
@@ -74,27 +68,27 @@ Note readNote(const Json::Value& json, const std::string& location,
     return note;
 }
 
-std::vector<Note> readNotes(JsonObject& book, const std::string& location,
-                            const std::filesystem::path& folder) {
-    std::vector<Note> notes;
-    for (const Json::Value& note : book.array("notes")) {
-        const std::string noteLocation = numbered(location + ", note ", notes.size() + 1);
-        notes.push_back(readNote(note, noteLocation, folder));
+void readNotes(JsonObject& book, const std::string& location,
+               const std::filesystem::path& folder, PackedNotes& notes) {
+    Names uuids;
+    std::size_t number = 0;
+    for (const JsonValue& json : book.array("notes").GetArray()) {
+        JsonObject object(json, numbered(location + ", note ", ++number));
+        const std::string_view uuid = object.requiredText("uuid");
+        uuids.add(uuid);
+        notes.add(readNote(object, uuid, folder));
     }
-    const auto uuid = [](const Note& note) -> const auto& { return note.uuid; };
-    checkNames(book, notes, uuid, "notes ", "uuid");
-    return notes;
+    uuids.requireUnique(book, "notes ", "uuid");
 }
 
-IncomingBook readBook(const Json::Value& json, const std::string& location,
-                      const std::filesystem::path& folder) {
-    JsonObject object(json, location);
+IncomingBook readBook(JsonObject& object, std::string_view hash,
+                      const std::string& location, const std::filesystem::path& folder) {
     IncomingBook book;
-    book.book = {readHash(object), object.text("title"), object.text("author"),
-                 object.text("path")};
-    for (const Note& note : readNotes(object, location, folder)) {
-        book.notes.add(note);
-    }
+    book.book.hash = hash;
+    book.book.title = object.text("title");
+    book.book.author = object.text("author");
+    book.book.path = object.text("path");
+    readNotes(object, location, folder, book.notes);
     object.requireNoOtherMembers();
     return book;
 }
@@ -102,24 +96,29 @@ IncomingBook readBook(const Json::Value& json, const std::string& location,
 }  // namespace
 
 bool isDeviceFile(std::string_view start) {
-    const std::size_t first = start.find_first_not_of(" \t\r\n");
-    return first != std::string_view::npos && start[first] == '{';
+    const std::string_view text = withoutByteOrderMark(start);
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && text[first] == '{';
 }
 
 SourceContent readDeviceFile(const std::string& path) {
     const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    const Json::Value json = parse(readFile(path), path);
+    std::string text = readFile(path);
+    const JsonDocument json = parseJson(text, path);
     JsonObject object(json, path);
     SourceContent content;
     content.onKnownBook = host::OnKnownBook::Overwrite;
-    for (const Json::Value& book : object.array("books")) {
+    const JsonValue& books = object.array("books");
+    content.books.reserve(books.Size());
+    Names hashes;
+    for (const JsonValue& value : books.GetArray()) {
         const std::string location = numbered(path + ": book ", content.books.size() + 1);
-        content.books.push_back(readBook(book, location, folder));
+        JsonObject book(value, location);
+        const std::string_view hash = readHash(book);
+        hashes.add(hash);
+        content.books.push_back(readBook(book, hash, location, folder));
     }
-    const auto hash = [](const IncomingBook& book) -> const auto& {
-        return book.book.hash;
-    };
-    checkNames(object, content.books, hash, "books ", "hash");
+    hashes.requireUnique(object, "books ", "hash");
     content.styleSheet = object.file("style_sheet", folder);
     object.requireNoOtherMembers();
     return content;

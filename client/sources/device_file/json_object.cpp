@@ -1,5 +1,7 @@
 #include "client/sources/device_file/json_object.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "client/error.h"
@@ -7,46 +9,77 @@
 #include "client/text/control_characters.h"
 
 namespace client {
+namespace {
 
-JsonObject::JsonObject(const Json::Value& value, std::string location)
+std::string_view textIn(const JsonValue& value) {
+    return {value.GetString(), value.GetStringLength()};
+}
+
+// Takes 100.0 for an integer, as some programs write it.
+std::optional<std::int64_t> integerIn(const JsonValue& value) {
+    constexpr double kEnd = 9223372036854775808.0;  // 2^63
+    if (value.IsInt64()) {
+        return value.GetInt64();
+    }
+    const double number = value.IsDouble() ? value.GetDouble() : kEnd;
+    const bool fits = number >= -kEnd && number < kEnd && std::trunc(number) == number;
+    return fits ? std::optional(static_cast<std::int64_t>(number)) : std::nullopt;
+}
+
+}  // namespace
+
+JsonObject::JsonObject(const JsonValue& value, std::string location)
     : value_(value), location_(std::move(location)) {
-    if (!value_.isObject()) {
+    if (!value_.IsObject()) {
         fail("expected an object");
     }
 }
 
-std::string JsonObject::requiredText(const std::string& name) {
-    std::string result = text(name);
+std::string_view JsonObject::requiredText(const char* name) {
+    const std::string_view result = text(name);
     if (result.empty()) {
-        fail("\"" + name + "\" is missing or empty");
+        fail("\"" + std::string(name) + "\" is missing or empty");
     }
     return result;
 }
 
-std::string JsonObject::text(const std::string& name) {
-    const Json::Value* member = find(name, Json::stringValue);
-    return member == nullptr ? std::string() : member->asString();
+std::string_view JsonObject::text(const char* name) {
+    const JsonValue* member = find(name);
+    if (member != nullptr && !member->IsString()) {
+        failType(name);
+    }
+    return member == nullptr ? std::string_view() : textIn(*member);
 }
 
-std::optional<double> JsonObject::number(const std::string& name) {
-    const Json::Value* member = find(name, Json::realValue);
-    return member == nullptr ? std::nullopt : std::optional(member->asDouble());
+std::optional<double> JsonObject::number(const char* name) {
+    const JsonValue* member = find(name);
+    if (member != nullptr && !member->IsNumber()) {
+        failType(name);
+    }
+    return member == nullptr ? std::nullopt : std::optional(member->GetDouble());
 }
 
-std::optional<long long> JsonObject::integer(const std::string& name) {
-    const Json::Value* member = find(name, Json::intValue);
-    return member == nullptr ? std::nullopt : std::optional<long long>(member->asInt64());
+std::optional<std::int64_t> JsonObject::integer(const char* name) {
+    const JsonValue* member = find(name);
+    const auto integer = member == nullptr ? std::nullopt : integerIn(*member);
+    if (member != nullptr && !integer) {
+        failType(name);
+    }
+    return integer;
 }
 
-const Json::Value& JsonObject::array(const std::string& name) {
-    static const Json::Value none(Json::arrayValue);
-    const Json::Value* member = find(name, Json::arrayValue);
+const JsonValue& JsonObject::array(const char* name) {
+    static const JsonValue none(rapidjson::kArrayType);
+    const JsonValue* member = find(name);
+    if (member != nullptr && !member->IsArray()) {
+        failType(name);
+    }
     return member == nullptr ? none : *member;
 }
 
-std::optional<std::string> JsonObject::file(const std::string& name,
+std::optional<std::string> JsonObject::file(const char* name,
                                             const std::filesystem::path& folder) {
-    const std::string path = text(name);
+    const std::string_view path = text(name);
     if (path.empty()) {
         return std::nullopt;
     }
@@ -58,26 +91,28 @@ std::optional<std::string> JsonObject::file(const std::string& name,
 }
 
 void JsonObject::requireNoOtherMembers() const {
-    for (const std::string& name : value_.getMemberNames()) {
-        if (known_.count(name) == 0) {
-            fail("\"" + oneLine(name) + "\": unknown member");
+    std::vector<std::string_view> left = known_;
+    for (const auto& member : value_.GetObject()) {
+        const std::string_view name = textIn(member.name);
+        const auto known = std::find(left.begin(), left.end(), name);
+        if (known == left.end()) {
+            const bool isSecond =
+                std::find(known_.begin(), known_.end(), name) != known_.end();
+            fail("\"" + oneLine(std::string(name)) +
+                 (isSecond ? "\": is there twice" : "\": unknown member"));
         }
+        left.erase(known);
     }
 }
 
-const Json::Value* JsonObject::find(const std::string& name, Json::ValueType type) {
-    known_.insert(name);
-    const Json::Value* member = value_.find(name.data(), name.data() + name.size());
-    if (member == nullptr) {
-        return nullptr;
-    }
-    const bool matches = type == Json::realValue  ? member->isNumeric()
-                         : type == Json::intValue ? member->isInt64()
-                                                  : member->type() == type;
-    if (!matches) {
-        fail("\"" + name + "\" has the wrong type");
-    }
-    return member;
+const JsonValue* JsonObject::find(const char* name) {
+    known_.emplace_back(name);
+    const auto member = value_.FindMember(name);
+    return member == value_.MemberEnd() ? nullptr : &member->value;
+}
+
+void JsonObject::failType(const char* name) const {
+    fail("\"" + std::string(name) + "\" has the wrong type");
 }
 
 void JsonObject::fail(const std::string& what) const {

@@ -1,33 +1,34 @@
 // Strict access to the members of one JSON object.
 #pragma once
 
-#include <json/value.h>
-
+#include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <set>
 #include <string>
+#include <string_view>
+#include <vector>
+
+#include "client/sources/content/json.h"
 
 namespace client {
 
 // Throws a UserError with the location if a member has the wrong type, a required one is
-// missing, or, at the end, if no getter has read a member.
+// missing, or, at the end, if a member is there twice or no getter has read it.
 class JsonObject {
 public:
     // `location` is the position of the object in the file, for messages ("book 2, note
-    // 5"). `value` must outlive this object.
-    JsonObject(const Json::Value& value, std::string location);
+    // 5"). `value` must outlive this object and the texts that it returns.
+    JsonObject(const JsonValue& value, std::string location);
 
-    std::string requiredText(const std::string& name);
-    std::string text(const std::string& name);
-    std::optional<double> number(const std::string& name);
-    std::optional<long long> integer(const std::string& name);
-    const Json::Value& array(const std::string& name);
+    std::string_view requiredText(const char* name);
+    std::string_view text(const char* name);
+    std::optional<double> number(const char* name);
+    std::optional<std::int64_t> integer(const char* name);
+    const JsonValue& array(const char* name);
 
     // Returns the content of the file that the member names, relative to `folder`; nullopt
     // if the member is missing or empty.
-    std::optional<std::string> file(const std::string& name,
-                                    const std::filesystem::path& folder);
+    std::optional<std::string> file(const char* name, const std::filesystem::path& folder);
 
     [[noreturn]] void fail(const std::string& what) const;
 
@@ -35,11 +36,12 @@ public:
     void requireNoOtherMembers() const;
 
 private:
-    const Json::Value* find(const std::string& name, Json::ValueType type);
+    const JsonValue* find(const char* name);
+    [[noreturn]] void failType(const char* name) const;
 
-    const Json::Value& value_;
+    const JsonValue& value_;
     std::string location_;
-    std::set<std::string> known_;
+    std::vector<std::string_view> known_;
 };
 
 }  // namespace client

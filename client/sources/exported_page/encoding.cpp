@@ -28,13 +28,13 @@ std::string encodingNamedIn(std::string_view html) {
 }  // namespace
 
 std::string htmlAsUtf8(std::string html) {
-    constexpr std::string_view kByteOrderMark = "\ufeff";
     html = utf16AsUtf8(std::move(html));
     if (!host::isUtf8(html)) {
         const std::string encoding = encodingNamedIn(html);
         html = asUtf8(std::move(html), encoding);
     }
-    return std::string(withoutPrefix(html, kByteOrderMark));
+    html.erase(0, html.size() - withoutByteOrderMark(html).size());
+    return html;
 }
 
 }  // namespace client

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,10 +12,10 @@
 namespace client {
 
 struct VisiblePage {
-    std::string heading = {};   // date and title
-    std::string author = {};    // empty if there is none
-    std::string bookHash = {};  // of its dump; empty if there is none
-    std::vector<Note> notes = {};
+    std::string heading = {};                  // date and title
+    std::string author = {};                   // empty if there is none
+    std::string bookHash = {};                 // of its dump; empty if there is none
+    std::deque<Note> notes = {};               // a vector of many would be moved in memory
     std::vector<std::string> unreadable = {};  // uuids of notes with a damaged picture
 };
 

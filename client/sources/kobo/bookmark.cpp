@@ -1,19 +1,15 @@
 #include "client/sources/kobo/bookmark.h"
 
-#include <set>
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <tuple>
+#include <vector>
+
+#include "client/sources/kobo/rows.h"
 
 namespace client {
 namespace {
-
-std::set<std::string> columnsOf(SQLite::Database& database, const std::string& table) {
-    std::set<std::string> names;
-    SQLite::Statement rows(database, "SELECT name FROM pragma_table_info(?)");
-    rows.bind(1, table);
-    while (rows.executeStep()) {
-        names.insert(rows.getColumn(0).getString());
-    }
-    return names;
-}
 
 struct TextColumn {
     const char* name;
@@ -32,56 +28,59 @@ constexpr TextColumn kTextColumns[] = {{"BookmarkID", &KoboBookmark::id},
                                        {"Type", &KoboBookmark::type},
                                        {"Color", &KoboBookmark::color}};
 
-// Returns a query for these columns, with NULL for missing ones.
-std::string selection(SQLite::Database& database, const std::string& table,
-                      const std::vector<const char*>& wanted) {
-    const std::set<std::string> columns = columnsOf(database, table);
-    std::string text = "SELECT ";
-    const char* separator = "";
-    for (const char* name : wanted) {
-        text.append(separator).append(columns.count(name) > 0 ? name : "NULL");
-        separator = ", ";
-    }
-    return text + " FROM " + table;
-}
-
-std::string bookmarkQuery(SQLite::Database& database) {
+std::vector<const char*> columnNames() {
     std::vector<const char*> names;
+    names.reserve(std::size(kTextColumns) + 1);
     for (const TextColumn& column : kTextColumns) {
         names.push_back(column.name);
     }
     names.push_back("ChapterProgress");
-    return selection(database, "Bookmark", names);
+    return names;
 }
 
 }  // namespace
 
-std::vector<KoboBookmark> readBookmarks(SQLite::Database& database) {
-    SQLite::Statement rows(database, bookmarkQuery(database));
-    std::vector<KoboBookmark> bookmarks;
-    while (rows.executeStep()) {
-        KoboBookmark& bookmark = bookmarks.emplace_back();
-        int index = 0;
-        for (const TextColumn& column : kTextColumns) {
-            bookmark.*column.text = rows.getColumn(index++).getString();
-        }
-        bookmark.progress = rows.getColumn(index).getDouble();
+// Writes each text after its size and a colon.
+WaitingBookmark::WaitingBookmark(const KoboBookmark& bookmark, std::int64_t chapter,
+                                 double progress)
+    : chapter_(chapter), progress_(progress) {
+    for (const TextColumn& column : kTextColumns) {
+        const std::string& text = bookmark.*column.text;
+        texts_.append(std::to_string(text.size())).append(":").append(text);
     }
-    return bookmarks;
+    texts_.shrink_to_fit();
 }
 
-KoboContents readContents(SQLite::Database& database) {
-    SQLite::Statement rows(
-        database, selection(database, "content",
-                            {"ContentID", "Title", "Attribution", "VolumeIndex"}) +
-                      " WHERE ContentType IN (6, 9, 899) ORDER BY ContentType DESC");
-    KoboContents contents;
-    while (rows.executeStep()) {
-        contents[rows.getColumn(0).getString()] = {rows.getColumn(1).getString(),
-                                                   rows.getColumn(2).getString(),
-                                                   rows.getColumn(3).getInt64()};
+KoboBookmark WaitingBookmark::bookmark() const {
+    KoboBookmark bookmark;
+    const char* next = texts_.data();
+    for (const TextColumn& column : kTextColumns) {
+        std::size_t size = 0;
+        next = std::from_chars(next, texts_.data() + texts_.size(), size).ptr + 1;
+        (bookmark.*column.text).assign(next, size);
+        next += size;
     }
-    return contents;
+    return bookmark;
+}
+
+bool WaitingBookmark::operator<(const WaitingBookmark& other) const {
+    return std::tie(chapter_, progress_) < std::tie(other.chapter_, other.progress_);
+}
+
+std::deque<WaitingBookmark> readBookmarks(SQLite::Database& database,
+                                          const KoboContents& contents, ReadLimit& limit) {
+    std::deque<WaitingBookmark> bookmarks;
+    for (KoboRows rows(database, "Bookmark", columnNames(), limit); rows.next();) {
+        KoboBookmark bookmark;
+        int index = 0;
+        for (const TextColumn& column : kTextColumns) {
+            bookmark.*column.text = rows.column(index++).getString();
+        }
+        bookmarks.emplace_back(bookmark, contents.chapterIndex(bookmark.chapter),
+                               rows.column(index).getDouble());
+    }
+    std::stable_sort(bookmarks.begin(), bookmarks.end());
+    return bookmarks;
 }
 
 }  // namespace client

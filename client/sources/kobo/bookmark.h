@@ -1,12 +1,14 @@
-// The bookmarks and books in a Kobo reader's database.
+// The bookmarks of a Kobo reader's database.
 #pragma once
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <cstdint>
+#include <deque>
 #include <string>
-#include <unordered_map>
-#include <vector>
+
+#include "client/sources/kobo/contents.h"
+#include "client/sources/kobo/read_limit.h"
 
 namespace client {
 
@@ -18,24 +20,31 @@ struct KoboBookmark {
     std::string annotation;
     std::string created;
     std::string modified;
-    double progress = 0;  // within the chapter
     std::string hidden;
     std::string uuid;
     std::string type;
     std::string color;
 };
 
-// Returns all bookmarks, unordered. Columns that are missing in older firmware are empty.
-std::vector<KoboBookmark> readBookmarks(SQLite::Database& database);
+// A bookmark that waits, in little memory, until all are sorted.
+class WaitingBookmark {
+public:
+    WaitingBookmark(const KoboBookmark& bookmark, std::int64_t chapter, double progress);
 
-struct KoboContent {
-    std::string title;
-    std::string author;
-    std::int64_t index = 0;  // of a chapter within its book
+    KoboBookmark bookmark() const;
+
+    // Compares the positions in the book.
+    bool operator<(const WaitingBookmark& other) const;
+
+private:
+    std::int64_t chapter_;  // its index
+    double progress_;       // within the chapter
+    std::string texts_;
 };
 
-// Books and chapters, by identifier.
-using KoboContents = std::unordered_map<std::string, KoboContent>;
-KoboContents readContents(SQLite::Database& database);
+// Returns all bookmarks, in the order of the chapters, then of the progress within them.
+// Columns that are missing in older firmware are empty.
+std::deque<WaitingBookmark> readBookmarks(SQLite::Database& database,
+                                          const KoboContents& contents, ReadLimit& limit);
 
 }  // namespace client

@@ -3,15 +3,18 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
-#include <algorithm>
+#include <deque>
 #include <filesystem>
-#include <tuple>
+#include <new>
 #include <utility>
 
 #include "client/error.h"
 #include "client/files/whole_file.h"
 #include "client/sources/content/book_shelf.h"
 #include "client/sources/kobo/bookmark.h"
+#include "client/sources/kobo/contents.h"
+#include "client/sources/kobo/read_limit.h"
+#include "client/sources/kobo/schema.h"
 #include "client/text/affixes.h"
 #include "client/text/iso_time.h"
 #include "client/text/percent_encoding.h"
@@ -30,27 +33,6 @@ std::string uriOf(const std::string& path) {
                               return byte != '%' && byte != '?' && byte != '#';
                           }) +
            "?mode=ro&immutable=1";
-}
-
-// Protects against a hostile schema, because the database is from another device.
-void distrust(SQLite::Database& database) {
-    constexpr int kMaxBytes = 64 << 20;  // of one value
-    sqlite3* const handle = database.getHandle();
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kMaxBytes);
-}
-
-void requireKoboTables(SQLite::Database& database, const std::string& path) {
-    SQLite::Statement tables(database,
-                             "SELECT count(*) FROM sqlite_master WHERE type = 'table' AND "
-                             "rootpage > 0 AND name IN ('Bookmark', 'content')");
-    tables.executeStep();
-    if (tables.getColumn(0).getInt() != 2) {
-        throw UserError(path +
-                        " is not the database of a Kobo reader, which has the tables "
-                        "Bookmark and content.");
-    }
 }
 
 bool isHidden(const KoboBookmark& bookmark) {
@@ -91,39 +73,29 @@ std::string pictureOf(const KoboBookmark& bookmark, const fs::path& database) {
 // Reads the bookmarks of one database onto a shelf.
 class Reader {
 public:
-    Reader(SQLite::Database& database, std::string path)
-        : path_(std::move(path)),
-          contents_(readContents(database)),
-          bookmarks_(readBookmarks(database)) {}
+    Reader(SQLite::Database& database, const std::string& path, ReadLimit limit)
+        : path_(path),
+          contents_(database, limit),
+          bookmarks_(readBookmarks(database, contents_, limit)) {}
 
     SourceContent read();
 
 private:
-    std::int64_t chapterOf(const KoboBookmark& bookmark) const;
     ShelvedBook& bookOf(const KoboBookmark& bookmark);
     void addNote(const KoboBookmark& bookmark);
 
     const std::string path_;
     const KoboContents contents_;
-    std::vector<KoboBookmark> bookmarks_;
+    std::deque<WaitingBookmark> bookmarks_;
     BookShelf shelf_;
 };
 
-// Ignores the part after a "#", which is a position in the chapter.
-std::int64_t Reader::chapterOf(const KoboBookmark& bookmark) const {
-    auto chapter = contents_.find(bookmark.chapter);
-    if (chapter == contents_.end()) {
-        chapter = contents_.find(bookmark.chapter.substr(0, bookmark.chapter.find('#')));
-    }
-    return chapter == contents_.end() ? 0 : chapter->second.index;
-}
-
 // A book without a title in the database is named after its file.
 ShelvedBook& Reader::bookOf(const KoboBookmark& bookmark) {
-    const auto book = contents_.find(bookmark.volume);
-    const bool hasTitle = book != contents_.end() && !book->second.title.empty();
-    return hasTitle ? shelf_.book(book->second.title, book->second.author)
-                    : shelf_.book(fs::path(bookmark.volume).filename().string(), "");
+    const KoboBook* book = contents_.book(bookmark.volume);
+    return book != nullptr && !book->title.empty()
+               ? shelf_.book(book->title, book->author)
+               : shelf_.book(fs::path(bookmark.volume).filename().string(), "");
 }
 
 void Reader::addNote(const KoboBookmark& bookmark) {
@@ -140,14 +112,8 @@ void Reader::addNote(const KoboBookmark& bookmark) {
 
 SourceContent Reader::read() {
     SourceContent content;
-    const auto position = [this](const KoboBookmark& bookmark) {
-        return std::tuple(chapterOf(bookmark), bookmark.progress);
-    };
-    std::stable_sort(bookmarks_.begin(), bookmarks_.end(),
-                     [&](const KoboBookmark& a, const KoboBookmark& b) {
-                         return position(a) < position(b);
-                     });
-    for (const KoboBookmark& bookmark : bookmarks_) {
+    for (; !bookmarks_.empty(); bookmarks_.pop_front()) {
+        const KoboBookmark bookmark = bookmarks_.front().bookmark();
         if (bookmark.volume.empty()) {
             content.skipped.add("the bookmark " + bookmark.id + " names no book");
         } else if (!isHidden(bookmark)) {
@@ -170,7 +136,7 @@ SourceContent readKoboDatabase(const std::string& path) {
         SQLite::Database database(uriOf(path), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
         distrust(database);
         requireKoboTables(database, path);
-        SourceContent content = Reader(database, path).read();
+        SourceContent content = Reader(database, path, {database, path}).read();
         std::error_code failure;
         if (const std::string log = path + "-wal";
             fs::exists(log, failure) && fs::file_size(log, failure) > 0) {

@@ -3,7 +3,9 @@
 #include <cmath>
 #include <string_view>
 
+#include "client/sources/w3c/canonical_json.h"
 #include "client/sources/w3c/color.h"
+#include "client/sources/w3c/json_ld.h"
 #include "client/text/affixes.h"
 #include "client/text/iso_time.h"
 #include "client/text/numbers.h"
@@ -35,13 +37,8 @@ std::optional<double> pageIn(const JsonValue& label) {
     return page && std::isfinite(*page) ? page : std::nullopt;
 }
 
-std::int64_t timeIn(const JsonValue& json) {
-    for (const char* name : {"modified", "created"}) {
-        if (const auto time = parseIsoTime(textOf(memberOf(json, name)))) {
-            return *time;
-        }
-    }
-    return 0;
+std::optional<std::int64_t> timeIn(const JsonValue& json, const char* name) {
+    return parseIsoTime(textOf(memberOf(json, name)));
 }
 
 void addComment(Note& note, const std::string& comment) {
@@ -65,6 +62,18 @@ std::string sourceOf(const JsonValue& target) {
     return name.empty() ? textOf(memberOf(source, "id")) : name;
 }
 
+// Uses what stays when the user edits the comment or the colour. Version 1.1 used the text
+// and the time of the last change.
+void identify(Annotation& annotation, const std::string& selector, std::int64_t created) {
+    const Note& note = annotation.note;
+    const std::string creation = std::to_string(created);
+    annotation.identity = {annotation.source, selector, creation};
+    annotation.formerIdentities = {{note.text, std::to_string(note.time)}};
+    if (note.time != created) {
+        annotation.formerIdentities.push_back({note.text, creation});
+    }
+}
+
 }  // namespace
 
 std::optional<Annotation> parseAnnotation(const JsonValue& json) {
@@ -77,10 +86,15 @@ std::optional<Annotation> parseAnnotation(const JsonValue& json) {
     annotation.source = target.IsString() ? textOf(target) : sourceOf(target);
     Note& note = annotation.note;
     note.uuid = withoutPrefix(textOf(memberOf(json, "id")), "urn:uuid:");
-    note.text = quoteIn(memberOf(target, "selector"));
+    const JsonValue& selector = memberOf(target, "selector");
+    note.text = quoteIn(selector);
     note.page = pageIn(memberOf(memberOf(target, "meta"), "page"));
-    note.time = timeIn(json);
+    const std::int64_t created = timeIn(json, "created").value_or(0);
+    note.time = timeIn(json, "modified").value_or(created);
     takeBodies(memberOf(json, "body"), note);
+    if (note.uuid.empty()) {
+        identify(annotation, canonicalJson(selector), created);
+    }
     return annotation;
 }
 

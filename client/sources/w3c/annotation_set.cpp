@@ -1,6 +1,5 @@
 #include "client/sources/w3c/annotation_set.h"
 
-#include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
 
 #include <filesystem>
@@ -10,13 +9,14 @@
 #include "client/error.h"
 #include "client/files/whole_file.h"
 #include "client/sources/content/book_shelf.h"
+#include "client/sources/content/json.h"
 #include "client/sources/w3c/annotation.h"
+#include "client/sources/w3c/json_ld.h"
+#include "client/sources/w3c/twins.h"
 #include "client/text/affixes.h"
 
 namespace client {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\ufeff";
 
 // Stops at the first member of the outermost object that only annotation sets have.
 class Recogniser : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Recogniser> {
@@ -40,19 +40,6 @@ private:
     int depth_ = 0;
     bool found_ = false;
 };
-
-JsonDocument parse(std::string& text, const std::string& path) {
-    JsonDocument json;
-    char* const start =
-        text.data() + (text.size() - withoutPrefix(text, kByteOrderMark).size());
-    json.ParseInsitu<rapidjson::kParseIterativeFlag>(start);
-    if (json.HasParseError()) {
-        throw UserError(path + " is not JSON: byte " +
-                        std::to_string(json.GetErrorOffset()) + ": " +
-                        rapidjson::GetParseError_En(json.GetParseError()));
-    }
-    return json;
-}
 
 std::string creatorsOf(const JsonValue& about) {
     std::string names;
@@ -124,15 +111,19 @@ void Reader::addAnnotation(Annotation annotation) {
     const std::string& title = !title_.empty()             ? title_
                                : annotation.source.empty() ? fileName_
                                                            : annotation.source;
-    // Without the comment, which the user may edit.
-    const Identity identity = {annotation.note.text, std::to_string(annotation.note.time)};
-    shelf_.book(title, author_).add(std::move(annotation.note), identity);
+    ShelvedBook& book = shelf_.book(title, author_);
+    if (annotation.note.uuid.empty()) {
+        book.add(std::move(annotation.note), annotation.identity,
+                 annotation.formerIdentities);
+    } else {
+        book.add(std::move(annotation.note));
+    }
 }
 
 }  // namespace
 
 bool isAnnotationSet(std::string_view start) {
-    const std::string_view text = withoutPrefix(start, kByteOrderMark);
+    const std::string_view text = withoutByteOrderMark(start);
     rapidjson::MemoryStream stream(text.data(), text.size());
     Recogniser recogniser;
     host::JsonReader().Parse<rapidjson::kParseIterativeFlag>(stream, recogniser);
@@ -141,8 +132,10 @@ bool isAnnotationSet(std::string_view start) {
 
 SourceContent readAnnotationSet(const std::string& path) {
     std::string text = readFile(path);
-    const JsonDocument set = parse(text, path);
-    return Reader(set, path).read(itemsOf(set, path));
+    const JsonDocument set = parseJson(text, path);
+    std::vector<const JsonValue*> items = itemsOf(set, path);
+    sortTwins(items);
+    return Reader(set, path).read(items);
 }
 
 }  // namespace client

@@ -1,4 +1,4 @@
-#include "client/sources/w3c/json.h"
+#include "client/sources/w3c/json_ld.h"
 
 namespace client {
 namespace {
@@ -22,6 +22,7 @@ const JsonValue& memberOf(const JsonValue& value, const char* name) {
 std::vector<const JsonValue*> elementsOf(const JsonValue& value) {
     std::vector<const JsonValue*> elements;
     if (value.IsArray()) {
+        elements.reserve(value.Size());
         for (const JsonValue& element : value.GetArray()) {
             elements.push_back(&element);
         }

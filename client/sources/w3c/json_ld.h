@@ -1,20 +1,12 @@
 // Access to JSON-LD, in which a list of one value may be the value itself.
 #pragma once
 
-#include <rapidjson/document.h>
-
 #include <string>
 #include <vector>
 
-#include "dump/json_sax.h"
+#include "client/sources/content/json.h"
 
 namespace client {
-
-using JsonDocument =
-    rapidjson::GenericDocument<rapidjson::UTF8<>,
-                               rapidjson::MemoryPoolAllocator<host::ThrowingAllocator>,
-                               host::ThrowingAllocator>;
-using JsonValue = JsonDocument::ValueType;
 
 // Returns the member of an object; null if there is none, or if the value is not an object.
 const JsonValue& memberOf(const JsonValue& value, const char* name);

@@ -1,0 +1,17 @@
+// What a Kobo reader's database must be like to be read.
+#pragma once
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <string>
+
+namespace client {
+
+// Protects against a hostile schema, because the database is from another device.
+void distrust(SQLite::Database& database);
+
+// Throws UserError unless both tables are there, and reading them computes nothing. What
+// else is in the database does not matter.
+void requireKoboTables(SQLite::Database& database, const std::string& path);
+
+}  // namespace client

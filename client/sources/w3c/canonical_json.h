@@ -1,0 +1,14 @@
+// JSON in a form that does not depend on who wrote it.
+#pragma once
+
+#include <string>
+
+#include "client/sources/content/json.h"
+
+namespace client {
+
+// Returns the value as JSON without white space, with the members of objects in the order
+// of their names. Objects and arrays that are nested too deep become null.
+std::string canonicalJson(const JsonValue& value);
+
+}  // namespace client
