@@ -112,8 +112,7 @@ bool isExportedPage(std::string_view start) {
 }
 
 SourceContent readExportedPage(const std::string& path) {
-    const std::string html = htmlAsUtf8(readFile(path));
-    VisiblePage page = readVisiblePage(html);
+    VisiblePage page = readVisiblePage(htmlAsUtf8(readFile(path)));
     SourceContent content;
     content.books = recordedBooks(path, page, content.skipped);
     if (content.books.empty() && page.heading.empty() && page.notes.empty()) {

@@ -14,7 +14,7 @@ namespace {
 constexpr std::uint64_t kTextsPerByte = 2;
 
 // SQLite fetches a page again for each column of a row that continues on it.
-constexpr std::uint64_t kFetchesPerPage = 30;
+constexpr std::uint64_t kFetchesPerPage = 16;
 
 std::uint64_t pagesOf(SQLite::Database& database) {
     return static_cast<std::uint64_t>(database.execAndGet("PRAGMA page_count").getInt64());

@@ -34,15 +34,21 @@ Identity identityOf(const JsonValue& item) {
     return annotation ? annotation->identity : Identity();
 }
 
+DigestValue digestOf(const Identity& identity) {
+    Digest digest;
+    for (const std::string& text : identity) {
+        digest.addText(text);
+    }
+    return digest.value();
+}
+
 std::vector<Key> sortedKeys(const Items& items) {
     std::vector<Key> keys;
     keys.reserve(items.size());
-    for (const JsonValue* item : items) {
-        Digest digest;
-        for (const std::string& text : identityOf(*item)) {
-            digest.addText(text);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (const Identity identity = identityOf(*items[i]); !identity.empty()) {
+            keys.push_back({digestOf(identity), i});
         }
-        keys.push_back({digest.value(), keys.size()});
     }
     std::sort(keys.begin(), keys.end());
     return keys;

@@ -28,6 +28,10 @@ constexpr std::size_t kMaxBytesOfNames = std::size_t{64} << 10;
 constexpr int kMaxAttributes = 100;  // of one start tag
 constexpr int kMaxErrors = 100000;
 
+// Limits the memory: the parser remembers each element that is open. The dump is in the
+// third one.
+constexpr int kMaxOpenElements = 10000;
+
 std::string_view view(const xmlChar* text) { return reinterpret_cast<const char*>(text); }
 
 bool isDump(const xmlChar* name, const xmlChar** attributes) {
@@ -169,6 +173,9 @@ void DumpFinder::refuseInternalSubset() const {
 void DumpFinder::start(const xmlChar* name, const xmlChar** attributes) {
     if (state_ == State::kInside) {
         throw DumpError(kDumpDamaged, "its dump holds an element");
+    }
+    if (parser_->nameNr > kMaxOpenElements) {
+        throw DumpError(kNoDump, "its elements are nested too deep");
     }
     checkNumberOf(attributes);
     if (isDump(name, attributes)) {
