@@ -78,7 +78,7 @@ TEST(AnnotationSet, FaultIsNamedWithItsPlace) {
          "target\n"},
         {R"({"type": "AnnotationSet"})", "sample: \"items\" is missing or not an array"},
         {R"({"@context": [], "items": 1})", "sample: \"items\" is missing or not an array"},
-        {R"({"items": [)", "sample is not JSON: line 1, column 12: Invalid value."},
+        {R"({"items": [)", "Cannot read sample as JSON: line 1, column 12: Invalid value."},
     };
     expectEach(cases, shownSample);
 }

@@ -46,8 +46,12 @@ TEST(DeviceFile, OtherTextThanJsonIsRefusedWithItsPlace) {
     const Case cases[] = {
         {"\uFEFF{}", ""},
         {"{\"books\": [\n {\"hash\": \"ab\\n\",}]}",
-         "sample is not JSON: line 2, column 18: Missing a name for object member."},
-        {std::string("{}\0}", 4), "sample is not JSON: line 1, column 3: a zero byte."},
+         "Cannot read sample as JSON: line 2, column 18: Missing a name for object "
+         "member."},
+        {"{\"books\":" + std::string(5000, '['),
+         "Cannot read sample as JSON: line 1, column 1009: nested too deep."},
+        {std::string("{}\0}", 4),
+         "Cannot read sample as JSON: line 1, column 3: a zero byte."},
     };
     expectEach(cases, shownSample);
 }

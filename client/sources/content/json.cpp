@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "client/error.h"
 #include "client/files/whole_file.h"
@@ -20,26 +21,68 @@ std::string placeIn(const std::string& path, std::size_t offset) {
     return "line " + std::to_string(line) + ", column " + std::to_string(column);
 }
 
-}  // namespace
+// Builds a document, but none that is nested deep, because each level takes memory.
+class Builder : public JsonDocument {
+public:
+    // Returns false if the text is not JSON, or nested too deep.
+    bool build(rapidjson::InsituStringStream& text);
 
-JsonDocument parseJson(std::string& text, const std::string& path) {
+    // Returns the fault, after a text that is not JSON.
+    std::string fault() const;
+    std::size_t faultOffset() const { return reader_.GetErrorOffset(); }
+
+    // Called by the parser.
+    bool StartObject() { return enter() && JsonDocument::StartObject(); }
+    bool StartArray() { return enter() && JsonDocument::StartArray(); }
+    bool EndObject(rapidjson::SizeType members) {
+        --depth_;
+        return JsonDocument::EndObject(members);
+    }
+    bool EndArray(rapidjson::SizeType elements) {
+        --depth_;
+        return JsonDocument::EndArray(elements);
+    }
+
+private:
+    bool enter() {
+        constexpr int kMaxDepth = 1000;
+        return ++depth_ <= kMaxDepth;
+    }
+
+    host::JsonReader reader_;
+    int depth_ = 0;
+};
+
+bool Builder::build(rapidjson::InsituStringStream& text) {
     constexpr unsigned kFlags = rapidjson::kParseInsituFlag |
                                 rapidjson::kParseIterativeFlag |
                                 rapidjson::kParseFullPrecisionFlag;
+    const auto parse = [&](JsonDocument& /*self*/) {
+        return !reader_.Parse<kFlags>(text, *this).IsError();
+    };
+    Populate(parse);
+    return !reader_.HasParseError();
+}
+
+std::string Builder::fault() const {
+    const auto code = reader_.GetParseErrorCode();
+    return code == rapidjson::kParseErrorTermination ? "nested too deep."
+                                                     : rapidjson::GetParseError_En(code);
+}
+
+}  // namespace
+
+JsonDocument parseJson(std::string& text, const std::string& path) {
     const std::size_t start = text.size() - withoutByteOrderMark(text).size();
-    JsonDocument json;
     rapidjson::InsituStringStream stream(&text[start]);
-    json.ParseStream<kFlags>(stream);
-    const std::size_t end = start + stream.Tell();
-    if (json.HasParseError()) {
-        throw UserError(path +
-                        " is not JSON: " + placeIn(path, start + json.GetErrorOffset()) +
-                        ": " + rapidjson::GetParseError_En(json.GetParseError()));
+    Builder builder;
+    const bool isJson = builder.build(stream);
+    const std::size_t end = start + (isJson ? stream.Tell() : builder.faultOffset());
+    if (!isJson || end != text.size()) {  // the parser takes a zero byte for the end
+        throw UserError("Cannot read " + path + " as JSON: " + placeIn(path, end) + ": " +
+                        (isJson ? "a zero byte." : builder.fault()));
     }
-    if (end != text.size()) {  // the parser takes a zero byte for the end
-        throw UserError(path + " is not JSON: " + placeIn(path, end) + ": a zero byte.");
-    }
-    return json;
+    return std::move(builder);
 }
 
 }  // namespace client
