@@ -14,8 +14,7 @@ namespace client {
 // The effect on a note that the collection has already.
 enum class OnKnownNote {
     MergeNewer,  // of each part, the newer version stays
-    ReplaceOwn,  // the same; but if earlier loads of this file gave all of it, it is
-                 // replaced
+    ReplaceOwn,  // the same, but what only earlier loads of this file gave is replaced
     AddMissing,  // only the parts that it lacks are added
 };
 

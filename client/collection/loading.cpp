@@ -35,8 +35,8 @@ void loadNotes(std::vector<IncomingBook>& books, host::OnKnownBook onKnownBook,
 
 }  // namespace
 
-// Writes the library first: later this transaction may lock out readers of the other
-// database, and one of them may hold the lock of the library.
+// Writes the library before the notes. Many notes may lock out the readers of their
+// database, and such a reader may hold the lock of the library, for which this would wait.
 LoadResult loadBooks(std::vector<IncomingBook>& books, host::OnKnownBook onKnownBook,
                      host::ReaderStore& reader, host::LibraryStore& library) {
     LoadResult result;

@@ -20,12 +20,14 @@ struct LoadResult {
 };
 
 // Creates the collection if there is none. Hashes must be unique in `books`, and uuids
-// within each book. Throws UserError or std::runtime_error; then no note was written.
+// within each book. Throws UserError or std::runtime_error. Then no note was written,
+// unless the style sheet failed, which is written last.
 LoadResult addToCollection(std::vector<IncomingBook>& books, host::OnKnownBook onKnownBook,
                            const std::optional<std::string>& styleSheet);
 
-// The same in databases that are open, in one transaction. A book whose hash is derived
-// gets the hash of the collection's book with its title and author.
+// Loads into databases that are open. A book whose hash is derived gets the hash of the
+// collection's book with its title and author. All notes are one transaction. Titles and
+// authors are written to `library` before it, and stay there if it fails.
 LoadResult loadBooks(std::vector<IncomingBook>& books, host::OnKnownBook onKnownBook,
                      host::ReaderStore& reader, host::LibraryStore& library);
 

@@ -17,7 +17,7 @@ struct Note {
     std::string comment;    // as text
     std::string picture;    // the bytes of an image file
     std::int64_t time = 0;  // when the note was made, in seconds since the Unix epoch
-    // When the comment, and when the other parts changed last; count only if later.
+    // The last changes of the comment and of the other parts; ignored unless after `time`.
     std::int64_t commentTime = 0;
     std::int64_t changeTime = 0;
 };

@@ -14,11 +14,12 @@ namespace {
 using host::NoteRecord;
 using host::TagRecord;
 
+// The tags must be in the order of their numbers, as ReaderStore::note() returns them.
 const TagRecord* findTag(const NoteRecord& note, std::int32_t tag) {
-    const auto found =
-        std::find_if(note.tags.begin(), note.tags.end(),
-                     [tag](const TagRecord& candidate) { return candidate.tag == tag; });
-    return found == note.tags.end() ? nullptr : &*found;
+    const auto found = std::lower_bound(
+        note.tags.begin(), note.tags.end(), tag,
+        [](const TagRecord& one, std::int32_t number) { return one.tag < number; });
+    return found == note.tags.end() || found->tag != tag ? nullptr : &*found;
 }
 
 bool differs(const NoteRecord& present, const NoteRecord& loaded) {
@@ -90,7 +91,7 @@ std::string NoteLoader::knownUuid(const IncomingBook& book, const std::string& u
         return uuid;
     }
     for (const std::string& candidate : former->second) {
-        if (store_.findNote(bookId_, candidate) && formerUuids_.insert(candidate).second) {
+        if (store_.findNote(bookId_, candidate) && keptUuids_.insert(candidate).second) {
             return candidate;
         }
     }

@@ -5,7 +5,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "client/collection/loading.h"
 
@@ -31,7 +30,7 @@ private:
     const std::int64_t bookId_;
     const Book& book_;
     LoadResult& result_;
-    std::set<std::string> formerUuids_;  // that notes of this load have kept
+    std::set<std::string> keptUuids_;  // former uuids that notes of this load have
 };
 
 }  // namespace client

@@ -33,7 +33,7 @@ void NoteReader::requireFound() const {
     }
     // With identifiers, other notes are not read.
     const bool isColorMissing = filter_.ids.empty() && !missingColors_.empty();
-    throw UserError(isColorMissing ? "No note is selected, because none has the colour \"" +
+    throw UserError(isColorMissing ? "No note is selected; none has the colour \"" +
                                          *missingColors_.begin() + "\"."
                                    : std::string("No note is selected."));
 }

@@ -9,6 +9,7 @@
 
 #include "client/collection/note_tags.h"
 #include "client/files/digest.h"
+#include "client/text/line_breaks.h"
 #include "store/note_tags.h"
 
 namespace client {
@@ -32,16 +33,15 @@ DigestValue digestOf(const std::string& uuid, const TagRecord& tag) {
 // `visit` does.
 template <class Visit>
 bool eachParagraph(std::string_view comment, const Visit& visit) {
-    constexpr std::string_view kSeparator = "\u2029";
     for (bool isLast = false; !isLast;) {
-        const std::size_t length = comment.find(kSeparator);
+        const std::size_t length = comment.find(kParagraphEnd);
         isLast = length == std::string_view::npos;
         Digest digest;
         digest.add(comment.substr(0, length));
         if (!visit(digest.value())) {
             return false;
         }
-        comment.remove_prefix(isLast ? 0 : length + kSeparator.size());
+        comment.remove_prefix(isLast ? 0 : length + kParagraphEnd.size());
     }
     return true;
 }

@@ -47,7 +47,7 @@ public:
     using Writer = host::JsonWriter<Buffer>;
 
 private:
-    // The writer escapes only what JSON requires. What is left stands within strings.
+    // Also escapes what the writer leaves; such characters are only within strings.
     void flush() {
         out_ << replaceControls({buffer_.GetString(), buffer_.GetSize()}, escaped);
         buffer_.Clear();

@@ -20,6 +20,9 @@ void StandardOutput::requireWritten() {
 }
 
 StandardOutput::int_type StandardOutput::overflow(int_type character) {
+    if (traits_type::eq_int_type(character, traits_type::eof())) {
+        return traits_type::not_eof(character);
+    }
     const char letter = traits_type::to_char_type(character);
     return xsputn(&letter, 1) == 1 ? character : traits_type::eof();
 }
@@ -38,7 +41,7 @@ int StandardOutput::sync() {
 
 void StandardOutput::keepCause(bool isWritten) {
     if (!isWritten && error_ == 0) {
-        error_ = errno;
+        error_ = errno != 0 ? errno : EIO;
     }
 }
 

@@ -14,8 +14,8 @@ bool isColorful(int descriptor);
 // Returns the text in bold for standard output.
 std::string bold(const std::string& text);
 
-// Returns the path for a line of standard output. A terminal would obey some characters,
-// and a line feed would end the line; other programs get every byte.
+// Returns the path for a line of standard output: every byte of it, but as oneLine() if a
+// terminal reads it, which would obey some characters, or if it has a line feed.
 std::string printable(const std::string& path);
 
 // Returns the message for standard error: after the program's name, and without control

@@ -20,8 +20,10 @@ inline std::string_view withoutPrefix(std::string_view text, std::string_view pr
     return text.substr(startsWith(text, prefix) ? prefix.size() : 0);
 }
 
+inline constexpr std::string_view kByteOrderMark = "\ufeff";
+
 inline std::string_view withoutByteOrderMark(std::string_view text) {
-    return withoutPrefix(text, "\ufeff");
+    return withoutPrefix(text, kByteOrderMark);
 }
 
 // Returns the length of the first of `prefixes` that the text starts with, or 0.

@@ -57,7 +57,10 @@ std::string Converter::converted(std::string& text) {
             result += "\uFFFD";
         }
     }
-    return result;
+    char* to = block.data();
+    std::size_t room = block.size();
+    iconv(handle_, nullptr, nullptr, &to, &room);  // some encodings hold a letter back
+    return result.append(block.data(), block.size() - room);
 }
 
 std::string converted(std::string& text, const std::string& encoding, std::size_t unit) {

@@ -111,7 +111,7 @@ TEST(ClippingsFile, IsReadHoweverItWasDamaged) {
     const std::string latin = "C\xE9\n- Note on page 3\n\n\xE4\n==========\n";
     const std::string skipped = "Not everything in it could be read:\n  line ";
     const std::string noEnd = ": the record has no end, as if the file were cut\n";
-    const std::string noTitle = ": neither a title nor what it is of can be read\n";
+    const std::string noTitle = ": its first two lines are not those of a record\n";
     const NamedCase cases[] = {
         {"separator first", "\uFEFF==========\n" + a, "A: a\n"},
         {"empty line first", "\uFEFF\n" + a, "A: a\n"},
@@ -120,8 +120,8 @@ TEST(ClippingsFile, IsReadHoweverItWasDamaged) {
         {"without the last line end", a.substr(0, a.size() - 1) + b, "A: a\nB: b\n"},
         {"cut before a byte order mark", a.substr(0, 31) + b,
          "B: b\n" + skipped + "1" + noEnd},
-        {"separator within text", a.substr(0, 30) + "==========b\n- c\n" + a.substr(30),
-         "A: ==========b\n- c\na\n"},
+        {"separator within text", a.substr(0, 30) + "==========b\nc\n" + a.substr(30),
+         "A: ==========b\nc\na\n"},
         {"line ends of a Macintosh", withEnds("\r", a + b), "A: a\nB: b\n"},
         {"line ends converted twice", withEnds("\r\r\n", a) + a, "A: a\n"},
         {"little-endian UTF-16", inUtf16(withEnds("\r\n", a), true), "A: a\n"},
@@ -161,8 +161,7 @@ Clipping nowhere(Clipping clipping) {
     return clipping;
 }
 
-// Returns the notes that remain, each with the number of the clipping whose uuid it has,
-// and its times if they differ from that of its clipping.
+// Returns the notes that remain, each with the number of the clipping whose uuid it has.
 std::string shownPassages(const std::vector<Clipping>& clippings) {
     client::Passages passages;
     for (std::size_t i = 0; i < clippings.size(); ++i) {
@@ -224,6 +223,7 @@ TEST(Passages, NoteBecomesCommentOfItsPassage) {
         {"two remarks", {a, noteAt(12, "m"), n}, "0:a/m\u2029n "},
         {"remark that grew", {a, n, more}, "0:a/n, more "},
         {"second one grew", {a, noteAt(12, "m"), n, more}, "0:a/m\u2029n, more "},
+        {"longer one at another place", {a, noteAt(11, "n"), more}, "0:a/n\u2029n, more "},
         {"on pages", {onPages(a), onPages(n)}, "0:a/n "},
         {"page and location", {onPages(a), n}, "0:a/ 1:/n "},
         {"page of a passage with a location", {both, onPages(n)}, "0:b/ 1:/n "},

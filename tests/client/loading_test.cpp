@@ -24,7 +24,7 @@ public:
         client::SourceContent source;
         try {
             source = client::readSource("source");
-        } catch (const client::UserError&) {  // the start of a first record
+        } catch (const client::UserError&) {  // a first record that is cut is refused
         }
         return client::loadBooks(source.books, source.onKnownBook, reader_, library_)
             .changed;

@@ -69,7 +69,7 @@ std::string textOf(std::string_view lines) {
     return text;
 }
 
-bool hasManyIdeographs(std::string_view text) {
+bool hasManyEastAsianLetters(std::string_view text) {
     constexpr auto kMany = 8;
     return std::count_if(text.begin(), text.end(), [](char byte) {
                return byte >= '\xE3' && byte <= '\xED';
@@ -91,7 +91,7 @@ bool isLimitMessage(std::string_view text) {
            text.front() != '!' &&
            kEndsOfSpeech.find(text.back()) == std::string_view::npos &&
            (std::count(text.begin(), text.end(), ' ') >= kFewestSpaces ||
-            hasManyIdeographs(text));
+            hasManyEastAsianLetters(text));
 }
 
 }  // namespace

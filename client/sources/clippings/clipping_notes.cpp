@@ -43,6 +43,7 @@ std::vector<IncomingBook> ClippingNotes::take() {
         content.onKnownNote = OnKnownNote::ReplaceOwn;
         std::exchange(passages, {}).moveTo(content);
     }
+    passages_.clear();  // its keys are books of the shelf
     return shelf_.take();
 }
 

@@ -57,7 +57,7 @@ std::string ForeignLines::remark(const std::string& path) const {
 
 std::string whyUnreadable(const Records& records, const std::optional<Clipping>& clipping) {
     return !records.hasSeparator() ? "the record has no end, as if the file were cut"
-           : !clipping             ? "neither a title nor what it is of can be read"
+           : !clipping             ? "its first two lines are not those of a record"
                        : "too much of the book was marked for the reader to keep it";
 }
 

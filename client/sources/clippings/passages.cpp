@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "client/text/line_breaks.h"
+
 namespace client {
 namespace {
 
@@ -127,6 +129,7 @@ void Passages::replaceIfContained(std::size_t earlierIndex, std::size_t laterInd
 void Passages::attach(std::size_t remarkIndex, Mark& passage) {
     Mark& remark = marks_[remarkIndex];
     replaced_.add(noteOf(remark));
+    // A longer comment must be newer than the one that an earlier load stored.
     const std::int64_t next = passage.commentTime + (passage.remarks.empty() ? 0 : 1);
     passage.commentTime = std::max(remark.time, next);
     passage.remarks.push_back(remarkIndex);
@@ -142,13 +145,16 @@ std::string Passages::commentOf(std::vector<std::size_t> remarks) const {
     std::sort(remarks.begin(), remarks.end(),
               [&](std::size_t a, std::size_t b) { return position(a) < position(b); });
     std::string comment;
-    std::size_t latest = 0;  // offset of the latest remark
+    std::optional<std::int64_t> place;  // of the latest remark
+    std::size_t latest = 0;             // its offset
     for (const std::size_t remark : remarks) {
         const std::string& text = marks_[remark].text;
-        if (!contains(text, comment.substr(latest))) {
-            comment += "\u2029";  // PARAGRAPH SEPARATOR
+        const std::int64_t here = positionOf(marks_[remark].range);
+        if (place && (*place != here || !contains(text, comment.substr(latest)))) {
+            comment += kParagraphEnd;
             latest = comment.size();
         }
+        place = here;
         comment.replace(latest, std::string::npos, text);
     }
     return comment;

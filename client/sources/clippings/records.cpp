@@ -9,7 +9,6 @@ namespace client {
 namespace {
 
 constexpr std::string_view kSeparator = "==========";
-constexpr std::string_view kByteOrderMark = "\ufeff";
 
 bool isSeparator(std::string_view line) { return withoutSpaces(line) == kSeparator; }
 
@@ -27,8 +26,8 @@ void Records::skipToRecord() {
 }
 
 // A record may also start within a line, where a file that is cut or lacks its last line
-// end was joined with another. Then the next line must be the second line of a record,
-// because a passage may contain anything.
+// end was joined with another. Then the next line must look like the second line of a
+// record, because a passage may contain anything.
 std::optional<Records::Boundary> Records::boundaryIn(std::string_view line) const {
     if (isSeparator(line)) {
         return Boundary{0, line.size(), true};
@@ -36,7 +35,9 @@ std::optional<Records::Boundary> Records::boundaryIn(std::string_view line) cons
     const bool hasSeparator = startsWith(line, kSeparator);
     const std::size_t mark = hasSeparator ? 0 : line.find(kByteOrderMark);
     std::string_view rest = rest_;
-    if (mark == std::string_view::npos || !isDetails(takeLine(rest))) {
+    const std::string_view next = takeLine(rest);
+    if (mark == std::string_view::npos ||
+        !(hasSeparator ? parseDetails(next).has_value() : isDetails(next))) {
         return std::nullopt;
     }
     return Boundary{mark, hasSeparator ? kSeparator.size() : mark, hasSeparator};

@@ -8,6 +8,7 @@
 #include "client/sources/w3c/json_ld.h"
 #include "client/text/affixes.h"
 #include "client/text/iso_time.h"
+#include "client/text/line_breaks.h"
 #include "client/text/numbers.h"
 
 namespace client {
@@ -43,7 +44,7 @@ std::optional<std::int64_t> timeIn(const JsonValue& json, const char* name) {
 
 void addComment(Note& note, const std::string& comment) {
     if (!note.comment.empty() && !comment.empty()) {
-        note.comment += "\u2029";  // PARAGRAPH SEPARATOR
+        note.comment += kParagraphEnd;
     }
     note.comment += comment;
 }

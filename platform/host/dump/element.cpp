@@ -28,8 +28,8 @@ constexpr std::size_t kMaxBytesOfNames = std::size_t{64} << 10;
 constexpr int kMaxAttributes = 100;  // of one start tag
 constexpr int kMaxErrors = 100000;
 
-// Limits the memory: the parser remembers each element that is open. The dump is in the
-// third one.
+// Limits the memory: the parser remembers each open element. In an exported page, the
+// element of the dump is the third one.
 constexpr int kMaxOpenElements = 10000;
 
 std::string_view view(const xmlChar* text) { return reinterpret_cast<const char*>(text); }

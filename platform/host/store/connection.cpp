@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kBusyTimeoutMs = 5000;
 
-// Returns the path and the error of a file or folder in which SQLite cannot read or write,
-// because its own texts hide the system's; empty if there is none.
+// Returns the path and the system's error if the file or its folder denies access; else
+// empty. SQLite's own messages do not contain that error.
 std::string deniedAccess(const std::string& path) {
     const std::string folder = std::filesystem::path(path).parent_path().string();
     for (const std::string& place : {path, folder}) {

@@ -18,9 +18,8 @@ constexpr const char* kFindNote = "SELECT id FROM notes WHERE book_id = ? AND uu
 // Both skip equal values, because such an update would still write to the file.
 constexpr const char* kCorrectBook =
     "UPDATE books SET title = coalesce(nullif(?2, ''), title), path = "
-    "coalesce(nullif(?3, ''), path) WHERE fast_hash = ?1 AND ((?2 <> '' AND title <> ?2) "
-    "OR "
-    "(?3 <> '' AND path <> ?3))";
+    "coalesce(nullif(?3, ''), path) WHERE fast_hash = ?1 AND "
+    "((?2 <> '' AND title <> ?2) OR (?3 <> '' AND path <> ?3))";
 constexpr const char* kCompleteBook =
     "UPDATE books SET title = coalesce(nullif(title, ''), ?2), path = "
     "coalesce(nullif(path, ''), ?3) WHERE fast_hash = ?1 AND ((title = '' AND ?2 <> '') OR "
