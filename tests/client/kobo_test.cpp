@@ -66,19 +66,18 @@ TEST(KoboDatabase, OtherDatabaseIsRefused) {
     const std::string message =
         "sample is not the database of a Kobo reader, which has the tables Bookmark and "
         "content.";
-    for (const char* sql :
-         {"CREATE TABLE Bookmark (VolumeID)", "CREATE TABLE content (ContentID)",
-          "CREATE TABLE Bookmark (VolumeID); CREATE VIEW content AS SELECT 1",
-          "CREATE TABLE content (ContentID); CREATE VIRTUAL TABLE Bookmark USING "
-          "fts4(a)"}) {
-        EXPECT_EQ(shownSample(sql), message) << sql;
-    }
     const Case cases[] = {
+        {"CREATE TABLE Bookmark (VolumeID)", message},
+        {"CREATE TABLE content (ContentID)", message},
+        {"CREATE TABLE Bookmark (VolumeID); CREATE VIEW content AS SELECT 1",
+         "sample is not as a Kobo reader writes it: content is a table of type view."},
+        {"CREATE TABLE content (ContentID); CREATE VIRTUAL TABLE Bookmark USING fts4(a)",
+         "sample is not as a Kobo reader writes it: Bookmark is a table of type virtual."},
         {std::string("SQLite format 3\0", 16) + "x", "sample: file is not a database"},
         {"CREATE TABLE Bookmark (VolumeID); CREATE TABLE content (ContentID, "
          "ContentType AS (ContentID || 'x'))",
-         "sample is not as a Kobo reader writes it: columns of the table Bookmark or "
-         "content are computed."},
+         "sample is not as a Kobo reader writes it: columns of Bookmark or content "
+         "are computed."},
         {"CREATE TABLE Bookmark (VolumeID); CREATE TABLE content (ContentID); INSERT INTO "
          "content VALUES (1), (2), (3), (4), (5), (6), (7), (8), (9); ALTER TABLE content "
          "ADD COLUMN Title DEFAULT '" +

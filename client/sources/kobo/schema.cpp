@@ -13,6 +13,10 @@ int countOf(SQLite::Database& database, const char* query) {
     return count.getColumn(0).getInt();
 }
 
+[[noreturn]] void refuse(const std::string& path, const std::string& why) {
+    throw UserError(path + " is not as a Kobo reader writes it: " + why + '.');
+}
+
 }  // namespace
 
 void distrust(SQLite::Database& database) {
@@ -27,9 +31,16 @@ void distrust(SQLite::Database& database) {
 // Asks SQLite what the tables are: the types in sqlite_master are texts of the file, which
 // may name a view a table.
 void requireKoboTables(SQLite::Database& database, const std::string& path) {
-    if (countOf(database,
-                "SELECT count(*) FROM pragma_table_list WHERE schema = 'main' AND "
-                "type = 'table' AND name IN ('Bookmark', 'content')") != 2) {
+    SQLite::Statement tables(database,
+                             "SELECT name, type FROM pragma_table_list WHERE schema = "
+                             "'main' AND name IN ('Bookmark', 'content')");
+    int found = 0;
+    for (; tables.executeStep(); ++found) {
+        if (const std::string type = tables.getColumn(1); type != "table") {
+            refuse(path, tables.getColumn(0).getString() + " is a table of type " + type);
+        }
+    }
+    if (found != 2) {
         throw UserError(path +
                         " is not the database of a Kobo reader, which has the tables "
                         "Bookmark and content.");
@@ -38,9 +49,7 @@ void requireKoboTables(SQLite::Database& database, const std::string& path) {
         "SELECT count(*) FROM (SELECT 'Bookmark' AS name UNION ALL SELECT 'content') AS "
         "tables, pragma_table_xinfo(tables.name) AS columns WHERE columns.hidden IN (2, 3)";
     if (countOf(database, kComputed) != 0) {
-        throw UserError(path +
-                        " is not as a Kobo reader writes it: columns of the table Bookmark "
-                        "or content are computed.");
+        refuse(path, "columns of Bookmark or content are computed");
     }
 }
 
