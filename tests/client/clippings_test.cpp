@@ -222,6 +222,7 @@ TEST(Passages, NoteBecomesCommentOfItsPassage) {
         {"marked again", {marked(10, 11, "a"), n, marked(10, 14, "ab")}, "0:ab/n "},
         {"two remarks", {a, noteAt(12, "m"), n}, "0:a/m\u2029n "},
         {"remark that grew", {a, n, more}, "0:a/n, more "},
+        {"two remarks, one in the other", {a, n, noteAt(13, "no")}, "0:a/n\u2029no "},
         {"second one grew", {a, noteAt(12, "m"), n, more}, "0:a/m\u2029n, more "},
         {"longer one at another place", {a, noteAt(11, "n"), more}, "0:a/n\u2029n, more "},
         {"on pages", {onPages(a), onPages(n)}, "0:a/n "},

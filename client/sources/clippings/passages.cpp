@@ -136,8 +136,13 @@ void Passages::attach(std::size_t remarkIndex, Mark& passage) {
     remark.isDropped = true;
 }
 
-// Of a remark and a later one at the same position that contains it, only the later one
-// counts.
+// Returns whether the later remark is at the same position and contains the earlier one.
+bool Passages::isEdited(const Mark& earlier, const Mark& later) {
+    return positionOf(earlier.range) == positionOf(later.range) &&
+           contains(later.text, earlier.text);
+}
+
+// Of a remark that was edited, only the later version counts.
 std::string Passages::commentOf(std::vector<std::size_t> remarks) const {
     const auto position = [this](std::size_t remark) {
         return std::pair(positionOf(marks_[remark].range), remark);
@@ -145,17 +150,19 @@ std::string Passages::commentOf(std::vector<std::size_t> remarks) const {
     std::sort(remarks.begin(), remarks.end(),
               [&](std::size_t a, std::size_t b) { return position(a) < position(b); });
     std::string comment;
-    std::optional<std::int64_t> place;  // of the latest remark
-    std::size_t latest = 0;             // its offset
-    for (const std::size_t remark : remarks) {
-        const std::string& text = marks_[remark].text;
-        const std::int64_t here = positionOf(marks_[remark].range);
-        if (place && (*place != here || !contains(text, comment.substr(latest)))) {
-            comment += kParagraphEnd;
-            latest = comment.size();
+    const Mark* latest = nullptr;
+    for (const std::size_t index : remarks) {
+        const Mark& remark = marks_[index];
+        if (remark.text.empty()) {
+            continue;
         }
-        place = here;
-        comment.replace(latest, std::string::npos, text);
+        if (latest != nullptr && isEdited(*latest, remark)) {
+            comment.resize(comment.size() - latest->text.size());
+        } else if (latest != nullptr) {
+            comment += kParagraphEnd;
+        }
+        comment += remark.text;
+        latest = &remark;
     }
     return comment;
 }

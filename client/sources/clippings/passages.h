@@ -54,6 +54,7 @@ private:
 
     static Mark markOf(Clipping clipping);
     static Note noteOf(const Mark& mark);
+    static bool isEdited(const Mark& earlier, const Mark& later);
 
     void addPassage(Marks& marks, std::size_t index);
     void addRemark(Marks& marks, std::size_t index);
