@@ -19,6 +19,7 @@ using host::NoteRecord;
 using host::TagRecord;
 
 using NoteIds = std::map<std::string, std::int64_t>;  // by uuid
+using Digests = std::unordered_set<DigestValue, DigestValue::Hash>;
 
 DigestValue digestOf(const std::string& uuid, const TagRecord& tag) {
     Digest digest;
@@ -58,13 +59,19 @@ public:
     }
 
     bool include(const NoteRecord& note) const {
+        return includeComment(note) &&
+               std::all_of(note.tags.begin(), note.tags.end(), [&](const TagRecord& tag) {
+                   return tag.tag == host::kCommentTag ||
+                          values_.count(digestOf(note.uuid, tag)) > 0;
+               });
+    }
+
+    bool includeComment(const NoteRecord& note) const {
         return std::all_of(note.tags.begin(), note.tags.end(), [&](const TagRecord& tag) {
-            return tag.tag == host::kCommentTag
-                       ? eachParagraph(tag.text,
-                                       [&](const DigestValue& paragraph) {
-                                           return paragraphs_.count(paragraph) > 0;
-                                       })
-                       : values_.count(digestOf(note.uuid, tag)) > 0;
+            return tag.tag != host::kCommentTag ||
+                   eachParagraph(tag.text, [&](const DigestValue& paragraph) {
+                       return paragraphs_.count(paragraph) > 0;
+                   });
         });
     }
 
@@ -82,7 +89,6 @@ private:
         }
     }
 
-    using Digests = std::unordered_set<DigestValue, DigestValue::Hash>;
     Digests values_;
     Digests paragraphs_;
 };
@@ -123,6 +129,33 @@ Affected affectedBy(const IncomingBook& book, std::int64_t bookId,
     return affected;
 }
 
+// Returns the paragraphs that may not reach the collection with their notes, because
+// something else has commented on these.
+Digests withheldParagraphs(const IncomingBook& book, const NoteIds& changed,
+                           const GivenValues& given, host::ReaderStore& store) {
+    Digests withheld;
+    for (const Note& note : book.notes) {
+        const auto known = changed.find(note.uuid);
+        if (known != changed.end() &&
+            !given.includeComment(store.note(known->second).value())) {
+            eachParagraph(note.comment, [&](const DigestValue& paragraph) {
+                withheld.insert(paragraph);
+                return true;
+            });
+        }
+    }
+    return withheld;
+}
+
+bool hasCommentIn(const Digests& paragraphs, const NoteRecord& note) {
+    return std::any_of(note.tags.begin(), note.tags.end(), [&](const TagRecord& tag) {
+        return tag.tag == host::kCommentTag &&
+               !eachParagraph(tag.text, [&](const DigestValue& paragraph) {
+                   return paragraphs.count(paragraph) == 0;
+               });
+    });
+}
+
 }  // namespace
 
 int removeOwnNotes(const IncomingBook& book, std::int64_t bookId,
@@ -134,16 +167,18 @@ int removeOwnNotes(const IncomingBook& book, std::int64_t bookId,
         return 0;
     }
     const GivenValues given(book, all);
+    const Digests withheld = withheldParagraphs(book, changed, given, store);
     int removed = 0;
     for (const auto& [uuid, id] : all) {
-        if (!given.include(store.note(id).value())) {
+        const NoteRecord note = store.note(id).value();
+        if (!given.include(note)) {
             continue;
         }
-        if (replaced.count(uuid) > 0) {
+        if (replaced.count(uuid) == 0) {
+            store.removeTags(id);
+        } else if (!hasCommentIn(withheld, note)) {
             store.removeNote(id);
             ++removed;
-        } else {
-            store.removeTags(id);
         }
     }
     return removed;

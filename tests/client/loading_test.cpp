@@ -161,6 +161,21 @@ TEST(Loading, KeepsReplacedNoteThatSomethingElseChanged) {
     EXPECT_EQ(shortly(collection.records()), "Emma: a mine - =1\"}; - mine red =2\"}; ");
 }
 
+// The user has commented on the passage meanwhile, so that it does not take the remark.
+TEST(Loading, KeepsReplacedRemarkThatItsPassageLacks) {
+    const ScratchDirectory scratch;
+    const std::string file =
+        clipping("Highlight on page 1", "a") + clipping("Note on page 3", "mine");
+    Collection collection;
+    collection.load(file);
+    const host::BookRecord book = collection.records().at(0);
+    collection.load(device(
+        R"("hash": ")" + book.fastHash + '"',
+        R"({"uuid": ")" + book.notes.at(0).uuid + R"(", "comment": "c", "timestamp": 9})"));
+    collection.load(file + clipping("Highlight on page 1-3", "ab"));
+    EXPECT_EQ(shortly(collection.records()), "Emma: - mine - =3\"}; ab c - =1\"}; ");
+}
+
 // A few places, times and texts, so that records meet.
 class Generator {
 public:
