@@ -48,7 +48,7 @@ void keepMissing(NoteRecord& loaded, const NoteRecord& present) {
 }  // namespace
 
 void NoteLoader::load(IncomingBook& book) {
-    if (book.onKnownNote == OnKnownNote::ReplaceOwn) {
+    if (book.onKnownNote == OnKnownNote::ReplaceOwn && !store_.noteIds(bookId_).empty()) {
         result_.changed += removeOwnNotes(book, bookId_, store_);
     }
     for (NoteRecord& record : std::exchange(book.records, {})) {

@@ -7,6 +7,11 @@
 
 namespace client {
 
+inline bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 inline bool isAsciiDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
 inline char asciiLowered(char byte) {

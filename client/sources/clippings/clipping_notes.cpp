@@ -20,11 +20,22 @@ Identity identityOf(const Clipping& clipping) {
 }  // namespace
 
 // The bytes of the file make the hash, so that it is the same however they are decoded.
+// Most records are of the same book as the one before.
+ShelvedBook& ClippingNotes::bookOf(const Clipping& clipping) {
+    const std::vector<std::string> names = {clipping.title, clipping.author,
+                                            clipping.rawTitle, clipping.rawAuthor};
+    if (lastBook_ == nullptr || names != lastNames_) {
+        const bool isRaw = !clipping.rawTitle.empty();
+        const std::string hash =
+            derivedBookHash(names[isRaw ? 2 : 0], names[isRaw ? 3 : 1]);
+        lastBook_ = &shelf_.book({hash, clipping.title, clipping.author, ""}, true);
+        lastNames_ = names;
+    }
+    return *lastBook_;
+}
+
 void ClippingNotes::add(Clipping clipping) {
-    const bool isRaw = !clipping.rawTitle.empty();
-    const std::string hash = derivedBookHash(isRaw ? clipping.rawTitle : clipping.title,
-                                             isRaw ? clipping.rawAuthor : clipping.author);
-    ShelvedBook& book = shelf_.book({hash, clipping.title, clipping.author, ""}, true);
+    ShelvedBook& book = bookOf(clipping);
     Note& note = clipping.note;
     if (clipping.kind == ClippingKind::Note) {
         note.comment = std::exchange(note.text, {});
@@ -44,6 +55,7 @@ std::vector<IncomingBook> ClippingNotes::take() {
         std::exchange(passages, {}).moveTo(content);
     }
     passages_.clear();  // its keys are books of the shelf
+    lastBook_ = nullptr;
     return shelf_.take();
 }
 

@@ -1,6 +1,7 @@
 // Converts the records of a clippings file into notes.
 #pragma once
 
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -19,7 +20,11 @@ public:
     std::vector<IncomingBook> take();
 
 private:
+    ShelvedBook& bookOf(const Clipping& clipping);
+
     BookShelf shelf_;
+    ShelvedBook* lastBook_ = nullptr;  // of the record before
+    std::vector<std::string> lastNames_;
     std::unordered_map<ShelvedBook*, Passages> passages_;
 };
 
