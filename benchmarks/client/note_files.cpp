@@ -3,6 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <fstream>
 #include <string>
 
@@ -14,8 +15,11 @@ namespace fs = std::filesystem;
 
 std::string titleOf(std::size_t book) { return "Book " + std::to_string(book); }
 
+// Returns a uuid whose place in an index is as random as that of a real one.
 std::string uuidOf(std::size_t book, std::size_t note) {
-    return std::to_string(book) + "-" + std::to_string(note);
+    constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;
+    const std::uint64_t first = (book * 1000000 + note + 1) * kOdd;
+    return std::to_string(first) + "-" + std::to_string(first * kOdd);
 }
 
 std::string quoted(const std::string& text) {

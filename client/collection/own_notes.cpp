@@ -37,9 +37,7 @@ bool eachParagraph(std::string_view comment, const Visit& visit) {
     for (bool isLast = false; !isLast;) {
         const std::size_t length = comment.find(kParagraphEnd);
         isLast = length == std::string_view::npos;
-        Digest digest;
-        digest.add(comment.substr(0, length));
-        if (!visit(digest.value())) {
+        if (!visit(DigestValue::of(comment.substr(0, length)))) {
             return false;
         }
         comment.remove_prefix(isLast ? 0 : length + kParagraphEnd.size());

@@ -14,6 +14,10 @@ namespace client {
 struct DigestValue {
     XXH128_hash_t hash;
 
+    static DigestValue of(std::string_view bytes) {
+        return {XXH3_128bits(bytes.data(), bytes.size())};
+    }
+
     bool operator==(const DigestValue& other) const {
         return XXH128_isEqual(hash, other.hash) != 0;
     }

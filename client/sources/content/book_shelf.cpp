@@ -8,12 +8,11 @@ namespace {
 
 // Returns a digest that depends only on the parts.
 DigestValue digestOf(const std::vector<std::string_view>& parts) {
-    Digest digest;
+    std::string text;
     for (const std::string_view part : parts) {
-        digest.add(std::string_view("\0", 1));
-        digest.add(part);
+        text.append(1, '\0').append(part);
     }
-    return digest.value();
+    return DigestValue::of(text);
 }
 
 }  // namespace
