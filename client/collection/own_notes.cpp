@@ -104,7 +104,7 @@ bool isEqual(const NoteRecord& one, const NoteRecord& other) {
 
 // The notes of the collection that a file replaces or changes.
 struct Affected {
-    NoteIds replaced;
+    NoteIds obsolete;
     NoteIds changed;
 };
 
@@ -113,11 +113,11 @@ Affected affectedBy(const IncomingBook& book, std::int64_t bookId,
     Affected affected;
     for (const Note& note : book.replaced) {
         if (const auto id = store.findNote(bookId, note.uuid)) {
-            affected.replaced.emplace(note.uuid, *id);
+            affected.obsolete.emplace(note.uuid, *id);
         }
     }
     for (Note note : book.notes) {
-        affected.replaced.erase(note.uuid);
+        affected.obsolete.erase(note.uuid);
         const auto id = store.findNote(bookId, note.uuid);
         const std::string uuid = note.uuid;
         if (id && !isEqual(store.note(*id).value(), toRecord(std::move(note)))) {
@@ -158,8 +158,8 @@ bool hasCommentIn(const Digests& paragraphs, const NoteRecord& note) {
 
 int removeOwnNotes(const IncomingBook& book, std::int64_t bookId,
                    host::ReaderStore& store) {
-    const auto [replaced, changed] = affectedBy(book, bookId, store);
-    NoteIds all = replaced;
+    const auto [obsolete, changed] = affectedBy(book, bookId, store);
+    NoteIds all = obsolete;
     all.insert(changed.begin(), changed.end());
     if (all.empty()) {
         return 0;
@@ -172,7 +172,7 @@ int removeOwnNotes(const IncomingBook& book, std::int64_t bookId,
         if (!given.include(note)) {
             continue;
         }
-        if (replaced.count(uuid) == 0) {
+        if (obsolete.count(uuid) == 0) {
             store.removeTags(id);
         } else if (!hasCommentIn(withheld, note)) {
             store.removeNote(id);

@@ -32,15 +32,15 @@ std::optional<Records::Boundary> Records::boundaryIn(std::string_view line) cons
     if (isSeparator(line)) {
         return Boundary{0, line.size(), true};
     }
-    const bool hasSeparator = startsWith(line, kSeparator);
-    const std::size_t mark = hasSeparator ? 0 : line.find(kByteOrderMark);
+    const bool isJoined = startsWith(line, kSeparator);
+    const std::size_t mark = isJoined ? 0 : line.find(kByteOrderMark);
     std::string_view rest = rest_;
-    const std::string_view next = takeLine(rest);
+    const std::string_view following = takeLine(rest);
     if (mark == std::string_view::npos ||
-        !(hasSeparator ? parseDetails(next).has_value() : isDetails(next))) {
+        !(isJoined ? parseDetails(following).has_value() : isDetails(following))) {
         return std::nullopt;
     }
-    return Boundary{mark, hasSeparator ? kSeparator.size() : mark, hasSeparator};
+    return Boundary{mark, isJoined ? kSeparator.size() : mark, isJoined};
 }
 
 bool Records::next() {

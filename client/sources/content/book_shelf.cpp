@@ -27,14 +27,14 @@ bool ShelvedBook::identify(Note& note, const Identity& identity) {
     if (note.uuid.empty()) {
         note.uuid = derivedUuid(identity);
     }
-    const DigestValue content =
+    const DigestValue digest =
         digestOf({note.text, note.comment, note.color, note.picture});
-    const auto [first, isNew] = contents_.emplace(digestOf({note.uuid}), content);
-    if (isNew || first->second == content) {
+    const auto [first, isNew] = contents_.emplace(digestOf({note.uuid}), digest);
+    if (isNew || first->second == digest) {
         return isNew;
     }
-    note.uuid = digestOf({note.uuid, content.hexadecimal()}).hexadecimal();
-    return contents_.emplace(digestOf({note.uuid}), content).second;
+    note.uuid = digestOf({note.uuid, digest.hexadecimal()}).hexadecimal();
+    return contents_.emplace(digestOf({note.uuid}), digest).second;
 }
 
 void ShelvedBook::add(Note note, const Identity& identity) {

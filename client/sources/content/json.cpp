@@ -82,7 +82,9 @@ JsonDocument parseJson(std::string& text, const std::string& path) {
         throw UserError("Cannot read " + path + " as JSON: " + placeIn(path, end) + ": " +
                         (isJson ? "a zero byte." : builder.fault()));
     }
-    return std::move(builder);
+    JsonDocument json;
+    json.Swap(builder);
+    return json;
 }
 
 }  // namespace client

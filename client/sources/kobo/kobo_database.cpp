@@ -73,7 +73,7 @@ std::string pictureOf(const KoboBookmark& bookmark, const fs::path& database) {
 // Reads the bookmarks of one database onto a shelf.
 class Reader {
 public:
-    Reader(SQLite::Database& database, const std::string& path, ReadLimit limit)
+    Reader(SQLite::Database& database, const std::string& path, ReadLimit& limit)
         : path_(path),
           contents_(database, limit),
           bookmarks_(readBookmarks(database, contents_, limit)) {}
@@ -136,7 +136,8 @@ SourceContent readKoboDatabase(const std::string& path) {
         SQLite::Database database(uriOf(path), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
         distrust(database);
         requireKoboTables(database, path);
-        SourceContent content = Reader(database, path, {database, path}).read();
+        ReadLimit limit(database, path);
+        SourceContent content = Reader(database, path, limit).read();
         std::error_code failure;
         if (const std::string log = path + "-wal";
             fs::exists(log, failure) && fs::file_size(log, failure) > 0) {
