@@ -73,8 +73,8 @@ std::string pictureOf(const KoboBookmark& bookmark, const fs::path& database) {
 // Reads the bookmarks of one database onto a shelf.
 class Reader {
 public:
-    Reader(SQLite::Database& database, const std::string& path, ReadLimit& limit)
-        : path_(path),
+    Reader(SQLite::Database& database, std::string path, ReadLimit& limit)
+        : path_(std::move(path)),
           contents_(database, limit),
           bookmarks_(readBookmarks(database, contents_, limit)) {}
 
