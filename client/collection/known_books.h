@@ -9,10 +9,11 @@
 
 namespace client {
 
-// Gives each book whose hash is derived the hash of the book, of the collection or before
-// it in `books`, that has its title and author. If several have them, or if it
-// has no title, it is a book of the collection that has one of its notes. Composed and
-// decomposed characters, invisible characters and the number of spaces make no difference.
+// Looks for the title and author of each book whose hash is derived, in the collection and
+// in the books before it. If one book has both, the incoming one gets its hash. If several
+// have both, or there is no title, it gets the hash of one that has one of its notes.
+// Composed and decomposed characters, invisible characters and the number of spaces make no
+// difference.
 void useKnownHashes(std::vector<IncomingBook>& books, host::ReaderStore& reader,
                     host::LibraryStore& library);
 

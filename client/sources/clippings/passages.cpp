@@ -142,7 +142,7 @@ bool Passages::isEdited(const Mark& earlier, const Mark& later) {
            contains(later.text, earlier.text);
 }
 
-// Of a remark that was edited, only the later version counts.
+// Leaves out the earlier versions of a remark that was edited.
 std::string Passages::commentOf(std::vector<std::size_t> remarks) const {
     const auto position = [this](std::size_t remark) {
         return std::pair(positionOf(marks_[remark].range), remark);

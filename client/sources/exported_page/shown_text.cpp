@@ -30,7 +30,7 @@ void ShownText::addSpace() {
     }
 }
 
-void ShownText::end(const char* mark) {
+void ShownText::end(std::string_view mark) {
     isAtStart_ = true;  // also for text before the mark
     addSpace();
     text_ += mark;

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "client/text/line_breaks.h"
+
 namespace client {
 
 // White space with a line break is indentation: it becomes one space, or nothing at the
@@ -12,13 +14,13 @@ class ShownText {
 public:
     void add(std::string_view text);
     void breakLine() { end("\n"); }
-    void breakParagraph() { end("\u2029"); }
+    void breakParagraph() { end(kParagraphEnd); }
 
     // Returns the text and clears it.
     std::string take();
 
 private:
-    void end(const char* mark);
+    void end(std::string_view mark);
     void addSpace();
 
     std::string text_;

@@ -1,4 +1,4 @@
-// What a Kobo reader's database must be like to be read.
+// Checks that a database is safe to read and has the tables of a Kobo reader.
 #pragma once
 
 #include <SQLiteCpp/SQLiteCpp.h>
