@@ -7,11 +7,19 @@
 
 namespace client {
 
+// Where a note is in its book. Each part is set if its source knows it.
+struct Place {
+    std::optional<double> page;            // finite
+    std::optional<std::int64_t> location;  // that a Kindle counts
+    std::string chapter;                   // its title
+    std::string order;  // of the note's own position: KIND.TEXT, compared bytewise
+};
+
 // An empty text or a time of 0 means that the note has none.
 struct Note {
-    unsigned long long id = 0;   // in the collection; 0 before it is stored
-    std::string uuid;            // names the note within its book
-    std::optional<double> page;  // finite
+    unsigned long long id = 0;  // in the collection; 0 before it is stored
+    std::string uuid;           // names the note within its book
+    Place place;
     std::string color;
     std::string text;       // U+2029 ends a paragraph, U+2028 and line feeds break lines
     std::string comment;    // as text

@@ -3,17 +3,14 @@
 #include <algorithm>
 #include <utility>
 
-#include "client/text/numbers.h"
-#include "readerlib/position_uri.h"
+#include "client/collection/position.h"
 #include "store/note_tags.h"
 
 namespace client {
 namespace {
 
-// Returns a JSON object whose member is a position on the page.
-std::string positionJson(const char* member, double page) {
-    return std::string("{\"") + member + "\":\"book:/position?page=" + decimal(page) +
-           "\"}";
+std::string json(const char* member, const std::string& position) {
+    return std::string("{\"") + member + "\":\"" + position + "\"}";
 }
 
 void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
@@ -23,10 +20,13 @@ void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
     }
 }
 
-std::optional<double> pageAt(const std::string& uri) {
-    double page = 0;
-    return Veloran::ReaderLib::extractPageFromnURI(uri, page) ? std::optional(page)
-                                                              : std::nullopt;
+// Returns the place of the note, or else that of its passage, as the library does.
+Place placeOf(const veloran::utilities::Note& tags) {
+    Place place = placeAt(tags.getAnchorUri());
+    return place.page || place.location
+               ? place
+               : placeAt(
+                     tags.getJsonTagElement(veloran::utilities::Note::Tag::Range, "begin"));
 }
 
 }  // namespace
@@ -35,11 +35,9 @@ host::NoteRecord toRecord(Note note) {
     host::NoteRecord record{note.uuid, {}};
     const std::int64_t time = std::max(note.time, note.changeTime);
     addText(record, host::kUuidTag, std::move(note.uuid), note.time);
-    if (note.page) {
-        record.tags.push_back(
-            {host::kAnchorTag, "", positionJson("anchor", *note.page), time});
-        record.tags.push_back(
-            {host::kRangeTag, "", positionJson("begin", *note.page), time});
+    if (const std::string position = positionOf(note.place); !position.empty()) {
+        record.tags.push_back({host::kAnchorTag, "", json("anchor", position), time});
+        record.tags.push_back({host::kRangeTag, "", json("begin", position), time});
     }
     addText(record, host::kColorTag, std::move(note.color), time);
     addText(record, host::kTextTag, std::move(note.text), time);
@@ -53,7 +51,7 @@ Note toNote(const veloran::utilities::Note& tags) {
     Note note;
     note.id = tags.noteId;
     note.uuid = tags.uuid();
-    note.page = pageAt(tags.getAnchorUri());
+    note.place = placeOf(tags);
     note.color = tags.getColor();
     note.text = tags.getText();
     note.comment = tags.getNote();

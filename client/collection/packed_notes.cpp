@@ -7,26 +7,41 @@
 namespace client {
 namespace {
 
-constexpr std::string Note::*kTexts[] = {&Note::uuid, &Note::color, &Note::text,
-                                         &Note::comment, &Note::picture};
+// Calls `visit` with each text of the note.
+template <class AnyNote, class Visit>
+void eachText(AnyNote& note, const Visit& visit) {
+    for (auto* text : {&note.uuid, &note.place.chapter, &note.place.order, &note.color,
+                       &note.text, &note.comment, &note.picture}) {
+        visit(*text);
+    }
+}
 
 // Precedes the note's texts.
 struct Header {
     double page;
+    std::int64_t location;
     std::int64_t time;
     std::int64_t commentTime;
     std::int64_t changeTime;
-    std::array<std::uint32_t, std::size(kTexts)> sizes;  // a text fits into a database
+    std::array<std::uint32_t, 7> sizes;  // a text fits into a database
     bool hasPage;
+    bool hasLocation;
 };
 
 Header headerOf(const Note& note) {
-    Header header{note.page.value_or(0), note.time, note.commentTime,
-                  note.changeTime,       {},        note.page.has_value()};
+    const Place& place = note.place;
+    Header header{place.page.value_or(0),
+                  place.location.value_or(0),
+                  note.time,
+                  note.commentTime,
+                  note.changeTime,
+                  {},
+                  place.page.has_value(),
+                  place.location.has_value()};
     auto* size = header.sizes.data();
-    for (const auto text : kTexts) {
-        *size++ = static_cast<std::uint32_t>((note.*text).size());
-    }
+    eachText(note, [&](const std::string& text) {
+        *size++ = static_cast<std::uint32_t>(text.size());
+    });
     return header;
 }
 
@@ -46,9 +61,7 @@ void PackedNotes::add(const Note& note) {
     }
     std::string& block = blocks_.back();
     block.append(reinterpret_cast<const char*>(&header), sizeof header);
-    for (const auto text : kTexts) {
-        block.append(note.*text);
-    }
+    eachText(note, [&](const std::string& text) { block.append(text); });
 }
 
 Note PackedNotes::Iterator::operator*() const {
@@ -56,17 +69,20 @@ Note PackedNotes::Iterator::operator*() const {
     const Header header = headerAt(block, offset_);
     Note note;
     if (header.hasPage) {
-        note.page = header.page;
+        note.place.page = header.page;
+    }
+    if (header.hasLocation) {
+        note.place.location = header.location;
     }
     note.time = header.time;
     note.commentTime = header.commentTime;
     note.changeTime = header.changeTime;
     std::size_t offset = offset_ + sizeof header;
     const auto* size = header.sizes.data();
-    for (const auto text : kTexts) {
-        (note.*text).assign(block, offset, *size);
+    eachText(note, [&](std::string& text) {
+        text.assign(block, offset, *size);
         offset += *size++;
-    }
+    });
     return note;
 }
 

@@ -67,8 +67,8 @@ void writeText(Writer& json, const char* name, const std::string& text) {
 
 void writePage(Writer& json, const Note& note) {
     json.Key("page");
-    if (note.page) {
-        const std::string digits = decimal(*note.page);
+    if (note.place.page) {
+        const std::string digits = decimal(*note.place.page);
         json.RawValue(digits.data(), length(digits), rapidjson::kNumberType);
     } else {
         json.Null();

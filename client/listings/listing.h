@@ -69,7 +69,7 @@ inline constexpr const ListingFormat* kListingFormats[] = {&kLineFormat, &kJsonF
                                                            &kCsvFormat, &kMarkdownFormat};
 
 inline std::string pageText(const Note& note) {
-    return note.page ? decimal(*note.page) : std::string();
+    return note.place.page ? decimal(*note.place.page) : std::string();
 }
 
 inline std::string timeText(const Note& note) {

@@ -27,7 +27,7 @@ std::string lastLine(const Note& note, bool hasHiddenPicture) {
         result += fact.empty() ? "" : separator + fact;
         separator = fact.empty() ? separator : ", ";
     };
-    add(note.page ? "page " + pageText(note) : "");
+    add(note.place.page ? "page " + pageText(note) : "");
     add(markdownLine(note.color));
     add(hasHiddenPicture ? "picture" : "");
     add(timeText(note));

@@ -13,6 +13,19 @@ bool isPlainInLink(char byte) {
 
 }  // namespace
 
+std::string percentDecoded(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const auto byte = text[0] == '%' && text.size() >= 3
+                              ? parseNumber<unsigned char>(text.substr(1, 2), 16)
+                              : std::nullopt;
+        result += byte ? static_cast<char>(*byte) : text[0];
+        text.remove_prefix(byte ? 3 : 1);
+    }
+    return result;
+}
+
 std::string linkTo(const std::string& path) {
     const bool isText = oneLine(path) == path;
     return percentEncoded(path, [isText](unsigned char byte) {

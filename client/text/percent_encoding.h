@@ -20,6 +20,9 @@ std::string percentEncoded(std::string_view text, const IsPlain& isPlain) {
     return result;
 }
 
+// Returns the text with all encoded bytes decoded; "%" before anything else stays.
+std::string percentDecoded(std::string_view text);
+
 // Returns a reference to the file at `path`, relative if the path is. Letters of any
 // language stay readable, unless the path is not UTF-8 or holds control characters.
 std::string linkTo(const std::string& path);

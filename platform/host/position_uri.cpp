@@ -9,8 +9,6 @@
 namespace Veloran::ReaderLib {
 namespace {
 
-constexpr std::string_view kPageParameter = "page=";
-
 std::string_view queryOf(std::string_view uri) {
     uri = uri.substr(0, uri.find('#'));
     const std::size_t mark = uri.find('?');
@@ -23,18 +21,24 @@ bool parseNumber(std::string_view text, double& number) {
     return parsed.ec == std::errc() && parsed.ptr == end && std::isfinite(number);
 }
 
-}  // namespace
-
-bool extractPageFromnURI(const std::string& uri, double& page) {
-    std::string_view query = queryOf(uri);
+// Returns whether the first parameter with this name is a number.
+bool findNumber(std::string_view query, std::string_view name, double& number) {
     while (!query.empty()) {
         const std::string_view parameter = query.substr(0, query.find('&'));
-        if (parameter.substr(0, kPageParameter.size()) == kPageParameter) {
-            return parseNumber(parameter.substr(kPageParameter.size()), page);
+        if (parameter.substr(0, name.size()) == name) {
+            return parseNumber(parameter.substr(name.size()), number);
         }
         query.remove_prefix(std::min(parameter.size() + 1, query.size()));
     }
     return false;
+}
+
+}  // namespace
+
+// Positions in books without pages have a location.
+bool extractPageFromnURI(const std::string& uri, double& page) {
+    const std::string_view query = queryOf(uri);
+    return findNumber(query, "page=", page) || findNumber(query, "location=", page);
 }
 
 }  // namespace Veloran::ReaderLib

@@ -71,8 +71,8 @@ TEST(Collection, GivesBackEveryFieldOfNote) {
     std::vector<client::Note> notes = {note(1, "red", "a\u2029b", "c\xFF", 100),
                                        note(2, "", "", "", -5), note(3, "", "", "", 6)};
     notes[0].picture = std::string("\0\xFF", 2);
-    notes[0].page = -1e300 / 3;
-    notes[1].page = 1.0 / 3;
+    notes[0].place.page = -1e300 / 3;
+    notes[1].place.page = 1.0 / 3;
     addBook({"ab", "Emma", "", ""}, notes);
     client::NoteFilter filter;
     filter.ids = {1, 2, 9};

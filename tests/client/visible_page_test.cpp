@@ -96,7 +96,7 @@ std::string oddText(std::mt19937& random) {
 client::Note oddNote(std::mt19937& random, int number) {
     client::Note note;
     note.uuid = 'u' + std::to_string(number) + oddText(random);
-    note.page = number;
+    note.place.page = number;
     note.color = 'c' + oddText(random);
     note.text = oddText(random);
     note.comment = oddText(random);

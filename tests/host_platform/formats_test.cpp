@@ -10,7 +10,7 @@
 #include "text/utf8.h"
 #include "utilities/note.h"
 
-TEST(PositionUri, PageComesFromQueryAlone) {
+TEST(PositionUri, PageOrLocationComesFromQueryAlone) {
     const auto page = [](const std::string& uri) {
         double number = 0;
         const bool found = Veloran::ReaderLib::extractPageFromnURI(uri, number);
@@ -21,11 +21,14 @@ TEST(PositionUri, PageComesFromQueryAlone) {
     EXPECT_EQ(page("b?a=1&page=-2.25&page=9"), -2.25);
     EXPECT_EQ(page("b?page=007#page=8"), 7);
     EXPECT_EQ(page("b?x?page&page=3"), 3);
+    EXPECT_EQ(page("b?location=170&page=5"), 5);
+    EXPECT_EQ(page("b?location=170&chapter=page"), 170);
+    EXPECT_EQ(page("b?page=xi&location=170"), 170);
     EXPECT_EQ(page("?page=" + std::string(400, '9')), std::nullopt);
     for (const char* uri :
          {"", "page=1", "b#?page=1", "b?page=", "b?page", "b?Page=1", "b?mypage=1",
           "b?page=1x", "b?page= 1", "b?page=+1", "b?page=0x1", "b?page=inf", "b?page=nan",
-          "b?page=1,5", "b?page=x&page=1", "b?page=1e5"}) {
+          "b?page=1,5", "b?location=x", "b?page=x&page=1", "b?page=1e5"}) {
         EXPECT_EQ(page(uri), std::nullopt) << uri;
     }
 }

@@ -41,7 +41,7 @@ void ClippingNotes::add(Clipping clipping) {
         note.comment = std::exchange(note.text, {});
     }
     if (clipping.page) {
-        note.page = static_cast<double>(clipping.page->first);
+        note.place.page = static_cast<double>(clipping.page->first);
     }
     if (book.identify(note, identityOf(clipping))) {
         passages_[&book].add(std::move(clipping));

@@ -45,7 +45,8 @@ Passages::Mark Passages::markOf(Clipping clipping) {
     Mark mark;
     mark.isRemark = clipping.kind == ClippingKind::Note;
     mark.range = clipping.location ? clipping.location : clipping.page;
-    mark.page = note.page;
+    mark.hasLocation = clipping.location.has_value();
+    mark.page = note.place.page;
     mark.time = mark.changeTime = mark.commentTime = note.time;
     mark.uuid = std::move(note.uuid);
     mark.text = std::move(mark.isRemark ? note.comment : note.text);
@@ -56,7 +57,10 @@ Passages::Mark Passages::markOf(Clipping clipping) {
 Note Passages::noteOf(const Mark& mark) {
     Note note;
     note.uuid = mark.uuid;
-    note.page = mark.page;
+    note.place.page = mark.page;
+    if (mark.hasLocation) {
+        note.place.location = mark.range->first;
+    }
     (mark.isRemark ? note.comment : note.text) = mark.text;
     note.time = mark.time;
     note.changeTime = mark.changeTime;

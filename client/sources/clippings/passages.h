@@ -34,7 +34,8 @@ private:
     // Smaller than a clipping: there may be millions.
     struct Mark {
         bool isRemark = false;
-        bool isDropped = false;  // merged into another mark
+        bool isDropped = false;    // merged into another mark
+        bool hasLocation = false;  // its range is of locations, else of pages
         std::optional<ClippingRange> range = {};
         std::optional<double> page = {};
         std::int64_t time = 0;

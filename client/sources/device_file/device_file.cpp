@@ -59,7 +59,10 @@ Note readNote(JsonObject& object, std::string_view uuid,
     Note note;
     note.uuid = uuid;
     note.time = object.integer("timestamp").value_or(0);
-    note.page = object.number("page");
+    note.place.page = object.number("page");
+    note.place.location = object.integer("location");
+    note.place.chapter = object.text("chapter");
+    note.place.order = object.text("order");
     note.color = object.text("color");
     note.text = object.text("text");
     note.comment = object.text("comment");

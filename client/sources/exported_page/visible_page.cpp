@@ -153,7 +153,7 @@ void Reader::finish() {
     } else if (target != Target::None) {
         Note& note = page_.notes.back();
         if (target == Target::Page) {
-            note.page = pageLabelled(text);
+            note.place.page = pageLabelled(text);
         } else {
             (target == Target::Text ? note.text : note.comment) = text;
         }

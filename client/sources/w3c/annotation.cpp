@@ -89,7 +89,7 @@ std::optional<Annotation> parseAnnotation(const JsonValue& json) {
     note.uuid = withoutPrefix(textOf(memberOf(json, "id")), "urn:uuid:");
     const JsonValue& selector = memberOf(target, "selector");
     note.text = quoteIn(selector);
-    note.page = pageIn(memberOf(memberOf(target, "meta"), "page"));
+    note.place.page = pageIn(memberOf(memberOf(target, "meta"), "page"));
     const std::int64_t created = timeIn(json, "created").value_or(0);
     note.time = timeIn(json, "modified").value_or(created);
     takeBodies(memberOf(json, "body"), note);

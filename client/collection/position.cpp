@@ -1,0 +1,126 @@
+#include "client/collection/position.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "client/text/affixes.h"
+#include "client/text/ascii.h"
+#include "client/text/numbers.h"
+#include "client/text/percent_encoding.h"
+#include "client/text/sort_keys.h"
+
+namespace client {
+namespace {
+
+constexpr std::string_view kPath = "book:/position";
+constexpr std::string_view kPage = "page=";
+constexpr std::string_view kLocation = "location=";
+constexpr std::string_view kChapter = "chapter=";
+constexpr std::string_view kOrder = "order=";
+constexpr std::string_view kRank = "r.";
+
+bool isPlain(unsigned char byte) {
+    const char letter = static_cast<char>(byte);
+    return isAsciiLetter(letter) || isAsciiDigit(letter) ||
+           std::string_view("-._~").find(letter) != std::string_view::npos;
+}
+
+// Cuts the text between two characters, because the host platform does not read positions
+// of more than 4 KiB.
+std::string encoded(std::string_view text) {
+    constexpr std::size_t kMax = 1000;
+    std::string result;
+    while (!text.empty()) {
+        std::size_t length = 1;
+        while (length < text.size() && (text[length] & 0xC0) == 0x80) {
+            ++length;
+        }
+        const std::string character = percentEncoded(text.substr(0, length), isPlain);
+        if (result.size() + character.size() > kMax) {
+            break;
+        }
+        result += character;
+        text.remove_prefix(length);
+    }
+    return result;
+}
+
+std::vector<std::string_view> parametersOf(std::string_view position) {
+    std::vector<std::string_view> parameters;
+    std::string_view query = position.substr(0, position.find('#'));
+    query.remove_prefix(std::min(query.find('?'), query.size()));
+    while (!query.empty()) {
+        query.remove_prefix(1);
+        parameters.push_back(query.substr(0, query.find('&')));
+        query.remove_prefix(parameters.back().size());
+    }
+    return parameters;
+}
+
+// Returns the value of the first parameter with this name; empty if there is none.
+std::string_view valueOf(std::string_view name,
+                         const std::vector<std::string_view>& parameters) {
+    for (const std::string_view parameter : parameters) {
+        if (startsWith(parameter, name)) {
+            return withoutPrefix(parameter, name);
+        }
+    }
+    return {};
+}
+
+std::optional<double> pageIn(std::string_view text) {
+    const auto page = parseNumber<double>(text, std::chars_format::fixed);
+    return page && std::isfinite(*page) ? page : std::nullopt;
+}
+
+bool isRankParameter(std::string_view parameter) {
+    return startsWith(parameter, kOrder) &&
+           startsWith(withoutPrefix(parameter, kOrder), kRank);
+}
+
+}  // namespace
+
+std::string positionOf(const Place& place) {
+    std::string query;
+    const auto add = [&query](std::string_view name, const std::string& value) {
+        if (!value.empty()) {
+            query.append(query.empty() ? "?" : "&").append(name).append(value);
+        }
+    };
+    add(kPage, place.page ? decimal(*place.page) : "");
+    add(kLocation, place.location ? std::to_string(*place.location) : "");
+    add(kChapter, encoded(place.chapter));
+    add(kOrder, encoded(place.order));
+    return query.empty() ? query : std::string(kPath) + query;
+}
+
+Place placeAt(const std::string& position) {
+    const std::vector<std::string_view> parameters = parametersOf(position);
+    Place place;
+    place.page = pageIn(valueOf(kPage, parameters));
+    place.location = parseNumber<std::int64_t>(valueOf(kLocation, parameters));
+    place.chapter = percentDecoded(valueOf(kChapter, parameters));
+    place.order = percentDecoded(valueOf(kOrder, parameters));
+    return place;
+}
+
+bool hasAllPartsOf(const std::string& position, const std::string& complete) {
+    const std::vector<std::string_view> parts = parametersOf(complete);
+    const std::vector<std::string_view> wanted = parametersOf(position);
+    return position.substr(0, position.find('?')) ==
+               complete.substr(0, complete.find('?')) &&
+           std::all_of(wanted.begin(), wanted.end(), [&](std::string_view part) {
+               return isRankParameter(part) ||
+                      std::find(parts.begin(), parts.end(), part) != parts.end();
+           });
+}
+
+std::string rankOrder(std::size_t number) { return std::string(kRank) + sortKey(number); }
+
+bool isRank(const std::string& order) { return startsWith(order, kRank); }
+
+}  // namespace client

@@ -1,0 +1,40 @@
+#include "client/text/sort_keys.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace client {
+namespace {
+
+constexpr std::size_t kDigits = 10;
+constexpr std::string_view kAllDigits = "0123456789";
+
+std::string keyOf(std::string_view digits, std::size_t width = kDigits) {
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+    return digits.size() > width ? std::string(width, '9')
+                                 : std::string(width - digits.size(), '0').append(digits);
+}
+
+}  // namespace
+
+std::string sortKey(std::uint64_t number) { return keyOf(std::to_string(number)); }
+
+std::string sortKeyOfNumbers(std::string_view text) {
+    std::string keys;
+    for (std::size_t at = 0; (at = text.find_first_of(kAllDigits, at)) != text.npos;) {
+        const std::string_view rest = text.substr(at);
+        const std::string_view digits = rest.substr(0, rest.find_first_not_of(kAllDigits));
+        keys.append(".").append(keyOf(digits));
+        at += digits.size();
+    }
+    return keys;
+}
+
+std::string sortKeyOfFraction(double fraction) {
+    constexpr double kParts = 1e6;
+    const bool isInRange = fraction > 0;  // and not NaN
+    const double parts = isInRange ? std::min(fraction, 1.0) * kParts : 0;
+    return keyOf(std::to_string(static_cast<std::uint32_t>(parts + 0.5)), 7);
+}
+
+}  // namespace client
