@@ -30,6 +30,12 @@ inline std::string show(const client::Note& note) {
            '|' + note.comment + '|' + note.picture + '|' + client::timeText(note);
 }
 
+inline std::string show(const client::Place& place) {
+    const std::string location = place.location ? std::to_string(*place.location) : "";
+    return (place.page ? client::decimal(*place.page) : "") + '|' + location + '|' +
+           place.chapter + '|' + place.order;
+}
+
 // Adds a book with the notes to the collection.
 inline void addBook(const client::Book& book, const std::vector<client::Note>& notes,
                     const std::optional<std::string>& styleSheet = {}) {
@@ -40,15 +46,27 @@ inline void addBook(const client::Book& book, const std::vector<client::Note>& n
     client::addToCollection(books, host::OnKnownBook::Overwrite, styleSheet);
 }
 
-// Returns a line for each note.
-inline std::string shownNotes(const std::string& content) {
+// Returns a line for each note, as `showOne` gives it.
+template <class ShowOne>
+std::string shownNotes(const std::string& content, const ShowOne& showOne) {
     std::string shown;
     for (const client::IncomingBook& book : readSample(content).books) {
         for (const client::Note& note : book.notes) {
-            shown += show(note) + '\n';
+            shown += showOne(note) + '\n';
         }
     }
     return shown;
+}
+
+inline std::string shownNotes(const std::string& content) {
+    return shownNotes(content, [](const client::Note& note) { return show(note); });
+}
+
+// Returns text, page, location, chapter and order of each note.
+inline std::string shownPlaces(const std::string& content) {
+    return shownNotes(content, [](const client::Note& note) {
+        return note.text + '|' + show(note.place);
+    });
 }
 
 // Returns a line for each book with its uuids and the skipped records, or the error
