@@ -61,10 +61,7 @@ void addExport(CommandLine& commandLine) {
     exporting.add_flag("--all", "Export every book (default)");
     exporting.add_flag("--update", "Replace older pages (default)");
     addFilter(exporting, request->filter);
-    exporting
-        .add_option("--order", request->order, "Order of the notes: page, id or newest")
-        ->type_name("ORDER")
-        ->check(CLI::IsMember({"page", "id", "newest"}));
+    addOrder(exporting, request->order);
     addTarget(exporting, request->target);
     exporting.footer(examples::kExport);
 }

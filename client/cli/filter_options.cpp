@@ -41,4 +41,18 @@ void addFilter(CLI::App& command, NoteFilter& filter) {
         ->check(checkSearchText);
 }
 
+void addOrder(CLI::App& command, NoteOrder& order) {
+    command
+        .add_option_function<std::string>(
+            "--order",
+            [&order](const std::string& name) {
+                order = name == "id"       ? NoteOrder::Id
+                        : name == "newest" ? NoteOrder::Newest
+                                           : NoteOrder::Reading;
+            },
+            "Order of the notes: reading (default), id or newest")
+        ->type_name("ORDER")
+        ->check(CLI::IsMember({"reading", "id", "newest", "page"}));
+}
+
 }  // namespace client

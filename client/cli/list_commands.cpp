@@ -72,6 +72,7 @@ void addNotes(CommandLine& commandLine) {
                      "Hash or title of a book, or its start (default: all books)");
     addFormat(notes, request->format);
     addFilter(notes, request->filter);
+    addOrder(notes, request->order);
     addPictures(notes, request->pictures);
     notes.footer(examples::kNotes);
 }

@@ -1,10 +1,12 @@
 #include "client/collection/note_loader.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "client/collection/note_tags.h"
 #include "client/collection/own_notes.h"
+#include "client/collection/position.h"
 #include "client/text/control_characters.h"
 #include "store/note_tags.h"
 
@@ -22,21 +24,46 @@ const TagRecord* findTag(const NoteRecord& note, std::int32_t tag) {
     return found == note.tags.end() || found->tag != tag ? nullptr : &*found;
 }
 
+bool isPosition(const TagRecord& tag) {
+    return tag.tag == host::kAnchorTag || tag.tag == host::kRangeTag;
+}
+
+// Returns whether `complete` has all that the other position has.
+bool isComplete(const TagRecord& complete, const TagRecord& other) {
+    const std::string position = positionIn(complete);
+    const std::string part = positionIn(other);
+    const auto parts = partsOf(position);
+    const auto wanted = partsOf(part);
+    return !position.empty() && !part.empty() &&
+           std::all_of(wanted.begin(), wanted.end(), [&](std::string_view one) {
+               return std::find(parts.begin(), parts.end(), one) != parts.end();
+           });
+}
+
+bool isEqual(const TagRecord& present, const TagRecord& loaded) {
+    return (present.text == loaded.text && present.json == loaded.json) ||
+           (isPosition(loaded) && isComplete(present, loaded));
+}
+
 bool differs(const NoteRecord& present, const NoteRecord& loaded) {
     return std::any_of(loaded.tags.begin(), loaded.tags.end(), [&](const TagRecord& tag) {
         const TagRecord* other = findTag(present, tag.tag);
-        return other == nullptr || other->text != tag.text || other->json != tag.json;
+        return other == nullptr || !isEqual(*other, tag);
     });
+}
+
+bool isPlaced(const TagRecord* position) {
+    const std::string own = position == nullptr ? "" : positionIn(*position);
+    return position != nullptr && (own.empty() || isKnown(placeAt(own)));
 }
 
 // Removes the tags that the present note has, and a place if it has any. What remains is
 // older than every change of the note.
 void keepMissing(NoteRecord& loaded, const NoteRecord& present) {
-    const bool isPlaced = findTag(present, host::kAnchorTag) != nullptr ||
-                          findTag(present, host::kRangeTag) != nullptr;
+    const bool hasPlace = isPlaced(findTag(present, host::kAnchorTag)) ||
+                          isPlaced(findTag(present, host::kRangeTag));
     const auto isPresent = [&](const TagRecord& tag) {
-        const bool isPlace = tag.tag == host::kAnchorTag || tag.tag == host::kRangeTag;
-        return (isPlace && isPlaced) || findTag(present, tag.tag) != nullptr;
+        return isPosition(tag) ? hasPlace : findTag(present, tag.tag) != nullptr;
     };
     loaded.tags.erase(std::remove_if(loaded.tags.begin(), loaded.tags.end(), isPresent),
                       loaded.tags.end());
@@ -71,12 +98,32 @@ void NoteLoader::loadNote(const IncomingBook& book, Note note) {
 }
 
 void NoteLoader::merge(const NoteRecord& note) {
-    const host::MergedNote merged = store_.mergeNote(bookId_, note);
-    result_.changed += merged.changed ? 1 : 0;
-    if (!merged.complete && differs(known(note.uuid).value(), note)) {
-        result_.kept.add(oneLine(note.uuid) + " of " + oneLine(book_.hash) + "  \"" +
-                         oneLine(book_.title) + '"');
+    host::MergedNote merged = store_.mergeNote(bookId_, note);
+    if (!merged.complete) {
+        const NoteRecord present = store_.note(merged.id).value();
+        merged.changed |= completePosition(merged.id, present, note);
+        if (differs(present, note)) {
+            result_.kept.add(oneLine(note.uuid) + " of " + oneLine(book_.hash) + "  \"" +
+                             oneLine(book_.title) + '"');
+        }
     }
+    result_.changed += merged.changed ? 1 : 0;
+}
+
+// Replaces positions of equal age that have only parts of the new ones. Earlier versions of
+// this program stored pages alone.
+bool NoteLoader::completePosition(std::int64_t id, const NoteRecord& present,
+                                  const NoteRecord& loaded) {
+    bool isChanged = false;
+    for (const TagRecord& tag : loaded.tags) {
+        const TagRecord* other = isPosition(tag) ? findTag(present, tag.tag) : nullptr;
+        if (other != nullptr && other->timestamp == tag.timestamp &&
+            other->json != tag.json && isComplete(tag, *other)) {
+            store_.replaceTag(id, tag);
+            isChanged = true;
+        }
+    }
+    return isChanged;
 }
 
 std::optional<NoteRecord> NoteLoader::known(const std::string& uuid) {

@@ -23,6 +23,8 @@ public:
 private:
     void loadNote(const IncomingBook& book, Note note);
     void merge(const host::NoteRecord& note);
+    bool completePosition(std::int64_t id, const host::NoteRecord& present,
+                          const host::NoteRecord& loaded);
     std::optional<host::NoteRecord> known(const std::string& uuid);
     std::string knownUuid(const IncomingBook& book, const std::string& uuid);
 

@@ -1,13 +1,21 @@
 #include "client/collection/note_tags.h"
 
 #include <algorithm>
+#include <cstring>
+#include <string_view>
 #include <utility>
 
 #include "client/collection/position.h"
+#include "client/text/affixes.h"
+#include "dump/note_json.h"
 #include "store/note_tags.h"
 
 namespace client {
 namespace {
+
+// Members of positions and ranges.
+constexpr const char* kAnchor = "anchor";
+constexpr const char* kBegin = "begin";
 
 std::string json(const char* member, const std::string& position) {
     return std::string("{\"") + member + "\":\"" + position + "\"}";
@@ -20,13 +28,28 @@ void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
     }
 }
 
-// Returns the place of the note, or else that of its passage, as the library does.
-Place placeOf(const veloran::utilities::Note& tags) {
-    Place place = placeAt(tags.getAnchorUri());
-    return place.page || place.location
-               ? place
-               : placeAt(
-                     tags.getJsonTagElement(veloran::utilities::Note::Tag::Range, "begin"));
+// Returns the member of a JSON text that json() gives; empty for other texts.
+std::string_view plainMember(std::string_view text, const char* member) {
+    const std::size_t start = std::strlen(member) + 5;
+    const std::string_view position =
+        text.substr(0, text.size() - 2).substr(std::min(start, text.size()));
+    return text == json(member, std::string(position)) ? position : std::string_view();
+}
+
+// Returns the text of the member; empty if there is none.
+std::string memberOf(const std::optional<std::string>& text, const char* member) {
+    if (!text) {
+        return {};
+    }
+    const std::string_view position = plainMember(*text, member);
+    if (!position.empty() && position.find_first_of("\"\\") == std::string_view::npos) {
+        return std::string(position);
+    }
+    const auto parsed = host::NoteJson().parse(*text);
+    const char* const end = member + std::strlen(member);
+    const Json::Value* found =
+        parsed && parsed->isObject() ? parsed->find(member, end) : nullptr;
+    return found != nullptr && found->isString() ? found->asString() : std::string();
 }
 
 }  // namespace
@@ -36,8 +59,11 @@ host::NoteRecord toRecord(Note note) {
     const std::int64_t time = std::max(note.time, note.changeTime);
     addText(record, host::kUuidTag, std::move(note.uuid), note.time);
     if (const std::string position = positionOf(note.place); !position.empty()) {
-        record.tags.push_back({host::kAnchorTag, "", json("anchor", position), time});
-        record.tags.push_back({host::kRangeTag, "", json("begin", position), time});
+        // A rank is older than any known place.
+        const std::int64_t known =
+            isKnown(note.place) ? time : std::min<std::int64_t>(time, 0);
+        record.tags.push_back({host::kAnchorTag, "", json(kAnchor, position), known});
+        record.tags.push_back({host::kRangeTag, "", json(kBegin, position), known});
     }
     addText(record, host::kColorTag, std::move(note.color), time);
     addText(record, host::kTextTag, std::move(note.text), time);
@@ -47,16 +73,55 @@ host::NoteRecord toRecord(Note note) {
     return record;
 }
 
-Note toNote(const veloran::utilities::Note& tags) {
+std::string positionIn(const host::TagRecord& tag) {
+    const char* const member = tag.tag == host::kAnchorTag  ? kAnchor
+                               : tag.tag == host::kRangeTag ? kBegin
+                                                            : nullptr;
+    return member == nullptr ? "" : std::string(plainMember(tag.json.value_or(""), member));
+}
+
+Place placeIn(const std::optional<std::string>& anchor,
+              const std::optional<std::string>& range) {
+    Place place = placeAt(memberOf(anchor, kAnchor));
+    return place.page || place.location || !range ? place
+                                                  : placeAt(memberOf(range, kBegin));
+}
+
+Note toNote(std::int64_t id, host::NoteRecord record) {
     Note note;
-    note.id = tags.noteId;
-    note.uuid = tags.uuid();
-    note.place = placeOf(tags);
-    note.color = tags.getColor();
-    note.text = tags.getText();
-    note.comment = tags.getNote();
-    note.picture = tags.getImage();
-    note.time = tags[veloran::utilities::Note::Tag::Uuid].timestamp;
+    note.id = static_cast<unsigned long long>(id);
+    note.uuid = record.uuid;
+    std::optional<std::string> anchor;
+    std::optional<std::string> range;
+    for (host::TagRecord& tag : record.tags) {
+        switch (tag.tag) {
+            case host::kUuidTag:
+                note.uuid = std::move(tag.text);
+                note.time = tag.timestamp;
+                break;
+            case host::kAnchorTag:
+                anchor = std::move(tag.json);
+                break;
+            case host::kColorTag:
+                note.color = std::move(tag.text);
+                break;
+            case host::kTextTag:
+                note.text = std::move(tag.text);
+                break;
+            case host::kRangeTag:
+                range = std::move(tag.json);
+                break;
+            case host::kCommentTag:
+                note.comment = std::move(tag.text);
+                break;
+            case host::kImageTag:
+                note.picture = std::move(tag.text);
+                break;
+            default:
+                break;
+        }
+    }
+    note.place = placeIn(anchor, range);
     return note;
 }
 

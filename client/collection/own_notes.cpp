@@ -6,8 +6,10 @@
 #include <string_view>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "client/collection/note_tags.h"
+#include "client/collection/position.h"
 #include "client/files/digest.h"
 #include "client/text/line_breaks.h"
 #include "store/note_tags.h"
@@ -21,13 +23,28 @@ using host::TagRecord;
 using NoteIds = std::map<std::string, std::int64_t>;  // by uuid
 using Digests = std::unordered_set<DigestValue, DigestValue::Hash>;
 
-DigestValue digestOf(const std::string& uuid, const TagRecord& tag) {
+DigestValue digestOf(const std::string& uuid, const TagRecord& tag,
+                     std::string_view value) {
     Digest digest;
     digest.addText(uuid);
     digest.addText(std::to_string(tag.tag));
     digest.addText(tag.text);
-    digest.addText(tag.json.value_or(""));
+    digest.addText(value);
     return digest.value();
+}
+
+// Calls `visit` with the digest of the tag's value, or of each part of a position: a later
+// version of this program may read more of them. Returns false at the first one for which
+// `visit` does.
+template <class Visit>
+bool eachValue(const std::string& uuid, const TagRecord& tag, const Visit& visit) {
+    const std::string position = positionIn(tag);
+    const std::string& json = tag.json ? *tag.json : position;
+    const auto parts =
+        position.empty() ? std::vector<std::string_view>{json} : partsOf(position);
+    return std::all_of(parts.begin(), parts.end(), [&](std::string_view part) {
+        return visit(digestOf(uuid, tag, part));
+    });
 }
 
 // Calls `visit` with the digest of each paragraph. Returns false at the first one for which
@@ -60,7 +77,9 @@ public:
         return includeComment(note) &&
                std::all_of(note.tags.begin(), note.tags.end(), [&](const TagRecord& tag) {
                    return tag.tag == host::kCommentTag ||
-                          values_.count(digestOf(note.uuid, tag)) > 0;
+                          eachValue(note.uuid, tag, [this](const DigestValue& value) {
+                              return values_.count(value) > 0;
+                          });
                });
     }
 
@@ -82,7 +101,10 @@ private:
         if (ids.count(note.uuid) > 0) {
             const NoteRecord record = toRecord(std::move(note));
             for (const TagRecord& tag : record.tags) {
-                values_.insert(digestOf(record.uuid, tag));
+                eachValue(record.uuid, tag, [this](const DigestValue& value) {
+                    values_.insert(value);
+                    return true;
+                });
             }
         }
     }

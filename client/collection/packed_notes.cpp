@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "client/collection/position.h"
+
 namespace client {
 namespace {
 
@@ -53,8 +55,12 @@ Header headerAt(const std::string& block, std::size_t offset) {
 
 }  // namespace
 
-void PackedNotes::add(const Note& note) {
+void PackedNotes::add(Note note) {
     constexpr std::size_t kBlock = 65536;
+    if (!isKnown(note.place)) {
+        note.place.order = rankOrder(size_);
+    }
+    ++size_;
     const Header header = headerOf(note);
     if (blocks_.empty() || blocks_.back().size() >= kBlock) {
         blocks_.emplace_back();

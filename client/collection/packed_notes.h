@@ -28,13 +28,15 @@ public:
         std::size_t offset_ = 0;
     };
 
-    void add(const Note& note);
+    // A note without a known place gets its number in the sequence as its order.
+    void add(Note note);
 
     bool isEmpty() const { return blocks_.empty(); }
     Iterator begin() const { return {*this, 0}; }
     Iterator end() const { return {*this, blocks_.size()}; }
 
 private:
+    std::size_t size_ = 0;
     std::vector<std::string> blocks_;  // a string for each note would take a third more
 };
 

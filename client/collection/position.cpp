@@ -77,11 +77,6 @@ std::optional<double> pageIn(std::string_view text) {
     return page && std::isfinite(*page) ? page : std::nullopt;
 }
 
-bool isRankParameter(std::string_view parameter) {
-    return startsWith(parameter, kOrder) &&
-           startsWith(withoutPrefix(parameter, kOrder), kRank);
-}
-
 }  // namespace
 
 std::string positionOf(const Place& place) {
@@ -108,19 +103,22 @@ Place placeAt(const std::string& position) {
     return place;
 }
 
-bool hasAllPartsOf(const std::string& position, const std::string& complete) {
-    const std::vector<std::string_view> parts = parametersOf(complete);
-    const std::vector<std::string_view> wanted = parametersOf(position);
-    return position.substr(0, position.find('?')) ==
-               complete.substr(0, complete.find('?')) &&
-           std::all_of(wanted.begin(), wanted.end(), [&](std::string_view part) {
-               return isRankParameter(part) ||
-                      std::find(parts.begin(), parts.end(), part) != parts.end();
-           });
+std::vector<std::string_view> partsOf(std::string_view position) {
+    std::vector<std::string_view> parts = {position.substr(0, position.find('?'))};
+    for (const std::string_view parameter : parametersOf(position)) {
+        if (!isRank(withoutPrefix(parameter, kOrder))) {
+            parts.push_back(parameter);
+        }
+    }
+    return parts;
 }
 
 std::string rankOrder(std::size_t number) { return std::string(kRank) + sortKey(number); }
 
-bool isRank(const std::string& order) { return startsWith(order, kRank); }
+bool isRank(std::string_view order) { return startsWith(order, kRank); }
+
+bool isKnown(const Place& place) {
+    return place.page || place.location || !(place.order.empty() || isRank(place.order));
+}
 
 }  // namespace client

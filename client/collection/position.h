@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "client/collection/note.h"
 
@@ -14,14 +16,16 @@ std::string positionOf(const Place& place);
 // Returns the parts that a URI of any program names.
 Place placeAt(const std::string& position);
 
-// Returns whether `complete` has all parts of `position`, with equal values. A rank does
-// not count.
-bool hasAllPartsOf(const std::string& position, const std::string& complete);
+// Returns the path and the parameters of the position, except a rank. They refer to it.
+std::vector<std::string_view> partsOf(std::string_view position);
 
 // Returns the order of a note whose place is not known, from its number in its file. It is
 // no place: notes that were made at the same time are in its order.
 std::string rankOrder(std::size_t number);
 
-bool isRank(const std::string& order);
+bool isRank(std::string_view order);
+
+// Returns whether the place is known, apart from a chapter.
+bool isKnown(const Place& place);
 
 }  // namespace client

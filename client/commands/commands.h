@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "client/collection/note_filter.h"
+#include "client/collection/note_order.h"
 #include "client/listings/listing.h"
 #include "client/pages/page_export.h"
 
@@ -29,6 +30,7 @@ void listBooks(const ListingFormat& format);
 struct NotesRequest {
     std::vector<std::string> books;  // as they were typed; empty: all of the collection
     NoteFilter filter;
+    NoteOrder order = NoteOrder::Reading;
     const ListingFormat* format = &kLineFormat;
     FolderForPictures pictures;
 };
@@ -40,7 +42,7 @@ void listNotes(const NotesRequest& request);
 struct ExportRequest {
     std::vector<std::string> books = {};  // as they were typed; empty: all books
     NoteFilter filter = {};
-    std::string order = {};  // "id" or "newest"; else by page
+    NoteOrder order = NoteOrder::Reading;
     PageTarget target = {};
 };
 

@@ -16,7 +16,9 @@ namespace {
 class Command {
 public:
     explicit Command(const ExportRequest& request)
-        : request_(request), notes_(request.filter), pages_(request.target) {}
+        : request_(request),
+          notes_(request.filter, request.order),
+          pages_(request.target) {}
     void run();
 
 private:
@@ -55,7 +57,7 @@ Outcome Command::exportBook(const host::BookEntry& book) {
         return {};
     }
     const bool isOnlyBook = request_.books.size() == 1;
-    NoteSelection notes = selectNotes(notes_, book.fastHash, request_.order, isOnlyBook);
+    NoteSelection notes = selectNotes(notes_, book.fastHash, isOnlyBook);
     if (!notes.isEmpty) {
         pages_.add(book, std::move(notes));
     }
@@ -79,9 +81,9 @@ void exportNotes(const ExportRequest& request) { Command(request).run(); }
 void printName(const std::string& typed, const PageTarget& target) {
     const host::BookEntry book = findBook(typed);
     const NoteFilter all;
-    NoteReader notes(all);
+    NoteReader notes(all, NoteOrder::Reading);
     std::cout << printable(PageExport(target).nextPath(
-                     book, selectNotes(notes, book.fastHash, "", false)))
+                     book, selectNotes(notes, book.fastHash, false)))
               << '\n';
 }
 

@@ -33,7 +33,7 @@ public:
     explicit NoteLister(const NotesRequest& request)
         : severalBooks_(request.books.size() != 1),
           listing_(request.format->listNotes(std::cout, {severalBooks_, request.pictures})),
-          notes_(request.filter) {}
+          notes_(request.filter, request.order) {}
 
     void listBook(const Book& book);
     void end();
@@ -50,7 +50,7 @@ void NoteLister::listBook(const Book& book) {
     if (isStarted) {
         listing_->startBook(book);
     }
-    notes_.read(book.hash, [&](const Note& note) {
+    notes_.read(notes_.inOrder(book.hash), [&](const Note& note) {
         if (!std::exchange(isStarted, true)) {
             listing_->startBook(book);
         }

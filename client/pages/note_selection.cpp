@@ -8,24 +8,36 @@
 namespace client {
 namespace {
 
-using Times = decltype(NoteSelection::times);
+using Ranks = decltype(NoteSelection::ranks);
 
-bool byId(void* /*unused*/, long long first, long long second) {
-    return static_cast<unsigned long long>(first) < static_cast<unsigned long long>(second);
+// Notes that were added meanwhile are last.
+bool isRankedBefore(void* ranks, long long first, long long second) {
+    const Ranks& known = *static_cast<Ranks*>(ranks);
+    const auto one = known.find(first);
+    const auto other = known.find(second);
+    return one != known.end() && (other == known.end() || one->second < other->second);
 }
 
-bool byNewest(void* times, long long first, long long second) {
-    Times& known = *static_cast<Times*>(times);
-    return known[first] > known[second];
+void setOrder(NoteSelection& selection, const std::vector<PlacedNote>& notes) {
+    for (const PlacedNote& note : notes) {
+        selection.order.push_back(note.id);
+    }
+    if (isPageOrder(notes)) {
+        return;
+    }
+    selection.before = isRankedBefore;
+    for (const std::int64_t id : selection.order) {
+        selection.ranks.emplace(id, selection.ranks.size());
+    }
 }
 
-notes_exporter_before orderNamed(const std::string& name) {
-    return name == "id" ? byId : name == "newest" ? byNewest : nullptr;
+const char* nameOf(NoteOrder order) {
+    return order == NoteOrder::Id ? "id" : order == NoteOrder::Newest ? "newest" : "";
 }
 
-std::string describe(const NoteFilter& filter, const std::string& order) {
+std::string describe(const NoteFilter& filter, NoteOrder order) {
     std::ostringstream text;
-    text << (order == "page" ? "" : order);
+    text << nameOf(order);
     for (const unsigned long long id : filter.ids) {
         text << " id " << id;
     }
@@ -44,23 +56,21 @@ std::string describe(const NoteFilter& filter, const std::string& order) {
 }  // namespace
 
 NoteSelection selectNotes(NoteReader& reader, const std::string& bookHash,
-                          const std::string& order, bool mustHaveIds) {
+                          bool mustHaveIds) {
     const NoteFilter& filter = reader.filter();
+    const std::vector<PlacedNote> notes = reader.inOrder(bookHash);
     NoteSelection selection;
-    selection.before = orderNamed(order);
-    selection.description = describe(filter, order);
-    if (filter.isEmpty() && selection.before != byNewest) {
+    selection.description = describe(filter, reader.order());
+    setOrder(selection, notes);
+    if (filter.isEmpty()) {
         return selection;
     }
-    reader.read(bookHash, [&](const Note& note) {
-        selection.ids.insert(note.id);
-        selection.times[static_cast<long long>(note.id)] = note.time;
-    });
+    reader.read(notes, [&](const Note& note) { selection.ids.insert(note.id); });
     if (const auto id = reader.missingId(); id && mustHaveIds) {
         throw UserError("The book has no note " + std::to_string(*id) +
                         ". \"notes-export notes " + bookHash + "\" lists them.");
     }
-    selection.isEmpty = selection.ids.empty() && !filter.isEmpty();
+    selection.isEmpty = selection.ids.empty();
     return selection;
 }
 

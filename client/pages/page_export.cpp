@@ -35,7 +35,7 @@ void callLibrary(const Exporter& exporter, const host::BookEntry& book,
     const std::vector<unsigned long long> ids(notes.ids.begin(), notes.ids.end());
     if (notes_exporter_export_bookmarks_to_html(exporter.handle(), book.fastHash.c_str(),
                                                 ids.data(), ids.size(), notes.before,
-                                                &notes.times) != 0) {
+                                                &notes.ranks) != 0) {
         throw UserError("The book " + book.fastHash + " is no longer in the collection.");
     }
 }
@@ -92,8 +92,7 @@ std::string PageExport::nextPath(const host::BookEntry& book, const NoteSelectio
 WrittenFile PageExport::describe(const host::BookEntry& book, const NoteSelection& notes) {
     Digest selection;
     selection.add(notes.description);
-    return {book.fastHash, "html", selection.hexadecimal(),
-            inputs_.digest(book, notes.ids)};
+    return {book.fastHash, "html", selection.hexadecimal(), inputs_.digest(book, notes)};
 }
 
 PagePlace PageExport::find(const host::BookEntry& book, const WrittenFile& wanted) {

@@ -34,8 +34,7 @@ PageInputs::PageInputs()
       reader_(host::kReaderDatabasePath),
       library_(host::kLibraryDatabasePath) {}
 
-std::string PageInputs::digest(const host::BookEntry& book,
-                               const std::set<unsigned long long>& ids) {
+std::string PageInputs::digest(const host::BookEntry& book, const NoteSelection& notes) {
     using veloran::utilities::SerializationUtils;
     const auto libraryId = library_.findBook(SerializationUtils::FromHex(book.fastHash));
     const auto known = libraryId ? library_.book(*libraryId) : std::nullopt;
@@ -45,9 +44,16 @@ std::string PageInputs::digest(const host::BookEntry& book,
           known ? known->author : "", known ? known->path : ""}) {
         digest.addText(text);
     }
+    const std::set<unsigned long long>& ids = notes.ids;
+    const auto isSelected = [&ids](std::int64_t id) {
+        return ids.empty() || ids.count(static_cast<unsigned long long>(id)) > 0;
+    };
+    for (const std::int64_t id : notes.order) {
+        digest.addText(isSelected(id) ? std::to_string(id) : "");
+    }
     reader_.inReadTransaction([&] {
         for (const std::int64_t id : reader_.noteIds(book.id)) {
-            if (ids.empty() || ids.count(static_cast<unsigned long long>(id)) > 0) {
+            if (isSelected(id)) {
                 addNote(digest, reader_.note(id).value());
             }
         }

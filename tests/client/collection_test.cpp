@@ -76,9 +76,9 @@ TEST(Collection, GivesBackEveryFieldOfNote) {
     addBook({"ab", "Emma", "", ""}, notes);
     client::NoteFilter filter;
     filter.ids = {1, 2, 9};
-    client::NoteReader reader(filter);
+    client::NoteReader reader(filter, client::NoteOrder::Id);
     std::string shown;
-    reader.read("ab", [&](const client::Note& read) {
+    reader.read(reader.inOrder("ab"), [&](const client::Note& read) {
         shown += std::to_string(read.id) + show(read) + '\n';
     });
     EXPECT_EQ(shown, '1' + show(notes[0]) + "\n2" + show(notes[1]) + '\n');

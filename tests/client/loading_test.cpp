@@ -41,6 +41,9 @@ std::string valueOf(const host::NoteRecord& note, std::int32_t number) {
     for (const host::TagRecord& tag : note.tags) {
         if (tag.tag == number) {
             const std::string uri = tag.json.value_or("");
+            if (uri.find("=r.") != std::string::npos) {  // the number in its file
+                return "-";
+            }
             return tag.text + uri.substr(std::min(uri.find('='), uri.size()));
         }
     }

@@ -37,13 +37,13 @@ void inDatabase(const char* path, const std::string& sql) {
     SQLite::Database(path, SQLite::OPEN_READWRITE).exec(sql);
 }
 
-client::ExportedPage exportPage(const std::string& order = "",
+client::ExportedPage exportPage(client::NoteOrder order = client::NoteOrder::Reading,
                                 const client::NoteFilter& filter = {},
                                 client::PageTarget target = {"pages"}) {
     auto book = host::ReaderStore(host::kReaderDatabasePath).findBook("0a");
     client::PageExport pages(target);
-    client::NoteReader notes(filter);
-    pages.add(*book, client::selectNotes(notes, "0a", order, false));
+    client::NoteReader notes(filter, order);
+    pages.add(*book, client::selectNotes(notes, "0a", false));
     return pages.publish().at(0);
 }
 
@@ -131,12 +131,12 @@ const Case kCases[] = {
      },
      false, "Emma (1).html|Emma.html|", [] { return exportPage(); }, false},
     {"other selection", [] {}, false, "Emma (1).html|Emma.html|",
-     [] { return exportPage("", yellow()); }},
+     [] { return exportPage({}, yellow()); }},
     {"other order", [] {}, false, "Emma (1).html|Emma.html|",
-     [] { return exportPage("newest"); }},
+     [] { return exportPage(client::NoteOrder::Newest); }},
     {"a new page is wanted", [] {}, false, "Emma (1).html|Emma.html|",
      [] {
-         return exportPage("", {}, {"pages", "", true});
+         return exportPage({}, {}, {"pages", "", true});
      },
      false},
 };
@@ -216,12 +216,12 @@ TEST(Export, NamedFileIsReplacedWhereItsLinkLeads) {
     writeFile("mine", "mine");
     fs::create_symlink("real.html", "link.html");
     const client::PageTarget target = {"", fs::absolute("link.html").string()};
-    exportPage("", {}, target);
+    exportPage({}, {}, target);
     load(200);
-    EXPECT_EQ(exportPage("", {}, target).path, target.file);
+    EXPECT_EQ(exportPage({}, {}, target).path, target.file);
     EXPECT_TRUE(fs::is_symlink("link.html"));
     EXPECT_EQ(filesIn("."), "link.html|mine|mnt|real.html|");
-    EXPECT_THROW(exportPage("", {}, {"", fs::absolute("mine").string()}),
+    EXPECT_THROW(exportPage({}, {}, {"", fs::absolute("mine").string()}),
                  client::UserError);
 }
 
@@ -232,8 +232,8 @@ TEST(Export, EqualPageOfAnotherCollectionStaysItsOwn) {
     auto book = host::ReaderStore(host::kReaderDatabasePath).findBook("0a");
     client::PageExport late({"pages"});
     const client::NoteFilter all;
-    client::NoteReader notes(all);
-    late.add(*book, client::selectNotes(notes, "0a", "", false));
+    client::NoteReader notes(all, client::NoteOrder::Reading);
+    late.add(*book, client::selectNotes(notes, "0a", false));
     for (const auto& entry : fs::recursive_directory_iterator("pages")) {
         if (entry.is_regular_file()) {
             fs::copy(entry.path(), kPage);

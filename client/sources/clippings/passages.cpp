@@ -193,7 +193,7 @@ void Passages::moveTo(IncomingBook& book) {
         if (!mark.isRemark) {
             note.comment = commentOf(mark.remarks);
         }
-        book.notes.add(note);
+        book.notes.add(std::move(note));
     }
     book.replaced = std::move(replaced_);
 }

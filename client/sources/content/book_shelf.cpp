@@ -39,7 +39,7 @@ bool ShelvedBook::identify(Note& note, const Identity& identity) {
 
 void ShelvedBook::add(Note note, const Identity& identity) {
     if (identify(note, identity)) {
-        content_.notes.add(note);
+        content_.notes.add(std::move(note));
     }
 }
 
@@ -50,7 +50,7 @@ void ShelvedBook::add(Note note, const Identity& identity,
         for (const Identity& other : former) {
             uuids.push_back(derivedUuid(other));
         }
-        content_.notes.add(note);
+        content_.notes.add(std::move(note));
     }
 }
 

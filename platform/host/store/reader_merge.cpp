@@ -24,6 +24,8 @@ constexpr const char* kCompleteBook =
     "UPDATE books SET title = coalesce(nullif(title, ''), ?2), path = "
     "coalesce(nullif(path, ''), ?3) WHERE fast_hash = ?1 AND ((title = '' AND ?2 <> '') OR "
     "(path = '' AND ?3 <> ''))";
+constexpr const char* kReplaceTag =
+    "REPLACE INTO tags (note_id, tag, text, json, timestamp) VALUES (?, ?, ?, ?, ?)";
 constexpr const char* kRemoveTags = "DELETE FROM tags WHERE note_id = ?";
 constexpr const char* kRemoveNote = "DELETE FROM notes WHERE id = ?";
 
@@ -93,7 +95,7 @@ MergedNote ReaderStore::mergeNote(std::int64_t bookId, const NoteRecord& note) {
     const std::int64_t noteId =
         isNew ? connection_->lastInsertedId() : findNote(bookId, note.uuid).value();
     const std::size_t taken = mergeTags(noteId, note);
-    return {isNew || taken > 0, taken == note.tags.size()};
+    return {noteId, isNew || taken > 0, taken == note.tags.size()};
 }
 
 std::optional<std::int64_t> ReaderStore::findNote(std::int64_t bookId,
@@ -116,6 +118,12 @@ std::size_t ReaderStore::mergeTags(std::int64_t noteId, const NoteRecord& note) 
         taken += static_cast<std::size_t>(statement.run());
     }
     return taken;
+}
+
+void ReaderStore::replaceTag(std::int64_t noteId, const TagRecord& tag) {
+    Query statement = connection_->query(kReplaceTag);
+    statement.bind(noteId, std::int64_t{tag.tag}, Blob{tag.text}, tag.json, tag.timestamp);
+    statement.run();
 }
 
 void ReaderStore::removeTags(std::int64_t noteId) {

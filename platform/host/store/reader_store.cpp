@@ -70,6 +70,15 @@ TagRecord tagRecord(Query& row) {
     return record;
 }
 
+void addTo(NoteOutline& note, Query& row) {
+    const std::int64_t tag = row.integer(2);
+    if (tag == kUuidTag) {
+        note.time = row.integer(4);
+    } else if (!row.isNull(3)) {
+        (tag == kAnchorTag ? note.anchor : note.range) = row.bytes(3);
+    }
+}
+
 }  // namespace
 
 ReaderStore::ReaderStore(const std::string& path)
@@ -126,6 +135,24 @@ std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
     std::transform(notes.begin(), notes.end(), ids.begin(),
                    [](const Creation& note) { return std::get<std::int64_t>(note); });
     return ids;
+}
+
+std::vector<NoteOutline> ReaderStore::outlines(std::int64_t bookId) {
+    Query rows = connection_->query(
+        "SELECT id, uuid, tag, json, timestamp FROM notes LEFT JOIN tags ON note_id = id "
+        "AND tag IN (?, ?, ?) WHERE book_id = ? ORDER BY id, tag",
+        std::int64_t{kUuidTag}, std::int64_t{kAnchorTag}, std::int64_t{kRangeTag}, bookId);
+    std::vector<NoteOutline> notes;
+    while (rows.next()) {
+        const std::int64_t id = rows.integer(0);
+        if (notes.empty() || notes.back().id != id) {
+            notes.push_back({id, rows.bytes(1), 0, std::nullopt, std::nullopt});
+        }
+        if (!rows.isNull(2)) {
+            addTo(notes.back(), rows);
+        }
+    }
+    return notes;
 }
 
 std::optional<NoteRecord> ReaderStore::note(std::int64_t noteId) {

@@ -22,7 +22,17 @@ struct BookEntry {
     std::string path;
 };
 
+// A note without its content.
+struct NoteOutline {
+    std::int64_t id = 0;
+    std::string uuid;
+    std::int64_t time = 0;              // when it was made; 0 if not known
+    std::optional<std::string> anchor;  // JSON text, as the next one
+    std::optional<std::string> range;
+};
+
 struct MergedNote {
+    std::int64_t id = 0;
     bool changed = false;   // in any way
     bool complete = false;  // every tag was taken over
 };
@@ -52,6 +62,9 @@ public:
 
     // Returns them ordered by the notes' creation, then by uuid.
     std::vector<std::int64_t> noteIdsByCreation(std::int64_t bookId);
+
+    // Returns the outlines of a book's notes, ordered by identifier.
+    std::vector<NoteOutline> outlines(std::int64_t bookId);
 
     // Returns the note with all its tags, ordered by number; nullopt if there is none.
     std::optional<NoteRecord> note(std::int64_t noteId);
@@ -86,6 +99,9 @@ public:
 
     // Adds the note, or merges its tags as merge() does.
     MergedNote mergeNote(std::int64_t bookId, const NoteRecord& note);
+
+    // Replaces the tag with this number, whatever its time.
+    void replaceTag(std::int64_t noteId, const TagRecord& tag);
 
     // Removes the note's tags; removeNote() also removes the note.
     void removeTags(std::int64_t noteId);
