@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "client/collection/collection_folder.h"
+#include "client/collection/note_order.h"
 #include "client/commands/commands.h"
 #include "client/pages/exporter.h"
 #include "job.h"
@@ -93,6 +94,29 @@ double exportOneByOne(std::size_t books) {
     return seconds;
 }
 
+// A book with locations, which has another order than the library's.
+void enterDeviceOfBook(std::size_t notes) {
+    static const double loaded = load<kClippings>(notes);
+    static_cast<void>(loaded);
+}
+
+double orderForReading(std::size_t notes) {
+    enterDeviceOfBook(notes);
+    host::ReaderStore store(host::kReaderDatabasePath);
+    const std::string hash = store.books().at(0).fastHash;
+    return secondsOf([&] {
+        const auto ordered = client::notesInOrder(client::NoteOrder::Reading, hash, store);
+        benchmark::DoNotOptimize(ordered.size());
+    });
+}
+
+double exportBook(std::size_t notes) {
+    enterDeviceOfBook(notes);
+    fs::remove_all(kPages);
+    const Silence silence;
+    return secondsOf([] { client::exportNotes(exportRequest()); });
+}
+
 constexpr Job loadDeviceFile = load<kDeviceFile>;
 
 BENCHMARK_CAPTURE(timed, loadDeviceFile, loadDeviceFile)->Arg(100000)->UseManualTime();
@@ -103,6 +127,7 @@ BENCHMARK_CAPTURE(ratio, loadKoboToDeviceFile, load<kKoboDatabase>, loadDeviceFi
     ->Arg(100000);
 BENCHMARK_CAPTURE(ratio, loadAnnotationsToDeviceFile, load<kAnnotationSet>, loadDeviceFile)
     ->Arg(100000);
+BENCHMARK_CAPTURE(ratio, readingOrderToExport, orderForReading, exportBook)->Arg(100000);
 BENCHMARK_CAPTURE(ratio, exportAllToOneByOne, exportAll, exportOneByOne)->Arg(400);
 BENCHMARK_CAPTURE(ratio, updateToExportAll, updateAll, exportAll)->Arg(400);
 

@@ -46,7 +46,7 @@ _notes_export_books() {
 # Prints the words that may come next if that is not the value of an option.
 _notes_export_words() {
     local -A options=([books]='--format --json' [load]='--pages'
-        [notes]='--format --json --note --color --since --match --pictures'
+        [notes]='--format --json --note --color --since --match --order --pictures'
         [export]='--note --color --since --match --order --dir -o --new' [name]='--dir')
     if [[ -z $command && $1 == -* ]]; then
         compgen -W '-C --help --version' -- "$1"
@@ -74,7 +74,7 @@ _notes_export() {
             ;;
         --note | --color | --since | --match) return ;;
         --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown' -- "$current") ;;
-        --order) mapfile -t COMPREPLY < <(compgen -W 'page id newest' -- "$current") ;;
+        --order) mapfile -t COMPREPLY < <(compgen -W 'reading id newest' -- "$current") ;;
         *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;
     esac
     # Readline itself quotes the names of files.

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -43,31 +42,34 @@ Decisive decisivePart(const std::vector<PlacedNote>& notes) {
 
 using Key = std::tuple<int, double, std::string_view>;
 
-// Returns nullopt if the note has no place that decides.
-std::optional<Key> keyOf(const PlacedNote& note, Decisive part) {
+const Key kNoKey(-1, 0, "");
+
+// Returns kNoKey if the note has no place that decides.
+Key keyOf(const PlacedNote& note, Decisive part) {
     const Place& place = note.place;
     if (part == Decisive::Order) {
-        return hasOrder(note) ? std::optional(Key(0, 0, place.order)) : std::nullopt;
+        return hasOrder(note) ? Key(0, 0, place.order) : kNoKey;
     }
     if (place.location) {
-        return Key(0, static_cast<double>(*place.location), "");
+        return {0, static_cast<double>(*place.location), ""};
     }
-    return place.page ? std::optional(Key(1, *place.page, "")) : std::nullopt;
+    return place.page ? Key(1, *place.page, "") : kNoKey;
 }
 
 // A note, and what decides where it stands.
 struct Entry {
     std::size_t index;
     const PlacedNote* note;
-    std::optional<Key> key;
+    Key key;
     std::size_t place = 0;  // number of the placed note that it is or follows; 0 for none
 
+    bool hasKey() const { return key != kNoKey; }
     auto inBook() const {
         return std::tuple(key, note->time, std::string_view(note->uuid));
     }
     auto inTime() const {
         const std::string_view order = note->place.order;
-        return std::tuple(note->time, !key.has_value(), place,
+        return std::tuple(note->time, !hasKey(), place,
                           isRank(order) ? order : std::string_view(),
                           std::string_view(note->uuid));
     }
@@ -97,16 +99,16 @@ void sortForReading(std::vector<PlacedNote>& notes) {
     sortBy([](const Entry& entry) { return entry.inBook(); }, entries);
     std::size_t place = 0;
     for (Entry& entry : entries) {
-        entry.place = entry.key ? ++place : 0;
+        entry.place = entry.hasKey() ? ++place : 0;
     }
     sortBy([](const Entry& entry) { return entry.inTime(); }, entries);
     place = 0;
     for (Entry& entry : entries) {
-        place = entry.key ? entry.place : place;
+        place = entry.hasKey() ? entry.place : place;
         entry.place = place;
     }
     std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
-        return std::tuple(a.place, !a.key) < std::tuple(b.place, !b.key);
+        return std::tuple(a.place, !a.hasKey()) < std::tuple(b.place, !b.hasKey());
     });
     std::vector<PlacedNote> sorted;
     sorted.reserve(notes.size());

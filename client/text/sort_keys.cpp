@@ -21,7 +21,8 @@ std::string sortKey(std::uint64_t number) { return keyOf(std::to_string(number))
 
 std::string sortKeyOfNumbers(std::string_view text) {
     std::string keys;
-    for (std::size_t at = 0; (at = text.find_first_of(kAllDigits, at)) != text.npos;) {
+    for (std::size_t at = 0;
+         (at = text.find_first_of(kAllDigits, at)) != std::string_view::npos;) {
         const std::string_view rest = text.substr(at);
         const std::string_view digits = rest.substr(0, rest.find_first_not_of(kAllDigits));
         keys.append(".").append(keyOf(digits));

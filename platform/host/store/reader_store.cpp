@@ -54,6 +54,10 @@ std::vector<std::int64_t> identifiers(Query&& rows) {
     return ids;
 }
 
+std::optional<std::string> optionalBytes(Query& row, int column) {
+    return row.isNull(column) ? std::nullopt : std::optional(row.bytes(column));
+}
+
 TagRecord tagRecord(Query& row) {
     TagRecord record;
     const std::int64_t number = row.integer(1);
@@ -63,20 +67,9 @@ TagRecord tagRecord(Query& row) {
                                  std::to_string(number) + ", which does not fit 32 bits");
     }
     record.text = row.bytes(2);
-    if (!row.isNull(3)) {
-        record.json = row.bytes(3);
-    }
+    record.json = optionalBytes(row, 3);
     record.timestamp = row.integer(4);
     return record;
-}
-
-void addTo(NoteOutline& note, Query& row) {
-    const std::int64_t tag = row.integer(2);
-    if (tag == kUuidTag) {
-        note.time = row.integer(4);
-    } else if (!row.isNull(3)) {
-        (tag == kAnchorTag ? note.anchor : note.range) = row.bytes(3);
-    }
 }
 
 }  // namespace
@@ -139,18 +132,16 @@ std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
 
 std::vector<NoteOutline> ReaderStore::outlines(std::int64_t bookId) {
     Query rows = connection_->query(
-        "SELECT id, uuid, tag, json, timestamp FROM notes LEFT JOIN tags ON note_id = id "
-        "AND tag IN (?, ?, ?) WHERE book_id = ? ORDER BY id, tag",
+        "SELECT id, uuid, made.timestamp, anchor.json, range.json FROM notes "
+        "LEFT JOIN tags AS made ON made.note_id = id AND made.tag = ? "
+        "LEFT JOIN tags AS anchor ON anchor.note_id = id AND anchor.tag = ? "
+        "LEFT JOIN tags AS range ON range.note_id = id AND range.tag = ? "
+        "WHERE book_id = ? ORDER BY id",
         std::int64_t{kUuidTag}, std::int64_t{kAnchorTag}, std::int64_t{kRangeTag}, bookId);
     std::vector<NoteOutline> notes;
     while (rows.next()) {
-        const std::int64_t id = rows.integer(0);
-        if (notes.empty() || notes.back().id != id) {
-            notes.push_back({id, rows.bytes(1), 0, std::nullopt, std::nullopt});
-        }
-        if (!rows.isNull(2)) {
-            addTo(notes.back(), rows);
-        }
+        notes.push_back({rows.integer(0), rows.bytes(1), rows.integer(2),
+                         optionalBytes(rows, 3), optionalBytes(rows, 4)});
     }
     return notes;
 }
