@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cases.h"
+#include "client/collection/position.h"
 #include "kobo_sample.h"
 #include "sample_source.h"
 
@@ -44,6 +45,66 @@ TEST(KoboBookmark, BecomesNote) {
     expectEach(cases, [](const std::string& change) {
         return shownNotes(koboDatabase({change.c_str()}));
     });
+}
+
+// Returns the place that a collection stores for the bookmark.
+client::Place storedPlace(const std::string& change) {
+    const client::SourceContent content = readSample(koboDatabase({change.c_str()}));
+    const client::Note note = *content.books.at(0).notes.begin();
+    return client::placeAt(client::positionOf(note.place));
+}
+
+TEST(KoboBookmark, HasChapter) {
+    const ScratchDirectory scratch;
+    const NamedCase cases[] = {
+        {"its file's", "ContentID = 'v!1'", "Chapter 1"},
+        {"a position in its file", "ContentID = 'v!2#p2'", "Chapter 2"},
+        {"the first heading of its file", "ContentID = 'v!!a/9.xhtml'", "Chapter 9"},
+        {"of the path's file",
+         "ContentID = 'v#(1)a/cover.html', StartContainerPath = 'a/x10.html#point(/1/4:0)'",
+         "Chapter 10"},
+        {"of the file before the path's",
+         "ContentID = 'v#(1)a/cover.html', StartContainerPath = 'a/x3_2.html#point(/1)'",
+         "Chapter 3"},
+        {"a path into another folder",
+         "ContentID = 'v#(1)a/cover.html', StartContainerPath = 'b/x3.html#point(/1)'",
+         "Cover"},
+        {"unknown", "ContentID = 'v!3'", ""},
+    };
+    expectEach(cases,
+               [](const std::string& change) { return storedPlace(change).chapter; });
+}
+
+TEST(KoboBookmark, FollowsThoseBeforeItInTheBook) {
+    const ScratchDirectory scratch;
+    const std::string longPath =
+        "StartContainerPath = replace(hex(zeroblob(900)), '00', '.12'), ChapterProgress = "
+        "0, "
+        "ContentID = 'x' || StartContainerPath, StartOffset = ";
+    const NamedCase cases[] = {
+        {"chapters", "ContentID = 'v!2'",
+         "ContentID = 'v!!a/9.xhtml', ChapterProgress = 0"},
+        {"chapters of paths", "StartContainerPath = 'a/x3.html#point(/1)'",
+         "StartContainerPath = 'a/x10.html#point(/1)', ChapterProgress = 0"},
+        {"an unknown chapter", "ContentID = 'v!2'", "ContentID = 'v!1.2'"},
+        {"unknown files", "ContentID = 'v!x9'", "ContentID = 'v!x10', ChapterProgress = 0"},
+        {"files that a chapter goes on in", "StartContainerPath = 'a/x3.html#point(/9)'",
+         "StartContainerPath = 'a/x3_2.html#point(/1)', ChapterProgress = 0"},
+        {"progress", "ChapterProgress = 0.25, StartContainerPath = 'span#kobo\\.9\\.1'",
+         "StartContainerPath = 'span#kobo\\.1\\.1'"},
+        {"no number as progress", "ChapterProgress = 'x'", "ChapterProgress = 1e-6"},
+        {"numbers of the path", "StartContainerPath = 'span#kobo\\.204\\.1'",
+         "StartContainerPath = 'span#kobo\\.1030\\.1'"},
+        {"a path that is longer", "StartContainerPath = 'x#kobo\\.20', StartOffset = 9",
+         "StartContainerPath = 'x#kobo\\.20\\.1', StartOffset = 1"},
+        {"offset", "StartOffset = 9, DateCreated = '2024-02-01'", "StartOffset = 10"},
+        {"a negative offset", "StartOffset = -1", "StartOffset = 1"},
+        {"time", "Text = 'x'", "DateCreated = '2024-02-01'"},
+        {"offset after a long path", longPath + "9", longPath + "10"},
+    };
+    for (const auto& [name, before, after] : cases) {
+        EXPECT_LT(storedPlace(before).order, storedPlace(after).order) << name;
+    }
 }
 
 TEST(KoboDatabase, ColumnsOfLaterFirmwareMayLack) {

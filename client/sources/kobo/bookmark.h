@@ -1,21 +1,18 @@
 // The bookmarks of a Kobo reader's database.
 #pragma once
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <cstdint>
-#include <deque>
 #include <string>
 
-#include "client/sources/kobo/contents.h"
-#include "client/sources/kobo/read_limit.h"
+#include "client/sources/kobo/rows.h"
 
 namespace client {
 
 struct KoboBookmark {
     std::string id;
     std::string volume;   // identifier of the book
-    std::string chapter;  // identifier of the content that it is in
+    std::string content;  // identifier of the chapter
+    std::string path;     // of the element where it starts
     std::string text;
     std::string annotation;
     std::string created;
@@ -24,27 +21,20 @@ struct KoboBookmark {
     std::string uuid;
     std::string type;
     std::string color;
+    std::int64_t offset = 0;  // in the element
+    double progress = 0;      // from 0 to 1, in the chapter or in the book
 };
 
-// A bookmark that waits, in little memory, until all are sorted.
-class WaitingBookmark {
+// The rows of bookmarks. Columns that are missing in older firmware are empty.
+class KoboBookmarks {
 public:
-    WaitingBookmark(const KoboBookmark& bookmark, std::int64_t chapter, double progress);
+    KoboBookmarks(SQLite::Database& database, ReadLimit& limit);
 
-    KoboBookmark bookmark() const;
-
-    // Compares the positions in the book.
-    bool operator<(const WaitingBookmark& other) const;
+    // Reads the next bookmark; returns false at the end.
+    bool next(KoboBookmark& bookmark);
 
 private:
-    std::int64_t chapter_;  // its index
-    double progress_;       // within the chapter
-    std::string texts_;
+    KoboRows rows_;
 };
-
-// Returns all bookmarks, in the order of the chapters, then of the progress within them.
-// Columns that are missing in older firmware are empty.
-std::deque<WaitingBookmark> readBookmarks(SQLite::Database& database,
-                                          const KoboContents& contents, ReadLimit& limit);
 
 }  // namespace client

@@ -1,38 +1,103 @@
 #include "client/sources/kobo/contents.h"
 
-#include "client/sources/kobo/rows.h"
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+#include "client/text/affixes.h"
+#include "client/text/iso_time.h"
+#include "client/text/sort_keys.h"
 
 namespace client {
 namespace {
 
 // Types of content.
 constexpr int kBook = 6;
-constexpr int kChapter = 9;
+constexpr int kFile = 9;
 constexpr int kHeading = 899;  // in the table of contents
+
+// Of a chapter whose number is not known; after all others.
+constexpr std::int64_t kNoIndex = std::numeric_limits<std::int64_t>::max();
+
+// Returns the identifier without the number and without the position in the file:
+// "BOOK#(12)part.html" gives "BOOK#part.html", and "BOOK!!part.html#p2" "BOOK!!part.html".
+std::string fileOf(std::string id) {
+    const std::size_t name = id.find_last_of("/!)");
+    id.resize(std::min(id.size(), id.find('#', name == id.npos ? 0 : name)));
+    const std::size_t number = id.find("#(");
+    const std::size_t end = id.find(')', number);
+    return end == id.npos ? id : id.erase(number + 1, end - number);
+}
+
+// Returns the file of a path such as "part.html#point(/1/4:550)", which only books without
+// the identifiers of Kobo have, or else an empty text.
+std::string_view fileIn(std::string_view path) {
+    const std::size_t end = path.find("#point(");
+    return path.substr(0, end == path.npos ? 0 : end);
+}
+
+// Returns an empty text if the title is only the name of a file.
+std::string titleIn(std::string title) {
+    constexpr std::string_view kFiles[] = {".xhtml", ".html", ".htm", ".xml"};
+    return suffixLength(title, kFiles) == 0 ? std::move(title) : "";
+}
+
+// Returns the key of the number, or of 0 if it is negative.
+std::string keyOf(std::int64_t number) {
+    return sortKey(static_cast<std::uint64_t>(std::max<std::int64_t>(number, 0)));
+}
+
+// Limits the key, because collections store 1,000 bytes of an order.
+std::string keyOfNumbers(std::string_view text) {
+    constexpr std::size_t kMax = 400;
+    return sortKeyOfNumbers(text.substr(0, kMax)).substr(0, kMax);
+}
 
 }  // namespace
 
 KoboContents::KoboContents(SQLite::Database& database, ReadLimit& limit) {
+    Chapters headings;
     KoboRows rows(database, "content",
-                  {"ContentType", "ContentID", "VolumeIndex", "Title", "Attribution"},
+                  {"ContentType", "ContentID", "VolumeIndex", "Title", "Attribution",
+                   "ChapterIDBookmarked"},
                   limit);
     while (rows.next()) {
         const int type = rows.column(0).getInt();
-        if (type == kBook || type == kChapter || type == kHeading) {
-            const std::string id = rows.column(1).getString();
-            addChapter(id, {rows.column(2).getInt64(), type});
-            if (type == kBook) {
-                books_[id] = {rows.column(3).getString(), rows.column(4).getString()};
-            }
+        const std::string id = rows.column(1).getString();
+        const SQLite::Column index = rows.column(2);
+        const std::string title = rows.column(3).getString();
+        const KoboChapter chapter = {index.isNull() ? kNoIndex : index.getInt64(),
+                                     titleIn(title)};
+        if (type == kBook) {
+            books_[id] = {title, rows.column(4).getString()};
+        } else if (type == kFile) {
+            add(chapters_, id, chapter);
+        } else if (type == kHeading) {
+            const std::string target = rows.column(5).getString();
+            add(headings, target.empty() ? id : target, chapter);
         }
+    }
+    addHeadings(headings);
+}
+
+// Keeps the first of several headings in a file: all of the file may be part of it.
+void KoboContents::add(Chapters& chapters, const std::string& id,
+                       const KoboChapter& chapter) {
+    const auto [known, isNew] = chapters.try_emplace(fileOf(id), chapter);
+    if (!isNew && chapter.index < known->second.index) {
+        known->second = chapter;
     }
 }
 
-// Prefers the row of the chapter's own file to its heading.
-void KoboContents::addChapter(const std::string& id, const Chapter& chapter) {
-    const auto [known, isNew] = chapters_.try_emplace(id, chapter);
-    if (!isNew && chapter.type <= known->second.type) {
-        known->second = chapter;
+// Gives the titles of headings to the files that have none.
+void KoboContents::addHeadings(const Chapters& headings) {
+    for (const auto& [file, heading] : headings) {
+        KoboChapter& chapter = chapters_.try_emplace(file, heading).first->second;
+        if (chapter.title.empty()) {
+            chapter.title = heading.title;
+        }
     }
 }
 
@@ -41,12 +106,46 @@ const KoboBook* KoboContents::book(const std::string& id) const {
     return found == books_.end() ? nullptr : &found->second;
 }
 
-std::int64_t KoboContents::chapterIndex(const std::string& id) const {
-    auto found = chapters_.find(id);
-    if (found == chapters_.end()) {
-        found = chapters_.find(id.substr(0, id.find('#')));
+// Prefers the path's file to the bookmark's content, which may be the first chapter for all
+// bookmarks of a book. A file that is not in the database continues the chapter before it.
+KoboContents::Chapters::const_iterator KoboContents::chapterOf(
+    const KoboBookmark& bookmark) const {
+    const std::string_view file = fileIn(bookmark.path);
+    const std::string wanted = (bookmark.volume + '#').append(file);
+    const std::string folder =
+        wanted.substr(0, wanted.size() - file.size() + file.rfind('/') + 1);
+    const auto next = chapters_.upper_bound(wanted);
+    const bool isFound = !file.empty() && next != chapters_.begin() &&
+                         startsWith(std::prev(next)->first, folder);
+    return isFound ? std::prev(next) : chapters_.find(fileOf(bookmark.content));
+}
+
+// Adds the numbers in the file's name if the database does not have the file.
+std::string KoboContents::keyOfFile(const KoboBookmark& bookmark,
+                                    Chapters::const_iterator chapter) const {
+    const std::string_view file = fileIn(bookmark.path);
+    if (chapter == chapters_.end()) {
+        return keyOf(kNoIndex) + keyOfNumbers(file.empty() ? bookmark.content : file);
     }
-    return found == chapters_.end() ? 0 : found->second.index;
+    const bool isListed = endsWith(chapter->first, std::string("#").append(file));
+    return keyOf(chapter->second.index) + keyOfNumbers(isListed ? "" : file);
+}
+
+// "-" ends a list of numbers: it is less than the full stop before the next number.
+Place KoboContents::placeOf(const KoboBookmark& bookmark) const {
+    const auto chapter = chapterOf(bookmark);
+    const std::string_view path = bookmark.path;
+    const std::string_view position = path.substr(fileIn(path).size());
+    if (bookmark.content.empty() && path.empty()) {
+        return {};
+    }
+    Place place;
+    place.chapter = chapter == chapters_.end() ? "" : chapter->second.title;
+    place.order = "k." + keyOfFile(bookmark, chapter) + '-' +
+                  sortKeyOfFraction(bookmark.progress) + keyOfNumbers(position) + '-' +
+                  keyOf(bookmark.offset) + '-' +
+                  keyOf(parseIsoTime(bookmark.created).value_or(0));
+    return place;
 }
 
 }  // namespace client

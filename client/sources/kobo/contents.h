@@ -4,16 +4,24 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <unordered_map>
 
-#include "client/sources/kobo/read_limit.h"
+#include "client/collection/note.h"
+#include "client/sources/kobo/bookmark.h"
+#include "client/sources/kobo/rows.h"
 
 namespace client {
 
 struct KoboBook {
     std::string title;
     std::string author;
+};
+
+struct KoboChapter {
+    std::int64_t index;  // within its book
+    std::string title;
 };
 
 class KoboContents {
@@ -23,20 +31,21 @@ public:
     // Returns null if the database has no such book.
     const KoboBook* book(const std::string& id) const;
 
-    // Returns the chapter's number within its book, or 0. Ignores the part after a "#",
-    // which is a position in the chapter.
-    std::int64_t chapterIndex(const std::string& id) const;
+    // Returns the title of the chapter, and an order by chapter, progress, numbers of the
+    // path, offset and time. Empty if the bookmark names no part of the book.
+    Place placeOf(const KoboBookmark& bookmark) const;
 
 private:
-    struct Chapter {
-        std::int64_t index = 0;
-        int type = 0;
-    };
+    using Chapters = std::map<std::string, KoboChapter>;  // by file: "BOOK#part.html"
 
-    void addChapter(const std::string& id, const Chapter& chapter);
+    static void add(Chapters& chapters, const std::string& id, const KoboChapter& chapter);
+    void addHeadings(const Chapters& headings);
+    Chapters::const_iterator chapterOf(const KoboBookmark& bookmark) const;
+    std::string keyOfFile(const KoboBookmark& bookmark,
+                          Chapters::const_iterator chapter) const;
 
     std::unordered_map<std::string, KoboBook> books_;
-    std::unordered_map<std::string, Chapter> chapters_;
+    Chapters chapters_;
 };
 
 }  // namespace client

@@ -3,7 +3,6 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
-#include <deque>
 #include <filesystem>
 #include <new>
 #include <utility>
@@ -74,9 +73,7 @@ std::string pictureOf(const KoboBookmark& bookmark, const fs::path& database) {
 class Reader {
 public:
     Reader(SQLite::Database& database, std::string path, ReadLimit& limit)
-        : path_(std::move(path)),
-          contents_(database, limit),
-          bookmarks_(readBookmarks(database, contents_, limit)) {}
+        : path_(std::move(path)), contents_(database, limit), bookmarks_(database, limit) {}
 
     SourceContent read();
 
@@ -86,7 +83,7 @@ private:
 
     const std::string path_;
     const KoboContents contents_;
-    std::deque<WaitingBookmark> bookmarks_;
+    KoboBookmarks bookmarks_;
     BookShelf shelf_;
 };
 
@@ -101,19 +98,20 @@ ShelvedBook& Reader::bookOf(const KoboBookmark& bookmark) {
 void Reader::addNote(const KoboBookmark& bookmark) {
     Note note;
     note.uuid = bookmark.uuid.empty() ? bookmark.id : bookmark.uuid;
+    note.place = contents_.placeOf(bookmark);
+    note.place.chapter = withoutSpaces(note.place.chapter);
     note.color = colorOf(bookmark);
     note.text = withoutSpaces(bookmark.text);
     note.comment = withoutSpaces(bookmark.annotation);
     note.picture = pictureOf(bookmark, path_);
     note.time = timeOf(bookmark);
     bookOf(bookmark).add(std::move(note),
-                         {bookmark.type, bookmark.chapter, bookmark.created});
+                         {bookmark.type, bookmark.content, bookmark.created});
 }
 
 SourceContent Reader::read() {
     SourceContent content;
-    for (; !bookmarks_.empty(); bookmarks_.pop_front()) {
-        const KoboBookmark bookmark = bookmarks_.front().bookmark();
+    for (KoboBookmark bookmark; bookmarks_.next(bookmark);) {
         if (bookmark.volume.empty()) {
             content.skipped.add("the bookmark " + bookmark.id + " names no book");
         } else if (!isHidden(bookmark)) {
