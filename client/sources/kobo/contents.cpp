@@ -1,10 +1,10 @@
 #include "client/sources/kobo/contents.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <limits>
 #include <string_view>
-#include <utility>
 
 #include "client/text/affixes.h"
 #include "client/text/iso_time.h"
@@ -38,10 +38,13 @@ std::string_view fileIn(std::string_view path) {
     return path.substr(0, end == path.npos ? 0 : end);
 }
 
+// Collections store so much of a title or an order. Each note has its own copy.
+constexpr std::size_t kMaxBytes = 1000;
+
 // Returns an empty text if the title is only the name of a file.
-std::string titleIn(std::string title) {
+std::string titleIn(const std::string& title) {
     constexpr std::string_view kFiles[] = {".xhtml", ".html", ".htm", ".xml"};
-    return suffixLength(title, kFiles) == 0 ? std::move(title) : "";
+    return suffixLength(title, kFiles) == 0 ? title.substr(0, kMaxBytes) : "";
 }
 
 // Returns the key of the number, or of 0 if it is negative.
@@ -49,9 +52,9 @@ std::string keyOf(std::int64_t number) {
     return sortKey(static_cast<std::uint64_t>(std::max<std::int64_t>(number, 0)));
 }
 
-// Limits the key, because collections store 1,000 bytes of an order.
+// An order has at most two of these keys.
 std::string keyOfNumbers(std::string_view text) {
-    constexpr std::size_t kMax = 400;
+    constexpr std::size_t kMax = 2 * kMaxBytes / 5;
     return sortKeyOfNumbers(text.substr(0, kMax)).substr(0, kMax);
 }
 

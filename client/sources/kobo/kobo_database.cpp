@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <new>
+#include <unordered_map>
 #include <utility>
 
 #include "client/error.h"
@@ -12,7 +13,6 @@
 #include "client/sources/content/book_shelf.h"
 #include "client/sources/kobo/bookmark.h"
 #include "client/sources/kobo/contents.h"
-#include "client/sources/kobo/read_limit.h"
 #include "client/sources/kobo/schema.h"
 #include "client/text/affixes.h"
 #include "client/text/iso_time.h"
@@ -78,21 +78,27 @@ public:
     SourceContent read();
 
 private:
-    ShelvedBook& bookOf(const KoboBookmark& bookmark);
+    ShelvedBook& bookOf(const std::string& volume);
     void addNote(const KoboBookmark& bookmark);
 
     const std::string path_;
     const KoboContents contents_;
     KoboBookmarks bookmarks_;
     BookShelf shelf_;
+    std::unordered_map<std::string, ShelvedBook*> books_;  // by volume
 };
 
-// A book without a title in the database is named after its file.
-ShelvedBook& Reader::bookOf(const KoboBookmark& bookmark) {
-    const KoboBook* book = contents_.book(bookmark.volume);
-    return book != nullptr && !book->title.empty()
-               ? shelf_.book(book->title, book->author)
-               : shelf_.book(fs::path(bookmark.volume).filename().string(), "");
+// A book without a title in the database is named after its file. The hash of a title is
+// only computed once, because the title may be long.
+ShelvedBook& Reader::bookOf(const std::string& volume) {
+    ShelvedBook*& shelved = books_[volume];
+    if (shelved == nullptr) {
+        const KoboBook* book = contents_.book(volume);
+        shelved = book != nullptr && !book->title.empty()
+                      ? &shelf_.book(book->title, book->author)
+                      : &shelf_.book(fs::path(volume).filename().string(), "");
+    }
+    return *shelved;
 }
 
 void Reader::addNote(const KoboBookmark& bookmark) {
@@ -105,8 +111,8 @@ void Reader::addNote(const KoboBookmark& bookmark) {
     note.comment = withoutSpaces(bookmark.annotation);
     note.picture = pictureOf(bookmark, path_);
     note.time = timeOf(bookmark);
-    bookOf(bookmark).add(std::move(note),
-                         {bookmark.type, bookmark.content, bookmark.created});
+    bookOf(bookmark.volume)
+        .add(std::move(note), {bookmark.type, bookmark.content, bookmark.created});
 }
 
 SourceContent Reader::read() {
