@@ -1,4 +1,5 @@
-// SQL for the database of a Kobo reader with one book and some bookmarks, which are changed.
+// SQL for the database of a Kobo reader with one book and some bookmarks, which are
+// changed.
 #pragma once
 
 #include <string>
@@ -12,6 +13,7 @@ inline std::string koboDatabase(std::initializer_list<const char*> changes) {
             ChapterIDBookmarked);
         INSERT INTO content VALUES ('v', 6, 'Emma', 'Jane Austen', -1, NULL),
             ('v!1', 9, 'Chapter 1', NULL, 1, NULL), ('v!2', 9, 'Chapter 2', NULL, 2, NULL),
+            ('v!7', 9, 'Seven', NULL, NULL, NULL), ('v!20', 9, 'Twenty', NULL, NULL, NULL),
             ('v#(1)a/cover.html', 9, 'Cover', NULL, 0, NULL),
             ('v#(3)a/x3.html', 9, 'Chapter 3', NULL, 3, NULL),
             ('v#(10)a/x10.html', 9, 'Chapter 10', NULL, 10, NULL),

@@ -87,6 +87,8 @@ TEST(KoboBookmark, FollowsThoseBeforeItInTheBook) {
         {"chapters of paths", "StartContainerPath = 'a/x3.html#point(/1)'",
          "StartContainerPath = 'a/x10.html#point(/1)', ChapterProgress = 0"},
         {"an unknown chapter", "ContentID = 'v!2'", "ContentID = 'v!1.2'"},
+        {"chapters without a number", "ContentID = 'v!7'",
+         "ContentID = 'v!20', ChapterProgress = 0"},
         {"unknown files", "ContentID = 'v!x9'", "ContentID = 'v!x10', ChapterProgress = 0"},
         {"files that a chapter goes on in", "StartContainerPath = 'a/x3.html#point(/9)'",
          "StartContainerPath = 'a/x3_2.html#point(/1)', ChapterProgress = 0"},

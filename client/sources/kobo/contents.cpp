@@ -25,17 +25,17 @@ constexpr std::int64_t kNoIndex = std::numeric_limits<std::int64_t>::max();
 // "BOOK#(12)part.html" gives "BOOK#part.html", and "BOOK!!part.html#p2" "BOOK!!part.html".
 std::string fileOf(std::string id) {
     const std::size_t name = id.find_last_of("/!)");
-    id.resize(std::min(id.size(), id.find('#', name == id.npos ? 0 : name)));
+    id.resize(std::min(id.size(), id.find('#', name == std::string::npos ? 0 : name)));
     const std::size_t number = id.find("#(");
     const std::size_t end = id.find(')', number);
-    return end == id.npos ? id : id.erase(number + 1, end - number);
+    return end == std::string::npos ? id : id.erase(number + 1, end - number);
 }
 
 // Returns the file of a path such as "part.html#point(/1/4:550)", which only books without
 // the identifiers of Kobo have, or else an empty text.
 std::string_view fileIn(std::string_view path) {
     const std::size_t end = path.find("#point(");
-    return path.substr(0, end == path.npos ? 0 : end);
+    return path.substr(0, end == std::string_view::npos ? 0 : end);
 }
 
 // Collections store so much of a title or an order. Each note has its own copy.
@@ -123,11 +123,11 @@ KoboContents::Chapters::const_iterator KoboContents::chapterOf(
     return isFound ? std::prev(next) : chapters_.find(fileOf(bookmark.content));
 }
 
-// Adds the numbers in the file's name if the database does not have the file.
+// Adds the numbers in the file's name if the database does not have the file or its index.
 std::string KoboContents::keyOfFile(const KoboBookmark& bookmark,
                                     Chapters::const_iterator chapter) const {
     const std::string_view file = fileIn(bookmark.path);
-    if (chapter == chapters_.end()) {
+    if (chapter == chapters_.end() || chapter->second.index == kNoIndex) {
         return keyOf(kNoIndex) + keyOfNumbers(file.empty() ? bookmark.content : file);
     }
     const bool isListed = endsWith(chapter->first, std::string("#").append(file));
@@ -136,12 +136,12 @@ std::string KoboContents::keyOfFile(const KoboBookmark& bookmark,
 
 // "-" ends a list of numbers: it is less than the full stop before the next number.
 Place KoboContents::placeOf(const KoboBookmark& bookmark) const {
+    if (bookmark.content.empty() && bookmark.path.empty()) {
+        return {};
+    }
     const auto chapter = chapterOf(bookmark);
     const std::string_view path = bookmark.path;
     const std::string_view position = path.substr(fileIn(path).size());
-    if (bookmark.content.empty() && path.empty()) {
-        return {};
-    }
     Place place;
     place.chapter = chapter == chapters_.end() ? "" : chapter->second.title;
     place.order = "k." + keyOfFile(bookmark, chapter) + '-' +
