@@ -17,7 +17,9 @@ void addLoad(CommandLine& commandLine) {
                                        request->displayRoot = commandLine.folder;
                                        load(*request);
                                    });
-    loading.add_option("FILE", request->files, "Files of any kind that can be loaded")
+    loading
+        .add_option("FILE", request->files,
+                    "Files of any kind that can be loaded, and .sdr folders")
         ->transform(callersPath())
         ->required();
     loading.add_option("--pages", request->pages, "Then export all books into this folder")

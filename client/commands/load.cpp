@@ -1,11 +1,38 @@
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
 #include "client/collection/collection_folder.h"
 #include "client/collection/loading.h"
 #include "client/commands/batch.h"
 #include "client/commands/commands.h"
 #include "client/sources/source.h"
+#include "client/text/affixes.h"
 
 namespace client {
+
+namespace fs = std::filesystem;
+
 namespace {
+
+// Returns the sidecars in a folder "Emma.sdr"; any other path, and that of a folder without
+// sidecars, as it is.
+std::vector<std::string> filesAt(const fs::path& path) {
+    std::vector<std::string> files;
+    const fs::path folder = path.has_filename() ? path : path.parent_path();
+    std::error_code failure;
+    if (folder.extension() == ".sdr") {
+        for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
+             entry.increment(failure)) {
+            const std::string name = entry->path().filename().string();
+            if (startsWith(name, "metadata.") && endsWith(name, ".lua")) {
+                files.push_back(entry->path().string());
+            }
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files.empty() ? std::vector<std::string>{path.string()} : files;
+}
 
 std::string keptNotes(const FirstFew& notes) {
     return notes.isEmpty()
@@ -32,7 +59,12 @@ bool loadFiles(const std::vector<std::string>& files) {
 }  // namespace
 
 void load(const LoadRequest& request) {
-    const bool isLoaded = loadFiles(request.files);
+    std::vector<std::string> files;
+    for (const std::string& path : request.files) {
+        const std::vector<std::string> found = filesAt(path);
+        files.insert(files.end(), found.begin(), found.end());
+    }
+    const bool isLoaded = loadFiles(files);
     if (!request.pages.empty() && collectionExists()) {
         ExportRequest pages;
         pages.target = {request.pages, "", false, request.displayRoot};

@@ -10,6 +10,7 @@
 #include "client/sources/device_file/device_file.h"
 #include "client/sources/exported_page/exported_page.h"
 #include "client/sources/kobo/kobo_database.h"
+#include "client/sources/koreader/sidecar.h"
 #include "client/sources/w3c/annotation_set.h"
 
 namespace client {
@@ -26,6 +27,7 @@ struct Source {
 
 // The first kind that recognises a file reads it.
 constexpr std::array kSources = {
+    Source{"a KOReader sidecar", isSidecar, readSidecar},
     Source{"an exported page", isExportedPage, readExportedPage},
     Source{"clippings", isClippings, readClippings},
     Source{"a Kobo reader's database", isKoboDatabase, readKoboDatabase},

@@ -13,15 +13,7 @@
 namespace client {
 namespace {
 
-// Reads the file again, because parsing changes the text.
-std::string placeIn(const std::string& path, std::size_t offset) {
-    const std::string before = readStart(path, offset);
-    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
-    const std::size_t column = before.size() - (before.rfind('\n') + 1) + 1;
-    return "line " + std::to_string(line) + ", column " + std::to_string(column);
-}
-
-// Builds a document, but none that is nested deep, because each level takes memory.
+// Builds a document, but none that is nested too deep.
 class Builder : public JsonDocument {
 public:
     // Returns false if the text is not JSON, or nested too deep.
@@ -44,10 +36,7 @@ public:
     }
 
 private:
-    bool enter() {
-        constexpr int kMaxDepth = 1000;
-        return ++depth_ <= kMaxDepth;
-    }
+    bool enter() { return ++depth_ <= kMaxJsonDepth; }
 
     host::JsonReader reader_;
     int depth_ = 0;
@@ -85,6 +74,31 @@ JsonDocument parseJson(std::string& text, const std::string& path) {
     JsonDocument json;
     json.Swap(builder);
     return json;
+}
+
+// Reads the file again, because parsing changes the text.
+std::string placeIn(const std::string& path, std::size_t offset) {
+    const std::string before = readStart(path, offset);
+    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+    const std::size_t column = before.size() - (before.rfind('\n') + 1) + 1;
+    return "line " + std::to_string(line) + ", column " + std::to_string(column);
+}
+
+const JsonValue& memberOf(const JsonValue& value, const char* name) {
+    static const JsonValue kNull;
+    if (value.IsObject()) {
+        for (auto member = value.MemberEnd(); member != value.MemberBegin();) {
+            if (textIn((--member)->name) == name) {
+                return member->value;
+            }
+        }
+    }
+    return kNull;
+}
+
+std::string_view textIn(const JsonValue& value) {
+    return value.IsString() ? std::string_view(value.GetString(), value.GetStringLength())
+                            : std::string_view();
 }
 
 }  // namespace client

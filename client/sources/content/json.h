@@ -3,7 +3,9 @@
 
 #include <rapidjson/document.h>
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "dump/json_sax.h"
 
@@ -19,5 +21,18 @@ using JsonValue = JsonDocument::ValueType;
 // document are in `text`, which is changed and must outlive it. Throws UserError with the
 // line and the column if the text is not JSON, or nested too deep.
 JsonDocument parseJson(std::string& text, const std::string& path);
+
+// Each level of a document takes memory, so none is nested deeper.
+inline constexpr int kMaxJsonDepth = 1000;
+
+// Returns the line and the column of a byte of the file, for messages.
+std::string placeIn(const std::string& path, std::size_t offset);
+
+// Returns the last member of an object with this name; null if there is none, or if the
+// value is not an object.
+const JsonValue& memberOf(const JsonValue& value, const char* name);
+
+// Returns the text; empty if the value is not a text.
+std::string_view textIn(const JsonValue& value);
 
 }  // namespace client

@@ -11,10 +11,6 @@
 namespace client {
 namespace {
 
-std::string_view textIn(const JsonValue& value) {
-    return {value.GetString(), value.GetStringLength()};
-}
-
 // Takes 100.0 for an integer, as some programs write it.
 std::optional<std::int64_t> integerIn(const JsonValue& value) {
     constexpr double kEnd = 9223372036854775808.0;  // 2^63

@@ -3,7 +3,6 @@
 #include <rapidjson/stringbuffer.h>
 
 #include <algorithm>
-#include <string_view>
 #include <vector>
 
 namespace client {
@@ -16,10 +15,6 @@ using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, host::ThrowingA
 using Writer = host::JsonWriter<Buffer>;
 using Member = JsonValue::Member;
 
-std::string_view nameOf(const Member& member) {
-    return {member.name.GetString(), member.name.GetStringLength()};
-}
-
 std::vector<const Member*> sortedMembers(const JsonValue& object) {
     std::vector<const Member*> members;
     members.reserve(object.MemberCount());
@@ -27,7 +22,7 @@ std::vector<const Member*> sortedMembers(const JsonValue& object) {
         members.push_back(&member);
     }
     std::stable_sort(members.begin(), members.end(), [](const Member* a, const Member* b) {
-        return nameOf(*a) < nameOf(*b);
+        return textIn(a->name) < textIn(b->name);
     });
     return members;
 }

@@ -1,23 +1,6 @@
 #include "client/sources/w3c/json_ld.h"
 
 namespace client {
-namespace {
-
-const JsonValue kNull;
-
-std::string text(const JsonValue& value) {
-    return {value.GetString(), value.GetStringLength()};
-}
-
-}  // namespace
-
-const JsonValue& memberOf(const JsonValue& value, const char* name) {
-    if (!value.IsObject()) {
-        return kNull;
-    }
-    const auto member = value.FindMember(name);
-    return member == value.MemberEnd() ? kNull : member->value;
-}
 
 std::vector<const JsonValue*> elementsOf(const JsonValue& value) {
     std::vector<const JsonValue*> elements;
@@ -33,16 +16,10 @@ std::vector<const JsonValue*> elementsOf(const JsonValue& value) {
 }
 
 std::string textOf(const JsonValue& value) {
-    if (value.IsString()) {
-        return text(value);
-    }
-    if (const JsonValue& plain = memberOf(value, "@value"); plain.IsString()) {
-        return text(plain);
-    }
-    const bool hasLanguages = value.IsObject() && value.MemberCount() > 0;
-    return hasLanguages && value.MemberBegin()->value.IsString()
-               ? text(value.MemberBegin()->value)
-               : std::string();
+    const JsonValue& plain = value.IsString() ? value : memberOf(value, "@value");
+    const bool isOfLanguage =
+        !plain.IsString() && value.IsObject() && value.MemberCount() > 0;
+    return std::string(textIn(isOfLanguage ? value.MemberBegin()->value : plain));
 }
 
 }  // namespace client

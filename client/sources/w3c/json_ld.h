@@ -8,9 +8,6 @@
 
 namespace client {
 
-// Returns the member of an object; null if there is none, or if the value is not an object.
-const JsonValue& memberOf(const JsonValue& value, const char* name);
-
 // Returns the elements of an array; the value itself if it is not an array, none if it is
 // null.
 std::vector<const JsonValue*> elementsOf(const JsonValue& value);
