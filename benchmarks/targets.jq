@@ -9,8 +9,8 @@
    "ratio/base64ToOpenSsl/400000": 1.25, "ratio/hostExportToFloorAsAsked/10000": 1.7, "ratio/hostExportToFloorInOneGo/10000": 3.7,
    "ratio/hostImportToFloor/10000": 1.6, "ratio/loadClippingsToDeviceFile/100000": 1.5,
    "ratio/loadKoboToDeviceFile/100000": 1.5, "ratio/loadAnnotationsToDeviceFile/100000": 1.5,
-   "ratio/exportAllToOneByOne/400": 1.25, "ratio/updateToExportAll/400": 0.2,
-   "ratio/readingOrderToExport/100000": 0.2} as $limits
+   "ratio/loadSidecarToDeviceFile/100000": 1.5, "ratio/readingOrderToExport/100000": 0.2,
+   "ratio/exportAllToOneByOne/400": 1.25, "ratio/updateToExportAll/400": 0.2} as $limits
 | [
   ($limits | keys[] | time(.) | empty),  # each of them was measured
   (["memory", "file"][] as $where | [1000, 100000][] as $n | "render/\($where)" as $name

@@ -127,6 +127,8 @@ BENCHMARK_CAPTURE(ratio, loadKoboToDeviceFile, load<kKoboDatabase>, loadDeviceFi
     ->Arg(100000);
 BENCHMARK_CAPTURE(ratio, loadAnnotationsToDeviceFile, load<kAnnotationSet>, loadDeviceFile)
     ->Arg(100000);
+BENCHMARK_CAPTURE(ratio, loadSidecarToDeviceFile, load<kSidecar>, loadDeviceFile)
+    ->Arg(100000);
 BENCHMARK_CAPTURE(ratio, readingOrderToExport, orderForReading, exportBook)->Arg(100000);
 BENCHMARK_CAPTURE(ratio, exportAllToOneByOne, exportAll, exportOneByOne)->Arg(400);
 BENCHMARK_CAPTURE(ratio, updateToExportAll, updateAll, exportAll)->Arg(400);

@@ -74,6 +74,18 @@ void writeAnnotationSet(std::size_t notes) {
     file << "]}";
 }
 
+void writeSidecar(std::size_t notes) {
+    std::ofstream file(kSidecar);
+    file << R"(return {["annotations"] = {)";
+    for (std::size_t note = 1; note <= notes; ++note) {
+        file << '[' << note << R"(] = {["color"] = "yellow", ["drawer"] = "lighten",)"
+             << R"(["datetime"] = "2026-03-07 09:05:01", ["pageno"] = )" << note
+             << R"(, ["pos0"] = "/body/DocFragment[1]/body/p[)" << note
+             << R"(]/text().0", ["text"] = )" << quoted(sampleText(note - 1)) << "},\n";
+    }
+    file << R"(}, ["doc_props"] = {["title"] = "Book 0", ["authors"] = "Author"}})";
+}
+
 void writeKoboDatabase(std::size_t books, std::size_t notes) {
     SQLite::Database database(kKoboDatabase, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     SQLite::Transaction transaction(database);
@@ -121,6 +133,7 @@ void enterNoteFiles(std::size_t books, std::size_t notes) {
         writeDeviceFile(books, notes);
         writeClippings(books, notes);
         writeAnnotationSet(notes);
+        writeSidecar(notes);
         writeKoboDatabase(books, notes);
     }
 }
