@@ -61,9 +61,11 @@ public:
     SourceContent read();
 
 private:
-    std::vector<SidecarEntry> entriesOf(const JsonValue& list, const std::string& name,
-                                        const SidecarTexts& texts,
-                                        std::optional<double> page = {});
+    // Calls `visit` with each entry of a list, and reports those without a position.
+    template <class Visit>
+    void eachEntry(const JsonValue& list, const std::string& name,
+                   const SidecarTexts& texts, std::optional<double> page,
+                   const Visit& visit);
     void addOldLists();
     void add(const SidecarEntry& entry);
 
@@ -81,18 +83,17 @@ Reader::Reader(const JsonValue& sidecar, const std::string& path)
     title_ = title_.empty() ? nameIn(path) : title_;
 }
 
-std::vector<SidecarEntry> Reader::entriesOf(const JsonValue& list, const std::string& name,
-                                            const SidecarTexts& texts,
-                                            std::optional<double> page) {
-    std::vector<SidecarEntry> entries;
+template <class Visit>
+void Reader::eachEntry(const JsonValue& list, const std::string& name,
+                       const SidecarTexts& texts, std::optional<double> page,
+                       const Visit& visit) {
     for (const auto& [number, json] : numberedIn(list)) {
         if (auto entry = parseEntry(*json, texts, page)) {
-            entries.push_back(std::move(*entry));
+            visit(*entry);
         } else {
             content_.skipped.add(name + '[' + decimal(number) + "]: no position");
         }
     }
-    return entries;
 }
 
 void Reader::add(const SidecarEntry& entry) {
@@ -104,10 +105,8 @@ SourceContent Reader::read() {
     if (annotations.IsNull()) {
         addOldLists();
     }
-    for (const SidecarEntry& entry :
-         entriesOf(annotations, "annotations", {"text", "note"})) {
-        add(entry);
-    }
+    eachEntry(annotations, "annotations", {"text", "note"}, std::nullopt,
+              [this](const SidecarEntry& entry) { add(entry); });
     content_.books = shelf_.take();
     return std::move(content_);
 }
@@ -115,7 +114,7 @@ SourceContent Reader::read() {
 // Finds the bookmarks of passages, which share a time or a position.
 class Bookmarks {
 public:
-    explicit Bookmarks(std::vector<SidecarEntry> entries);
+    void add(SidecarEntry& entry);
 
     // Removes the passage's bookmark, and returns its comment.
     std::string take(const SidecarEntry& passage);
@@ -128,19 +127,17 @@ private:
     std::unordered_map<std::string, std::size_t> indices_;
 };
 
-Bookmarks::Bookmarks(std::vector<SidecarEntry> entries) {
-    entries_.reserve(entries.size());
-    for (SidecarEntry& entry : entries) {
-        if (isMadeUp(entry.note.comment)) {
-            entry.note.comment.clear();
-        }
-        indices_.emplace(entry.datetime, entries_.size());
-        if (entry.isPassage) {
-            indices_.emplace(entry.position, entries_.size());
-        }
-        entries_.emplace_back(std::move(entry));
+void Bookmarks::add(SidecarEntry& entry) {
+    if (isMadeUp(entry.note.comment)) {
+        entry.note.comment.clear();
     }
-    indices_.erase("");  // bookmarks without a time
+    if (!entry.datetime.empty()) {
+        indices_.emplace(entry.datetime, entries_.size());
+    }
+    if (entry.isPassage) {
+        indices_.emplace(entry.position, entries_.size());
+    }
+    entries_.emplace_back(std::move(entry));
 }
 
 std::string Bookmarks::take(const SidecarEntry& passage) {
@@ -154,14 +151,15 @@ std::string Bookmarks::take(const SidecarEntry& passage) {
 }
 
 void Reader::addOldLists() {
-    Bookmarks bookmarks(
-        entriesOf(memberOf(sidecar_, "bookmarks"), "bookmarks", {"notes", "text"}));
+    Bookmarks bookmarks;
+    eachEntry(memberOf(sidecar_, "bookmarks"), "bookmarks", {"notes", "text"}, std::nullopt,
+              [&](SidecarEntry& entry) { bookmarks.add(entry); });
     for (const auto& [page, list] : numberedIn(memberOf(sidecar_, "highlight"))) {
-        const std::string name = "highlight[" + decimal(page) + ']';
-        for (SidecarEntry& passage : entriesOf(*list, name, {"text", ""}, page)) {
-            passage.note.comment = bookmarks.take(passage);
-            add(passage);
-        }
+        eachEntry(*list, "highlight[" + decimal(page) + ']', {"text", ""}, page,
+                  [&](SidecarEntry& passage) {
+                      passage.note.comment = bookmarks.take(passage);
+                      add(passage);
+                  });
     }
     for (const auto& bookmark : bookmarks.others()) {
         if (bookmark) {
