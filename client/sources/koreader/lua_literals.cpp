@@ -81,7 +81,7 @@ void LuaLiterals::expect(const char* token, const char* what) {
 }
 
 void LuaLiterals::expectEnd() {
-    if (isNext(""), !rest().empty()) {
+    if (!isNext("") || !rest().empty()) {
         fail("expected the end of the file.");
     }
 }
