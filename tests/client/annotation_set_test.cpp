@@ -51,6 +51,42 @@ TEST(Annotation, BecomesNote) {
     });
 }
 
+TEST(Annotation, HasPlace) {
+    const ScratchDirectory scratch;
+    const NamedCase cases[] = {
+        {"last heading",
+         R"({"meta": {"headings": ["a", {"level": 1, "txt": "b"}, {"level": 2}]}})",
+         "||b|\n"},
+        {"one heading", R"({"meta": {"headings": {"title": {"en": "a"}}}})", "||a|\n"},
+        {"CFI", R"j({"selector": {"value": "epubcfi(/6/4[c1]!/4[b^]2]/3:10)"}})j",
+         "|||c.0000000006.0000000004.0000000004.0000000003.0000000010\n"},
+        {"range of CFIs",
+         R"j({"selector": [{}, {"value": "#epubcfi(/6!/4[a,b],/2:1,/2:9)"}]})j",
+         "|||c.0000000006.0000000004.0000000002.0000000001\n"},
+        {"progressions",
+         R"({"selector": {"type": "ProgressionSelector", "value": 0.25}}},
+            {"target": {"selector": {"value": "progression=0.5"}}},
+            {"target": {"meta": {"progression": 1}})",
+         "|||p.0250000\n|||p.0500000\n|||p.1000000\n"},
+        {"the kind that most have",
+         R"j({"selector": {"value": "epubcfi(/6!/4)"}, "meta": {"progression": 1}}},
+            {"target": {"meta": {"progression": 0}})j",
+         "|||p.1000000\n|||p.0000000\n"},
+        {"files of a book",
+         R"({"source": "a10", "meta": {"progression": 1}}},
+            {"target": {"source": {"id": "b"}, "meta": {"progression": 0}})",
+         "|||p.0000000010.a10.1000000\n|||p.b.0000000\n"},
+        {"files, and CFIs of a file and of the book",
+         R"j({"source": "a", "selector": {"value": "epubcfi(/4:2)"}}},
+            {"target": {"source": "b", "selector": {"value": "epubcfi(/6!/4)"}})j",
+         "|||c.a.0000000004.0000000002\n|||c.0000000006.0000000004\n"},
+    };
+    expectEach(cases, [](const std::string& target) {
+        return shownNotes(R"({"label": "E", "items": [{"target": )" + target + "}]}",
+                          [](const client::Note& note) { return show(note.place); });
+    });
+}
+
 TEST(AnnotationSet, NamesItsBook) {
     const ScratchDirectory scratch;
     const Case cases[] = {

@@ -12,6 +12,7 @@
 #include "client/sources/content/json.h"
 #include "client/sources/w3c/annotation.h"
 #include "client/sources/w3c/json_ld.h"
+#include "client/sources/w3c/orders.h"
 #include "client/sources/w3c/twins.h"
 #include "client/text/affixes.h"
 
@@ -96,8 +97,10 @@ private:
 
 SourceContent Reader::read(const std::vector<const JsonValue*>& items) {
     SourceContent content;
+    const Orders orders(items);
     for (std::size_t i = 0; i < items.size(); ++i) {
         if (auto annotation = parseAnnotation(*items[i])) {
+            annotation->note.place.order = orders.of(*items[i]);
             addAnnotation(std::move(*annotation));
         } else {
             content.skipped.add("items[" + std::to_string(i) + "]: no target");
