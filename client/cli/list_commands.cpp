@@ -9,10 +9,12 @@
 namespace client {
 namespace {
 
-std::vector<std::string> formatNames() {
+std::vector<std::string> formatNames(bool areForBooks) {
     std::vector<std::string> names;
     for (const ListingFormat* format : kListingFormats) {
-        names.emplace_back(format->name);
+        if (!areForBooks || format->listBooks != nullptr) {
+            names.emplace_back(format->name);
+        }
     }
     return names;
 }
@@ -24,13 +26,13 @@ void setFormat(const ListingFormat*& chosen, const std::string& name) {
     }
 }
 
-void addFormat(CLI::App& command, const ListingFormat*& format) {
+void addFormat(CLI::App& command, const ListingFormat*& format, bool isForBooks) {
     command
         .add_option_function<std::string>(
             "--format", [&format](const std::string& name) { setFormat(format, name); },
             "Format of the list (default: lines)")
         ->type_name("FORMAT")
-        ->check(CLI::IsMember(formatNames()));
+        ->check(CLI::IsMember(formatNames(isForBooks)));
     command.add_flag_callback(
         "--json", [&format] { format = &kJsonFormat; }, "Same as --format json");
 }
@@ -40,7 +42,7 @@ void addBooks(CommandLine& commandLine) {
     CLI::App& books =
         addCommand(commandLine, "books", "List the books: hash, title, author",
                    CollectionNeed::MustExist, [format] { listBooks(**format); });
-    addFormat(books, *format);
+    addFormat(books, *format, true);
     books.footer(examples::kBooks);
 }
 
@@ -60,6 +62,10 @@ void listNotesAsAsked(const NotesRequest& request) {
     if (!request.pictures.path.empty() && request.format != &kMarkdownFormat) {
         throw CLI::ValidationError("--pictures", "only --format markdown shows pictures");
     }
+    if (request.format == &kAnnotationFormat && request.books.size() != 1) {
+        throw CLI::ValidationError("--format",
+                                   "annotations are of one BOOK, which must be named");
+    }
     listNotes(request);
 }
 
@@ -70,7 +76,7 @@ void addNotes(CommandLine& commandLine) {
                    CollectionNeed::MustExist, [request] { listNotesAsAsked(*request); });
     notes.add_option("BOOK", request->books,
                      "Hash or title of a book, or its start (default: all books)");
-    addFormat(notes, request->format);
+    addFormat(notes, request->format, false);
     addFilter(notes, request->filter);
     addOrder(notes, request->order);
     addPictures(notes, request->pictures);

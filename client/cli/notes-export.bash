@@ -73,7 +73,7 @@ _notes_export() {
             return
             ;;
         --note | --color | --since | --match) return ;;
-        --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown' -- "$current") ;;
+        --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown annotations' -- "$current") ;;
         --order) mapfile -t COMPREPLY < <(compgen -W 'reading id newest' -- "$current") ;;
         *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;
     esac

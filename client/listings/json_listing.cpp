@@ -1,75 +1,45 @@
 // Lists for programs: one array of objects on one line. Characters that control a terminal
 // are escaped, and bytes that are not UTF-8 become U+FFFD.
-#include <rapidjson/stringbuffer.h>
-
-#include <cstdint>
-#include <cstdio>
-
+#include "client/listings/json_stream.h"
 #include "client/listings/listing.h"
-#include "client/text/control_characters.h"
 #include "client/text/numbers.h"
-#include "dump/json_sax.h"
 
 namespace client {
 namespace {
 
-rapidjson::SizeType length(const std::string& text) {
-    return static_cast<rapidjson::SizeType>(text.size());
-}
-
-std::string escaped(unsigned code, std::string_view /*character*/) {
-    char escape[16];
-    static_cast<void>(std::snprintf(escape, sizeof escape, "\\u%04X", code));
-    return escape;
-}
+using Writer = JsonText;
 
 // The array, from its first bracket to the line end after its last.
 class Array {
 public:
-    explicit Array(std::ostream& out) : out_(out) { json_.StartArray(); }
+    explicit Array(std::ostream& out) : out_(out), stream_(out) {
+        stream_.json().StartArray();
+    }
 
     template <class Members>
     void add(const Members& members) {
-        json_.StartObject();
-        members(json_);
-        json_.EndObject();
-        flush();
+        stream_.json().StartObject();
+        members(stream_.json());
+        stream_.json().EndObject();
+        stream_.flush();
     }
 
     void end() {
-        json_.EndArray();
-        flush();
+        stream_.json().EndArray();
+        stream_.flush();
         out_ << '\n';
     }
 
-    using Buffer =
-        rapidjson::GenericStringBuffer<rapidjson::UTF8<>, host::ThrowingAllocator>;
-    using Writer = host::JsonWriter<Buffer>;
-
 private:
-    // Also escapes what the writer leaves; such characters are only within strings.
-    void flush() {
-        out_ << replaceControls({buffer_.GetString(), buffer_.GetSize()}, escaped);
-        buffer_.Clear();
-    }
-
     std::ostream& out_;
-    Buffer buffer_;
-    Writer json_{buffer_};
+    JsonStream stream_;
 };
-
-using Writer = Array::Writer;
-
-void writeText(Writer& json, const char* name, const std::string& text) {
-    json.Key(name);
-    json.String(text.data(), length(text));
-}
 
 void writePage(Writer& json, const Note& note) {
     json.Key("page");
     if (note.place.page) {
         const std::string digits = decimal(*note.place.page);
-        json.RawValue(digits.data(), length(digits), rapidjson::kNumberType);
+        json.RawValue(digits.data(), digits.size(), rapidjson::kNumberType);
     } else {
         json.Null();
     }

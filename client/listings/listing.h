@@ -43,6 +43,7 @@ struct NoteListingOptions {
 // A listing writes to `out`, which its constructor may already do.
 struct ListingFormat {
     const char* name;
+    // Null if the format is for notes only.
     std::unique_ptr<BookListing> (*listBooks)(std::ostream& out);
     std::unique_ptr<NoteListing> (*listNotes)(std::ostream& out,
                                               const NoteListingOptions& options);
@@ -64,9 +65,10 @@ extern const ListingFormat kLineFormat;
 extern const ListingFormat kJsonFormat;
 extern const ListingFormat kCsvFormat;
 extern const ListingFormat kMarkdownFormat;
+extern const ListingFormat kAnnotationFormat;  // for the notes of one book
 
-inline constexpr const ListingFormat* kListingFormats[] = {&kLineFormat, &kJsonFormat,
-                                                           &kCsvFormat, &kMarkdownFormat};
+inline constexpr const ListingFormat* kListingFormats[] = {
+    &kLineFormat, &kJsonFormat, &kCsvFormat, &kMarkdownFormat, &kAnnotationFormat};
 
 inline std::string pageText(const Note& note) {
     return note.place.page ? decimal(*note.place.page) : std::string();

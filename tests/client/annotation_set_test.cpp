@@ -1,8 +1,12 @@
 // Annotation sets, of the draft and of older collections.
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <optional>
+#include <random>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "cases.h"
 #include "client/sources/w3c/color.h"
@@ -117,6 +121,54 @@ TEST(AnnotationSet, FaultIsNamedWithItsPlace) {
         {R"({"items": [)", "Cannot read sample as JSON: line 1, column 12: Invalid value."},
     };
     expectEach(cases, shownSample);
+}
+
+std::string annotationsOf(const client::Book& book, const client::Note& note) {
+    std::ostringstream out;
+    const auto listing = client::kAnnotationFormat.listNotes(out, {});
+    listing->startBook(book);
+    listing->add(note);
+    listing->end();
+    return out.str();
+}
+
+TEST(AnnotationSet, GivesItsNotesBack) {
+    const ScratchDirectory scratch;
+    const std::vector<std::string> texts = {
+        "",        "a\u2028b\u2029c\n\r\t", "\"\\%41 \u202e\x1b", std::string("\0;", 2),
+        "; #ff00", "\U0010FFFF\uFFFE"};
+    const std::vector<std::string> uuids = {"7A1e7fb0-5b1c-4d0e-8b0f-3a1d1c2b0002",
+                                            "7a1e7fb0-5b1c-4d0e-8b0f-3a1d1c2b000",
+                                            "7a1e7fb0-5b1c-4d0e-8b0f-3a1d1c2b000g",
+                                            "urn:uuid:1",
+                                            "urn:x-notes:%41",
+                                            "https://example.org/a%2F1?b#c",
+                                            "file:///a b",
+                                            "1:2",
+                                            "\xFF%41/\u00e9",
+                                            ":"};
+    const std::vector<double> pages = {0, 12.1, -1, 1e-9, 1e300};
+    const std::vector<std::int64_t> times = {0, -1, -62167219200, 1772841600, 253402300799};
+    std::mt19937 random;
+    const auto anyOf = [&](const auto& values) { return values[random() % values.size()]; };
+    for (int round = 0; round < 500; ++round) {
+        client::Note note;
+        note.uuid = anyOf(uuids);
+        note.text = anyOf(texts);
+        note.comment = anyOf(texts);
+        note.color = anyOf(texts);
+        note.place.chapter = anyOf(texts);
+        note.place.page = random() % 2 == 0 ? std::optional(anyOf(pages)) : std::nullopt;
+        note.time = anyOf(times);
+        const client::Book book = {"ab", anyOf(texts), anyOf(texts), anyOf(texts)};
+        const std::string set = annotationsOf(book, note);
+        const client::IncomingBook loaded = readSample(set).books.at(0);
+        const client::Note back = *loaded.notes.begin();
+        EXPECT_EQ(loaded.book.author, book.author);
+        EXPECT_EQ(loaded.book.title, nameOf(book)) << set;
+        EXPECT_EQ(show(back) + show(back.place), show(note) + show(note.place)) << set;
+        EXPECT_EQ(annotationsOf(book, back), set);
+    }
 }
 
 TEST(AnnotationColor, BecomesNearestName) {
