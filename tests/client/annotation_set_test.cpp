@@ -68,7 +68,7 @@ TEST(Annotation, HasPlace) {
          R"j({"selector": [{}, {"value": "#epubcfi(/6!/4[a,b],/2:1,/2:9)"}]})j",
          "|||c.0000000006.0000000004.0000000002.0000000001\n"},
         {"progressions",
-         R"({"selector": {"type": "ProgressionSelector", "value": 0.25}}},
+         R"({"source": "a", "selector": {"type": "ProgressionSelector", "value": 0.25}}},
             {"target": {"selector": {"value": "progression=0.5"}}},
             {"target": {"meta": {"progression": 1}})",
          "|||p.0250000\n|||p.0500000\n|||p.1000000\n"},

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "client/sources/w3c/json_ld.h"
 #include "client/sources/w3c/target.h"
@@ -26,14 +27,17 @@ std::string keyOfFile(const std::string& source) {
 
 Orders::Orders(const std::vector<const JsonValue*>& annotations) {
     std::ptrdiff_t moreCfis = 0;
-    std::optional<std::string> firstSource;
+    std::string firstSource;
     for (const JsonValue* annotation : annotations) {
         const JsonValue& target = targetOf(*annotation);
         moreCfis += cfiIn(target).empty() ? 0 : 1;
         moreCfis -= progressionIn(target).empty() ? 0 : 1;
-        const std::string source = sourceOf(target);
-        areWithinFiles_ |= source != firstSource.value_or(source);
-        firstSource = firstSource.value_or(source);
+        std::string source = sourceOf(target);
+        if (firstSource.empty()) {
+            firstSource = std::move(source);
+        } else {
+            areWithinFiles_ |= !source.empty() && source != firstSource;
+        }
     }
     areCfis_ = moreCfis >= 0;
 }

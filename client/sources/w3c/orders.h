@@ -1,7 +1,6 @@
 // The orders of a set's notes, of one kind, so that they can be compared.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
