@@ -31,7 +31,12 @@ void writeGenerator(JsonText& json) {
 void writeAbout(JsonText& json, const Book& book) {
     writeObject(json, "about", [&] {
         writeText(json, "dc:title", nameOf(book));
-        writeTextIfAny(json, "dc:creator", book.author);
+        if (!book.author.empty()) {
+            json.Key("dc:creator");
+            json.StartArray();
+            json.String(book.author.data(), length(book.author));
+            json.EndArray();
+        }
     });
 }
 

@@ -39,7 +39,7 @@ void writePage(Writer& json, const Note& note) {
     json.Key("page");
     if (note.place.page) {
         const std::string digits = decimal(*note.place.page);
-        json.RawValue(digits.data(), digits.size(), rapidjson::kNumberType);
+        json.RawValue(digits.data(), length(digits), rapidjson::kNumberType);
     } else {
         json.Null();
     }

@@ -17,7 +17,7 @@ std::string escaped(unsigned code, std::string_view /*character*/) {
 
 void writeText(JsonText& json, const char* name, const std::string& text) {
     json.Key(name);
-    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
+    json.String(text.data(), length(text));
 }
 
 // Also escapes what the writer leaves; such characters are only within strings.

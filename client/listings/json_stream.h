@@ -14,6 +14,10 @@ using JsonBuffer =
     rapidjson::GenericStringBuffer<rapidjson::UTF8<>, host::ThrowingAllocator>;
 using JsonText = host::JsonWriter<JsonBuffer>;
 
+inline rapidjson::SizeType length(const std::string& text) {
+    return static_cast<rapidjson::SizeType>(text.size());
+}
+
 void writeText(JsonText& json, const char* name, const std::string& text);
 
 // Characters that control a terminal are escaped, and bytes that are not UTF-8 become
