@@ -71,9 +71,9 @@ void listNotesAsAsked(const NotesRequest& request) {
 
 void addNotes(CommandLine& commandLine) {
     const auto request = std::make_shared<NotesRequest>();
-    CLI::App& notes =
-        addCommand(commandLine, "notes", "List notes: identifier, page, colour, text",
-                   CollectionNeed::MustExist, [request] { listNotesAsAsked(*request); });
+    CLI::App& notes = addCommand(
+        commandLine, "notes", "List notes: identifier, page or location, colour, text",
+        CollectionNeed::MustExist, [request] { listNotesAsAsked(*request); });
     notes.add_option("BOOK", request->books,
                      "Hash or title of a book, or its start (default: all books)");
     addFormat(notes, request->format, false);

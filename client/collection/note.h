@@ -30,4 +30,13 @@ struct Note {
     std::int64_t changeTime = 0;
 };
 
+// Returns "picture"; or "note" if it has a comment; or "highlight" if it has text; or else
+// "bookmark".
+inline std::string kindOf(const Note& note) {
+    return !note.picture.empty()   ? "picture"
+           : !note.comment.empty() ? "note"
+           : !note.text.empty()    ? "highlight"
+                                   : "bookmark";
+}
+
 }  // namespace client

@@ -38,15 +38,16 @@ class CsvNotes : public NoteListing {
 public:
     CsvNotes(std::ostream& out, const NoteListingOptions& /*options*/) : out_(out) {
         out_ << kByteOrderMark;
-        writeRow(out_,
-                 {"book", "author", "page", "colour", "text", "comment", "time", "uuid"});
+        writeRow(out_, {"book", "author", "page", "colour", "text", "comment", "time",
+                        "uuid", "location", "chapter"});
     }
 
     void startBook(const Book& book) override { book_ = book; }
 
     void add(const Note& note) override {
         writeRow(out_, {nameOf(book_), book_.author, pageText(note), note.color, note.text,
-                        note.comment, timeText(note), note.uuid});
+                        note.comment, timeText(note), note.uuid, locationText(note),
+                        note.place.chapter});
     }
 
 private:

@@ -2,7 +2,6 @@
 // are escaped, and bytes that are not UTF-8 become U+FFFD.
 #include "client/listings/json_stream.h"
 #include "client/listings/listing.h"
-#include "client/text/numbers.h"
 
 namespace client {
 namespace {
@@ -35,13 +34,13 @@ private:
     JsonStream stream_;
 };
 
-void writePage(Writer& json, const Note& note) {
-    json.Key("page");
-    if (note.place.page) {
-        const std::string digits = decimal(*note.place.page);
-        json.RawValue(digits.data(), length(digits), rapidjson::kNumberType);
-    } else {
+// An empty text becomes null.
+void writeNumber(Writer& json, const char* name, const std::string& digits) {
+    json.Key(name);
+    if (digits.empty()) {
         json.Null();
+    } else {
+        json.RawValue(digits.data(), length(digits), rapidjson::kNumberType);
     }
 }
 
@@ -56,7 +55,10 @@ void writeMembers(Writer& json, const Note& note) {
     json.Key("id");
     json.Uint64(note.id);
     writeText(json, "uuid", note.uuid);
-    writePage(json, note);
+    writeText(json, "kind", kindOf(note));
+    writeNumber(json, "page", pageText(note));
+    writeNumber(json, "location", locationText(note));
+    writeText(json, "chapter", note.place.chapter);
     writeText(json, "color", note.color);
     writeText(json, "text", note.text);
     writeText(json, "comment", note.comment);

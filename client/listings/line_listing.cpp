@@ -29,8 +29,8 @@ public:
     }
 
     void add(const Note& note) override {
-        out_ << start_ << note.id << '\t' << pageText(note) << '\t' << oneLine(note.color)
-             << '\t' << oneLine(note.text) << '\n';
+        out_ << start_ << note.id << '\t' << placeText(note, "", "loc. ") << '\t'
+             << oneLine(note.color) << '\t' << oneLine(note.text) << '\n';
     }
 
 private:

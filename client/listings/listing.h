@@ -74,6 +74,18 @@ inline std::string pageText(const Note& note) {
     return note.place.page ? decimal(*note.place.page) : std::string();
 }
 
+inline std::string locationText(const Note& note) {
+    return note.place.location ? std::to_string(*note.place.location) : std::string();
+}
+
+// Returns the page after its name, or else the location after its name; empty if the note
+// has neither.
+inline std::string placeText(const Note& note, const char* page, const char* location) {
+    return note.place.page       ? page + pageText(note)
+           : note.place.location ? location + locationText(note)
+                                 : std::string();
+}
+
 inline std::string timeText(const Note& note) {
     return note.time == 0 ? std::string() : isoTime(note.time);
 }

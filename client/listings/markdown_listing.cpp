@@ -19,7 +19,7 @@ std::string frontMatter(const Book& book) {
            "\nhash: " + quoted(book.hash) + "\n---\n\n";
 }
 
-// Returns the note's page, colour, picture and time, for the line below it.
+// Returns the note's place, colour, picture and time, for the line below it.
 std::string lastLine(const Note& note, bool hasHiddenPicture) {
     std::string result = "\u2014";
     const char* separator = " ";
@@ -27,7 +27,7 @@ std::string lastLine(const Note& note, bool hasHiddenPicture) {
         result += fact.empty() ? "" : separator + fact;
         separator = fact.empty() ? separator : ", ";
     };
-    add(note.place.page ? "page " + pageText(note) : "");
+    add(placeText(note, "page ", "location "));
     add(markdownLine(note.color));
     add(hasHiddenPicture ? "picture" : "");
     add(timeText(note));
@@ -65,11 +65,13 @@ private:
     bool severalBooks_;
     PictureFolder pictures_;
     std::string title_;           // of the book, for names of pictures
+    std::string chapter_;         // of the last heading
     const char* separator_ = "";  // between the parts of the document
 };
 
 void MarkdownNotes::startBook(const Book& book) {
     title_ = nameOf(book);
+    chapter_.clear();
     if (!severalBooks_) {
         out_ << frontMatter(book);
     }
@@ -78,7 +80,13 @@ void MarkdownNotes::startBook(const Book& book) {
     writePart(severalBooks_ ? markdownLine(book.hash) + '\n' : "");
 }
 
+// A note without a chapter stays under the last heading.
 void MarkdownNotes::add(const Note& note) {
+    const std::string& chapter = note.place.chapter;
+    if (!chapter.empty() && chapter != chapter_) {
+        writePart("## " + markdownLine(chapter) + '\n');
+        chapter_ = chapter;
+    }
     writePart(markdownParagraphs(note.text, "> "));
     const std::string link = pictures_.add(title_, note.picture);
     writePart(link.empty() ? "" : "![picture](" + link + ")\n");
