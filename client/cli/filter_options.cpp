@@ -26,6 +26,10 @@ void addFilter(CLI::App& command, NoteFilter& filter) {
             "Only notes of this colour; may be repeated")
         ->type_name("COLOR")
         ->allow_extra_args(false);
+    command.add_option("--kind", filter.kinds, "Only notes of this kind; may be repeated")
+        ->type_name("KIND")
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember({"highlight", "note", "bookmark", "picture"}));
     command
         .add_option_function<std::string>(
             "--since",

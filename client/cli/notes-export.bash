@@ -17,7 +17,7 @@ _notes_export_read_line() {
                 ((++i))
                 collection=$(_notes_export_plain "${COMP_WORDS[i]}")
                 ;;
-            --note | --order | --dir | -o | --format | --color | --since | --match | --pictures | --pages) ((++i)) ;;
+            --note | --order | --dir | -o | --format | --color | --kind | --since | --match | --pictures | --pages) ((++i)) ;;
             -*) ;;
             *)
                 if [[ -z $command ]]; then
@@ -46,8 +46,8 @@ _notes_export_books() {
 # Prints the words that may come next if that is not the value of an option.
 _notes_export_words() {
     local -A options=([books]='--format --json' [load]='--pages'
-        [notes]='--format --json --note --color --since --match --order --pictures'
-        [export]='--note --color --since --match --order --dir -o --new' [name]='--dir')
+        [notes]='--format --json --note --color --kind --since --match --order --pictures'
+        [export]='--note --color --kind --since --match --order --dir -o --new' [name]='--dir')
     if [[ -z $command && $1 == -* ]]; then
         compgen -W '-C --help --version' -- "$1"
     elif [[ -z $command ]]; then
@@ -74,6 +74,7 @@ _notes_export() {
             ;;
         --note | --color | --since | --match) return ;;
         --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown annotations' -- "$current") ;;
+        --kind) mapfile -t COMPREPLY < <(compgen -W 'highlight note bookmark picture' -- "$current") ;;
         --order) mapfile -t COMPREPLY < <(compgen -W 'reading id newest' -- "$current") ;;
         *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;
     esac

@@ -23,12 +23,13 @@ void NoteFilter::addColor(const std::string& color) { colors.push_back(caseFolde
 void NoteFilter::setMatch(const std::string& text) { match = caseFolded(text); }
 
 bool NoteFilter::isEmpty() const {
-    return ids.empty() && colors.empty() && !since && !match;
+    return ids.empty() && colors.empty() && !since && !match && kinds.empty();
 }
 
 bool NoteFilter::selects(const Note& note) const {
     return selectsId(note.id) && (!since || note.time >= *since) &&
            (colors.empty() || holds(colors, caseFolded(note.color))) &&
+           (kinds.empty() || holds(kinds, kindOf(note))) &&
            (!match || contains(note.text, *match) || contains(note.comment, *match));
 }
 

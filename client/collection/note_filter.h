@@ -16,6 +16,7 @@ struct NoteFilter {
     std::vector<std::string> colors;      // its colour is one of these; "" for none
     std::optional<std::int64_t> since;    // it was made then (Unix time) or later
     std::optional<std::string> match;     // its text or its comment contains this
+    std::vector<std::string> kinds = {};  // its kind (note.h) is one of these
 
     // Both case-fold their argument (case_folding.h).
     void addColor(const std::string& color);

@@ -44,6 +44,9 @@ std::string describe(const NoteFilter& filter, NoteOrder order) {
     for (const std::string& color : filter.colors) {
         text << " color " << std::quoted(color);
     }
+    for (const std::string& kind : filter.kinds) {
+        text << " kind " << kind;
+    }
     if (filter.since) {
         text << " since " << *filter.since;
     }
