@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "client/collection/loading.h"
+#include "client/collection/position.h"
 #include "client/error.h"
 #include "client/listings/listing.h"
 #include "client/sources/source.h"
@@ -30,10 +31,11 @@ inline std::string show(const client::Note& note) {
            '|' + note.comment + '|' + note.picture + '|' + client::timeText(note);
 }
 
+// Leaves out the number of the note in its file.
 inline std::string show(const client::Place& place) {
     const std::string location = place.location ? std::to_string(*place.location) : "";
     return (place.page ? client::decimal(*place.page) : "") + '|' + location + '|' +
-           place.chapter + '|' + place.order;
+           place.chapter + '|' + (client::isRank(place.order) ? "" : place.order);
 }
 
 // Adds a book with the notes to the collection.
