@@ -42,7 +42,7 @@ Decisive decisivePart(const std::vector<PlacedNote>& notes) {
 
 using Key = std::tuple<int, double, std::string_view>;
 
-const Key kNoKey(-1, 0, "");
+constexpr Key kNoKey(-1, 0, "");
 
 // Returns kNoKey if the note has no place that decides.
 Key keyOf(const PlacedNote& note, Decisive part) {

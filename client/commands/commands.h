@@ -35,7 +35,7 @@ struct NotesRequest {
     FolderForPictures pictures;
 };
 
-// Prints the selected notes of the books, in lines their identifier, page, colour and text,
+// Prints the selected notes of the books, in lines their identifier, place, colour and text,
 // separated by tabs; with several books, the hash of their book comes first.
 void listNotes(const NotesRequest& request);
 
