@@ -11,7 +11,7 @@ namespace client {
 // Adds the options, which set `filter`; it must live as long as the command.
 void addFilter(CLI::App& command, NoteFilter& filter);
 
-// The same for `order`.
+// Adds --order, which sets `order`; it must live as long as the command.
 void addOrder(CLI::App& command, NoteOrder& order);
 
 }  // namespace client

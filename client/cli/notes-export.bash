@@ -61,6 +61,7 @@ _notes_export_words() {
 
 _notes_export() {
     local command='' collection=. argument='' current=${COMP_WORDS[COMP_CWORD]}
+    local -A notes_formats=([notes]=annotations)
     COMPREPLY=()
     _notes_export_read_line
     case ${COMP_WORDS[COMP_CWORD - 1]} in
@@ -73,7 +74,7 @@ _notes_export() {
             return
             ;;
         --note | --color | --since | --match) return ;;
-        --format) mapfile -t COMPREPLY < <(compgen -W 'lines json csv markdown annotations' -- "$current") ;;
+        --format) mapfile -t COMPREPLY < <(compgen -W "lines json csv markdown ${notes_formats[$command]-}" -- "$current") ;;
         --kind) mapfile -t COMPREPLY < <(compgen -W 'highlight note bookmark picture' -- "$current") ;;
         --order) mapfile -t COMPREPLY < <(compgen -W 'reading id newest' -- "$current") ;;
         *) mapfile -t COMPREPLY < <(_notes_export_words "$current") ;;

@@ -28,8 +28,8 @@ bool isPosition(const TagRecord& tag) {
     return tag.tag == host::kAnchorTag || tag.tag == host::kRangeTag;
 }
 
-// Returns whether `complete` has all that the other position has.
-bool isComplete(const TagRecord& complete, const TagRecord& other) {
+// Returns whether `complete` has all parts of the other position.
+bool hasAllPartsOf(const TagRecord& complete, const TagRecord& other) {
     const std::string position = positionIn(complete);
     const std::string part = positionIn(other);
     const auto parts = partsOf(position);
@@ -42,7 +42,7 @@ bool isComplete(const TagRecord& complete, const TagRecord& other) {
 
 bool isEqual(const TagRecord& present, const TagRecord& loaded) {
     return (present.text == loaded.text && present.json == loaded.json) ||
-           (isPosition(loaded) && isComplete(present, loaded));
+           (isPosition(loaded) && hasAllPartsOf(present, loaded));
 }
 
 bool differs(const NoteRecord& present, const NoteRecord& loaded) {
@@ -101,8 +101,9 @@ void NoteLoader::merge(const NoteRecord& note) {
     host::MergedNote merged = store_.mergeNote(bookId_, note);
     if (!merged.complete) {
         const NoteRecord present = store_.note(merged.id).value();
-        merged.changed |= completePosition(merged.id, present, note);
-        if (differs(present, note)) {
+        const bool isCompleted = completePosition(merged.id, present, note);
+        merged.changed |= isCompleted;
+        if (differs(isCompleted ? store_.note(merged.id).value() : present, note)) {
             result_.kept.add(oneLine(note.uuid) + " of " + oneLine(book_.hash) + "  \"" +
                              oneLine(book_.title) + '"');
         }
@@ -118,7 +119,7 @@ bool NoteLoader::completePosition(std::int64_t id, const NoteRecord& present,
     for (const TagRecord& tag : loaded.tags) {
         const TagRecord* other = isPosition(tag) ? findTag(present, tag.tag) : nullptr;
         if (other != nullptr && other->timestamp == tag.timestamp &&
-            other->json != tag.json && isComplete(tag, *other)) {
+            other->json != tag.json && hasAllPartsOf(tag, *other)) {
             store_.replaceTag(id, tag);
             isChanged = true;
         }

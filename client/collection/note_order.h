@@ -12,8 +12,8 @@ namespace client {
 
 enum class NoteOrder { Reading, Id, Newest };
 
-// Returns the notes of the book with this hash; none if there is no such book. The newest
-// first, and those of one time in reading order.
+// Returns the notes of the book with this hash; none if there is no such book. Newest gives
+// the newest first, and notes of one time in reading order.
 std::vector<PlacedNote> notesInOrder(NoteOrder order, const std::string& bookHash,
                                      host::ReaderStore& store);
 

@@ -30,9 +30,12 @@ void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
 
 // Returns the member of a JSON text that json() gives; empty for other texts.
 std::string_view plainMember(std::string_view text, const char* member) {
-    const std::size_t start = std::strlen(member) + 5;
-    const std::string_view position =
-        text.substr(0, text.size() - 2).substr(std::min(start, text.size()));
+    const std::size_t start = json(member, "").size() - 2;
+    constexpr std::size_t kLongest = 4096;  // that the host platform reads
+    if (text.size() < start + 2 || text.size() > kLongest) {
+        return {};
+    }
+    const std::string_view position = text.substr(start, text.size() - start - 2);
     return text == json(member, std::string(position)) ? position : std::string_view();
 }
 
@@ -60,10 +63,11 @@ host::NoteRecord toRecord(Note note) {
     addText(record, host::kUuidTag, std::move(note.uuid), note.time);
     if (const std::string position = positionOf(note.place); !position.empty()) {
         // A rank is older than any known place.
-        const std::int64_t known =
+        const std::int64_t positionTime =
             isKnown(note.place) ? time : std::min<std::int64_t>(time, 0);
-        record.tags.push_back({host::kAnchorTag, "", json(kAnchor, position), known});
-        record.tags.push_back({host::kRangeTag, "", json(kBegin, position), known});
+        record.tags.push_back(
+            {host::kAnchorTag, "", json(kAnchor, position), positionTime});
+        record.tags.push_back({host::kRangeTag, "", json(kBegin, position), positionTime});
     }
     addText(record, host::kColorTag, std::move(note.color), time);
     addText(record, host::kTextTag, std::move(note.text), time);
@@ -82,9 +86,15 @@ std::string positionIn(const host::TagRecord& tag) {
 
 Place placeIn(const std::optional<std::string>& anchor,
               const std::optional<std::string>& range) {
-    Place place = placeAt(memberOf(anchor, kAnchor));
-    return place.page || place.location || !range ? place
-                                                  : placeAt(memberOf(range, kBegin));
+    const std::string position = memberOf(anchor, kAnchor);
+    Place place = placeAt(position);
+    if (!place.page && !place.location && range) {
+        const Place passage = placeAt(memberOf(range, kBegin));
+        place = position.empty() ? passage : place;
+        place.page = passage.page;
+        place.location = passage.location;
+    }
+    return place;
 }
 
 Note toNote(std::int64_t id, host::NoteRecord record) {

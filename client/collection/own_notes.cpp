@@ -33,9 +33,9 @@ DigestValue digestOf(const std::string& uuid, const TagRecord& tag,
     return digest.value();
 }
 
-// Calls `visit` with the digest of the tag's value, or of each part of a position: a later
-// version of this program may read more of them. Returns false at the first one for which
-// `visit` does.
+// Calls `visit` with the digest of the tag's value, or of each part of a position, so that
+// one that an earlier version stored with fewer parts still counts as given. Returns false
+// at the first one for which `visit` does.
 template <class Visit>
 bool eachValue(const std::string& uuid, const TagRecord& tag, const Visit& visit) {
     const std::string position = positionIn(tag);

@@ -3,19 +3,18 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <tuple>
+#include <utility>
 
 #include "client/collection/position.h"
 
 namespace client {
 namespace {
 
-// Calls `visit` with each text of the note.
-template <class AnyNote, class Visit>
-void eachText(AnyNote& note, const Visit& visit) {
-    for (auto* text : {&note.uuid, &note.place.chapter, &note.place.order, &note.color,
-                       &note.text, &note.comment, &note.picture}) {
-        visit(*text);
-    }
+template <class AnyNote>
+auto textsOf(AnyNote& note) {
+    return std::array{&note.uuid, &note.place.chapter, &note.place.order, &note.color,
+                      &note.text, &note.comment,       &note.picture};
 }
 
 // Precedes the note's texts.
@@ -25,7 +24,8 @@ struct Header {
     std::int64_t time;
     std::int64_t commentTime;
     std::int64_t changeTime;
-    std::array<std::uint32_t, 7> sizes;  // a text fits into a database
+    std::array<std::uint32_t, std::tuple_size_v<decltype(textsOf(std::declval<Note&>()))>>
+        sizes;  // a text fits into a database
     bool hasPage;
     bool hasLocation;
 };
@@ -41,9 +41,9 @@ Header headerOf(const Note& note) {
                   place.page.has_value(),
                   place.location.has_value()};
     auto* size = header.sizes.data();
-    eachText(note, [&](const std::string& text) {
-        *size++ = static_cast<std::uint32_t>(text.size());
-    });
+    for (const std::string* text : textsOf(note)) {
+        *size++ = static_cast<std::uint32_t>(text->size());
+    }
     return header;
 }
 
@@ -58,16 +58,18 @@ Header headerAt(const std::string& block, std::size_t offset) {
 void PackedNotes::add(Note note) {
     constexpr std::size_t kBlock = 65536;
     if (!isKnown(note.place)) {
-        note.place.order = rankOrder(size_);
+        note.place.order = rankOrder(count_);
     }
-    ++size_;
+    ++count_;
     const Header header = headerOf(note);
     if (blocks_.empty() || blocks_.back().size() >= kBlock) {
         blocks_.emplace_back();
     }
     std::string& block = blocks_.back();
     block.append(reinterpret_cast<const char*>(&header), sizeof header);
-    eachText(note, [&](const std::string& text) { block.append(text); });
+    for (const std::string* text : textsOf(note)) {
+        block.append(*text);
+    }
 }
 
 Note PackedNotes::Iterator::operator*() const {
@@ -85,10 +87,10 @@ Note PackedNotes::Iterator::operator*() const {
     note.changeTime = header.changeTime;
     std::size_t offset = offset_ + sizeof header;
     const auto* size = header.sizes.data();
-    eachText(note, [&](std::string& text) {
-        text.assign(block, offset, *size);
+    for (std::string* text : textsOf(note)) {
+        text->assign(block, offset, *size);
         offset += *size++;
-    });
+    }
     return note;
 }
 

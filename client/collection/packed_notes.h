@@ -36,7 +36,7 @@ public:
     Iterator end() const { return {*this, blocks_.size()}; }
 
 private:
-    std::size_t size_ = 0;
+    std::size_t count_ = 0;
     std::vector<std::string> blocks_;  // a string for each note would take a third more
 };
 

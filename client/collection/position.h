@@ -13,14 +13,14 @@ namespace client {
 // Returns the URI; empty if no part of the place is set. A long chapter or order is cut.
 std::string positionOf(const Place& place);
 
-// Returns the parts that a URI of any program names.
+// Reads the parameters that it knows from the URI of any program.
 Place placeAt(const std::string& position);
 
-// Returns the path and the parameters of the position, except a rank. They refer to it.
+// Returns the path and the parameters of the position, except a rank: views of it.
 std::vector<std::string_view> partsOf(std::string_view position);
 
-// Returns the order of a note whose place is not known, from its number in its file. It is
-// no place: notes that were made at the same time are in its order.
+// Returns the order of a note whose place is not known, from its number in its file. It
+// does not place the note, but orders the notes of one time.
 std::string rankOrder(std::size_t number);
 
 bool isRank(std::string_view order);

@@ -19,7 +19,7 @@ bool hasOrder(const PlacedNote& note) {
     return !note.place.order.empty() && !isRank(note.place.order);
 }
 
-std::string_view kindOf(const std::string& order) {
+std::string_view prefixOf(const std::string& order) {
     return std::string_view(order).substr(0, order.find('.'));
 }
 
@@ -32,7 +32,8 @@ Decisive decisivePart(const std::vector<PlacedNote>& notes) {
         }
         if (hasOrder(note)) {
             ordered = ordered == nullptr ? &note : ordered;
-            isOrder = isOrder && kindOf(note.place.order) == kindOf(ordered->place.order);
+            isOrder =
+                isOrder && prefixOf(note.place.order) == prefixOf(ordered->place.order);
         } else {
             isOrder = isOrder && !note.place.page;
         }
@@ -61,7 +62,7 @@ struct Entry {
     std::size_t index;
     const PlacedNote* note;
     Key key;
-    std::size_t place = 0;  // number of the placed note that it is or follows; 0 for none
+    std::size_t anchor = 0;  // number of the placed note that it is or follows; 0 for none
 
     bool hasKey() const { return key != kNoKey; }
     auto inBook() const {
@@ -69,7 +70,7 @@ struct Entry {
     }
     auto inTime() const {
         const std::string_view order = note->place.order;
-        return std::tuple(note->time, !hasKey(), place,
+        return std::tuple(note->time, !hasKey(), anchor,
                           isRank(order) ? order : std::string_view(),
                           std::string_view(note->uuid));
     }
@@ -97,18 +98,18 @@ std::vector<Entry> entriesOf(const std::vector<PlacedNote>& notes) {
 void sortForReading(std::vector<PlacedNote>& notes) {
     std::vector<Entry> entries = entriesOf(notes);
     sortBy([](const Entry& entry) { return entry.inBook(); }, entries);
-    std::size_t place = 0;
+    std::size_t anchor = 0;
     for (Entry& entry : entries) {
-        entry.place = entry.hasKey() ? ++place : 0;
+        entry.anchor = entry.hasKey() ? ++anchor : 0;
     }
     sortBy([](const Entry& entry) { return entry.inTime(); }, entries);
-    place = 0;
+    anchor = 0;
     for (Entry& entry : entries) {
-        place = entry.hasKey() ? entry.place : place;
-        entry.place = place;
+        anchor = entry.hasKey() ? entry.anchor : anchor;
+        entry.anchor = anchor;
     }
     std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
-        return std::tuple(a.place, !a.hasKey()) < std::tuple(b.place, !b.hasKey());
+        return std::tuple(a.anchor, !a.hasKey()) < std::tuple(b.anchor, !b.hasKey());
     });
     std::vector<PlacedNote> sorted;
     sorted.reserve(notes.size());

@@ -49,7 +49,9 @@ std::string PageInputs::digest(const host::BookEntry& book, const NoteSelection&
         return ids.empty() || ids.count(static_cast<unsigned long long>(id)) > 0;
     };
     for (const std::int64_t id : notes.order) {
-        digest.addText(isSelected(id) ? std::to_string(id) : "");
+        if (isSelected(id)) {
+            digest.addText(std::to_string(id));
+        }
     }
     reader_.inReadTransaction([&] {
         for (const std::int64_t id : reader_.noteIds(book.id)) {

@@ -15,20 +15,38 @@ std::string keyOf(std::string_view digits, std::size_t width = kDigits) {
                                  : std::string(width - digits.size(), '0').append(digits);
 }
 
+// Calls `visit` with the text before each number and with its digits. Returns the rest.
+template <class Visit>
+std::string_view eachNumber(std::string_view text, const Visit& visit) {
+    for (std::size_t at = 0;
+         (at = text.find_first_of(kAllDigits)) != std::string_view::npos;) {
+        const std::string_view digits =
+            text.substr(at, text.find_first_not_of(kAllDigits, at) - at);
+        visit(text.substr(0, at), digits);
+        text.remove_prefix(at + digits.size());
+    }
+    return text;
+}
+
 }  // namespace
 
 std::string sortKey(std::uint64_t number) { return keyOf(std::to_string(number)); }
 
 std::string sortKeyOfNumbers(std::string_view text) {
     std::string keys;
-    for (std::size_t at = 0;
-         (at = text.find_first_of(kAllDigits, at)) != std::string_view::npos;) {
-        const std::string_view rest = text.substr(at);
-        const std::string_view digits = rest.substr(0, rest.find_first_not_of(kAllDigits));
+    eachNumber(text, [&](std::string_view /*before*/, std::string_view digits) {
         keys.append(".").append(keyOf(digits));
-        at += digits.size();
-    }
+    });
     return keys;
+}
+
+std::string sortKeyOfName(std::string_view text) {
+    std::string name;
+    const std::string_view rest =
+        eachNumber(text, [&](std::string_view before, std::string_view digits) {
+            name.append(before).append(keyOf(digits));
+        });
+    return name.append(rest);
 }
 
 std::string sortKeyOfFraction(double fraction) {

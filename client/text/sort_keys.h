@@ -14,6 +14,10 @@ std::string sortKey(std::uint64_t number);
 // ".0000000002.0000000017". Other characters do not count.
 std::string sortKeyOfNumbers(std::string_view text);
 
+// Returns the text with the key of each number in its place: "part2.html" is before
+// "part10.html".
+std::string sortKeyOfName(std::string_view text);
+
 // Returns the key of a number from 0 to 1, to the millionth.
 std::string sortKeyOfFraction(double fraction);
 

@@ -66,6 +66,8 @@ TEST(KoboBookmark, HasChapter) {
         {"of the file before the path's",
          "ContentID = 'v#(1)a/cover.html', StartContainerPath = 'a/x3_2.html#point(/1)'",
          "Chapter 3"},
+        {"of the file before the path's, by number",
+         "StartContainerPath = 'a/x30.html#point(/1)'", "Chapter 10"},
         {"a path into another folder",
          "ContentID = 'v#(1)a/cover.html', StartContainerPath = 'b/x3.html#point(/1)'",
          "Cover"},

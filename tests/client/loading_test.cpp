@@ -26,11 +26,15 @@ public:
             source = client::readSource("source");
         } catch (const client::UserError&) {  // a first record that is cut is refused
         }
-        return client::loadBooks(source.books, source.onKnownBook, reader_, library_)
-            .changed;
+        const client::LoadResult result =
+            client::loadBooks(source.books, source.onKnownBook, reader_, library_);
+        isAnyKept = !result.kept.isEmpty();
+        return result.changed;
     }
 
     std::vector<host::BookRecord> records() { return reader_.records(); }
+
+    bool isAnyKept = false;  // of the last file, because it differed
 
 private:
     host::ReaderStore reader_{":memory:"};
@@ -292,6 +296,18 @@ void expectGrownEqualsFresh(unsigned seed) {
     }
     ASSERT_EQ(show(grown.records()), show(fresh.records())) << "seed " << seed << '\n'
                                                             << file;
+}
+
+TEST(Loading, CompletedPlaceIsNotKept) {
+    const ScratchDirectory scratch;
+    Collection collection;
+    collection.load(emma(R"({"uuid": "u", "page": 5})"));
+    EXPECT_EQ(collection.load(emma(R"({"uuid": "u", "page": 5, "chapter": "I"})")), 1);
+    EXPECT_FALSE(collection.isAnyKept);
+    EXPECT_EQ(collection.load(emma(R"({"uuid": "u", "page": 6, "chapter": "I"})")), 0);
+    EXPECT_TRUE(collection.isAnyKept);
+    EXPECT_EQ(collection.load(emma(R"({"uuid": "u", "chapter": "I"})")), 0);
+    EXPECT_FALSE(collection.isAnyKept);
 }
 
 // NOTES_EXPORT_GROWING_FILES sets the number of files.

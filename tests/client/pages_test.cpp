@@ -225,6 +225,18 @@ TEST(Export, NamedFileIsReplacedWhereItsLinkLeads) {
                  client::UserError);
 }
 
+TEST(Export, OtherNotesDoNotAgeSelection) {
+    const ScratchDirectory scratch;
+    load(100);
+    exportPage({}, yellow());
+    const auto time = fs::last_write_time(kPage);
+    client::Note other;
+    other.uuid = "blue";
+    addBook({"0a", "", "", ""}, {other});
+    EXPECT_EQ(exportPage({}, yellow()).path, kPage);
+    EXPECT_EQ(fs::last_write_time(kPage), time);
+}
+
 // Two exports at once find the same free name.
 TEST(Export, EqualPageOfAnotherCollectionStaysItsOwn) {
     const ScratchDirectory scratch;

@@ -10,6 +10,7 @@
 
 #include "cases.h"
 #include "client/collection/note_order.h"
+#include "client/collection/note_tags.h"
 #include "client/collection/position.h"
 #include "client/pages/note_selection.h"
 #include "client/pages/page_export.h"
@@ -81,6 +82,7 @@ TEST(SortKey, OrdersNumbersAsBytes) {
     std::vector<std::string> keys;
     std::transform(std::begin(texts), std::end(texts), std::back_inserter(keys), numbersIn);
     EXPECT_TRUE(std::is_sorted(keys.begin(), keys.end()));
+    EXPECT_EQ(client::sortKeyOfName("a2/b10.c"), "a0000000002/b0000000010.c");
     EXPECT_EQ(numbersIn("00012x3"), ".0000000012.0000000003");
     EXPECT_LT(client::sortKeyOfFraction(0.25), client::sortKeyOfFraction(0.250001));
     EXPECT_EQ(client::sortKeyOfFraction(7), "1000000");
@@ -110,6 +112,25 @@ TEST(Position, KeepsPlace) {
     const std::string cut(998, 'a');
     EXPECT_EQ(writtenAndRead(cut + "bcd"), "?chapter=" + cut + "bc " + cut + "bc");
     EXPECT_EQ(writtenAndRead(cut + "\u00e9"), "?chapter=" + cut + ' ' + cut);
+}
+
+TEST(Position, IsReadFromAnyJson) {
+    const struct {
+        std::optional<std::string> anchor;
+        std::optional<std::string> range;
+        const char* place;
+    } rows[] = {
+        {std::nullopt, std::nullopt, "|||"},
+        {"", "{}", "|||"},
+        {"{}", R"({"begin":""})", "|||"},
+        {R"({"anchor":1})", R"({"begin":"?page=7"})", "7|||"},
+        {R"({ "anchor": "x?page=\u0035" })", R"({"begin":"?page=7"})", "5|||"},
+        {R"({"anchor":"?chapter=a&order=k.1"})", R"({"begin":"?location=7"})", "|7|a|k.1"},
+        {std::nullopt, R"({"begin":"?chapter=a"})", "||a|"},
+    };
+    for (const auto& [anchor, range, place] : rows) {
+        EXPECT_EQ(show(client::placeIn(anchor, range)), place) << anchor.value_or("-");
+    }
 }
 
 // Places that meet, of any kind.

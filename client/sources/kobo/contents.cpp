@@ -21,6 +21,9 @@ constexpr int kHeading = 899;  // in the table of contents
 // Of a chapter whose number is not known; after all others.
 constexpr std::int64_t kNoIndex = std::numeric_limits<std::int64_t>::max();
 
+// Collections store so much of a title or an order. Each note has its own copy.
+constexpr std::size_t kMaxBytes = 1000;
+
 // Returns the identifier without the number and without the position in the file:
 // "BOOK#(12)part.html" gives "BOOK#part.html", and "BOOK!!part.html#p2" "BOOK!!part.html".
 std::string fileOf(std::string id) {
@@ -38,8 +41,10 @@ std::string_view fileIn(std::string_view path) {
     return path.substr(0, end == std::string_view::npos ? 0 : end);
 }
 
-// Collections store so much of a title or an order. Each note has its own copy.
-constexpr std::size_t kMaxBytes = 1000;
+// Returns the key of the file, by which part2.html is before part10.html.
+std::string keyOfFile(const std::string& file) {
+    return file.size() > kMaxBytes ? file : sortKeyOfName(file);  // limits the memory
+}
 
 // Returns an empty text if the title is only the name of a file.
 std::string titleIn(const std::string& title) {
@@ -88,7 +93,7 @@ KoboContents::KoboContents(SQLite::Database& database, ReadLimit& limit) {
 // Keeps the first of several headings in a file: all of the file may be part of it.
 void KoboContents::add(Chapters& chapters, const std::string& id,
                        const KoboChapter& chapter) {
-    const auto [known, isNew] = chapters.try_emplace(fileOf(id), chapter);
+    const auto [known, isNew] = chapters.try_emplace(keyOfFile(fileOf(id)), chapter);
     if (!isNew && chapter.index < known->second.index) {
         known->second = chapter;
     }
@@ -116,21 +121,21 @@ KoboContents::Chapters::const_iterator KoboContents::chapterOf(
     const std::string_view file = fileIn(bookmark.path);
     const std::string wanted = (bookmark.volume + '#').append(file);
     const std::string folder =
-        wanted.substr(0, wanted.size() - file.size() + file.rfind('/') + 1);
-    const auto next = chapters_.upper_bound(wanted);
+        keyOfFile(wanted.substr(0, wanted.size() - file.size() + file.rfind('/') + 1));
+    const auto next = chapters_.upper_bound(keyOfFile(wanted));
     const bool isFound = !file.empty() && next != chapters_.begin() &&
                          startsWith(std::prev(next)->first, folder);
-    return isFound ? std::prev(next) : chapters_.find(fileOf(bookmark.content));
+    return isFound ? std::prev(next) : chapters_.find(keyOfFile(fileOf(bookmark.content)));
 }
 
 // Adds the numbers in the file's name if the database does not have the file or its index.
-std::string KoboContents::keyOfFile(const KoboBookmark& bookmark,
-                                    Chapters::const_iterator chapter) const {
+std::string KoboContents::keyOfChapter(const KoboBookmark& bookmark,
+                                       Chapters::const_iterator chapter) const {
     const std::string_view file = fileIn(bookmark.path);
     if (chapter == chapters_.end() || chapter->second.index == kNoIndex) {
         return keyOf(kNoIndex) + keyOfNumbers(file.empty() ? bookmark.content : file);
     }
-    const bool isListed = endsWith(chapter->first, std::string("#").append(file));
+    const bool isListed = chapter->first == keyOfFile((bookmark.volume + '#').append(file));
     return keyOf(chapter->second.index) + keyOfNumbers(isListed ? "" : file);
 }
 
@@ -144,7 +149,7 @@ Place KoboContents::placeOf(const KoboBookmark& bookmark) const {
     const std::string_view position = path.substr(fileIn(path).size());
     Place place;
     place.chapter = chapter == chapters_.end() ? "" : chapter->second.title;
-    place.order = "k." + keyOfFile(bookmark, chapter) + '-' +
+    place.order = "k." + keyOfChapter(bookmark, chapter) + '-' +
                   sortKeyOfFraction(bookmark.progress) + keyOfNumbers(position) + '-' +
                   keyOf(bookmark.offset) + '-' +
                   keyOf(parseIsoTime(bookmark.created).value_or(0));

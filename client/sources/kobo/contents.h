@@ -36,13 +36,14 @@ public:
     Place placeOf(const KoboBookmark& bookmark) const;
 
 private:
-    using Chapters = std::map<std::string, KoboChapter>;  // by file: "BOOK#part.html"
+    using Chapters =
+        std::map<std::string, KoboChapter>;  // by key of the file: "BOOK#part.html"
 
     static void add(Chapters& chapters, const std::string& id, const KoboChapter& chapter);
     void addHeadings(const Chapters& headings);
     Chapters::const_iterator chapterOf(const KoboBookmark& bookmark) const;
-    std::string keyOfFile(const KoboBookmark& bookmark,
-                          Chapters::const_iterator chapter) const;
+    std::string keyOfChapter(const KoboBookmark& bookmark,
+                             Chapters::const_iterator chapter) const;
 
     std::unordered_map<std::string, KoboBook> books_;
     Chapters chapters_;
