@@ -23,16 +23,12 @@ std::string annotation(const std::string& members) {
 TEST(Lua, TextIsDecoded) {
     const ScratchDirectory scratch;
     const Case cases[] = {
-        {R"('a"\'b')", "a\"'b"},
-        {R"("\195\1569\x41\t\\\z
-             b\
+        {R"("\195\1569A\t\\\"'b\
 c")",
-         "\u00dc9A\t\\b\nc"},
+         "\u00dc9A\t\\\"'b\nc"},
         {"\"a\\\r\nb\"", "a\nb"},
-        {"[[\na]]", "a"},
-        {"[==[a]]b]=]]==]", "a]]b]=]"},
-        {"-- x\n --[[ \"y\"\n]] 'a' --[=[]]]=]", "a"},
-        {"'b', ['title'] = 'a'; ['c'] = nil; ['d'] = true, ['e'] = false", "a"},
+        {"-- x\n --[[ \"y\"\n \"a\" -- z\n", "a"},
+        {"\"b\", [\"title\"] = \"a\", [\"d\"] = true, [\"e\"] = false", "a"},
     };
     expectEach(cases, [](const std::string& value) {
         const std::string shown = titleFrom(value);
@@ -42,9 +38,8 @@ c")",
 
 TEST(Lua, NumberIsRead) {
     const ScratchDirectory scratch;
-    const Case cases[] = {{"12", "12"},   {"-0.5", "-0.5"}, {"1e2", "100"},
-                          {"0x1F", "31"}, {".5E1", "5"},    {"1e999", ""},
-                          {"'12'", ""},   {"{}", ""},       {"0x.8p1", "1"}};
+    const Case cases[] = {{"12", "12"}, {"-0.5", "-0.5"}, {"1e2", "100"}, {"1e999", ""},
+                          {"-inf", ""}, {"\"12\"", ""},   {"{}", ""}};
     expectEach(cases, [](const std::string& number) {
         const std::string shown =
             shownPlaces(annotation("[\"pos0\"] = \"-\", [\"pageno\"] = " + number));
@@ -55,18 +50,13 @@ TEST(Lua, NumberIsRead) {
 TEST(Lua, FaultIsNamedWithItsPlace) {
     const ScratchDirectory scratch;
     const Case cases[] = {
-        {"os.exit()", "38: expected a text, a number, true, false, nil or a table."},
-        {"0xnan", "40: expected a text, a number, true, false, nil or a table."},
+        {"os.exit()", "38: expected a text, a number, true, false or a table."},
         {"1 + 1", "40: expected a comma or the end of the table."},
-        {"'a\nb'", "38: the text has no end."},
-        {"'a", "38: the text has no end."},
-        {"[[a", "38: the text has no end."},
-        {"'\\q'", "40: unknown escape."},
-        {"'\\256'", "40: not the code of a byte."},
-        {"{1, ['a'] = 2}", "42: expected a text, a number, true, false, nil or a table."},
-        {"{['a'] = 1, 2}", "50: expected a key in brackets."},
-        {"{[{}] = 1}", "40: expected a text, a number, true, false, nil or a table."},
-        {"'a'}} os", "44: expected the end of the file."},
+        {"\"a\nb\"", "38: the text has no end."},
+        {"\"\\q\"", "40: unknown escape."},
+        {"\"\\256\"", "40: unknown escape."},
+        {"{[{}] = 1}", "40: expected a text, a number, true, false or a table."},
+        {"\"a\"}} os", "44: expected the end of the file."},
     };
     expectEach(cases, [](const std::string& value) {
         const std::string error = titleFrom(value);
@@ -138,7 +128,7 @@ TEST(Sidecar, NamesItsBook) {
 
 TEST(Sidecar, IsToldFromOtherFiles) {
     for (const char* sidecar :
-         {"\uFEFF--[[ x ]] return {[\"annotations\"] = {", "{ -- y\n [\"highlight\"] ="}) {
+         {"\uFEFF-- x\n return {[\"annotations\"] = {", "{ -- y\n [\"highlight\"] ="}) {
         EXPECT_TRUE(client::isSidecar(sidecar)) << sidecar;
     }
     for (const char* other : {"{\"items\": [\"annotations\"]}", "return {}", "-- return {",

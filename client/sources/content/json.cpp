@@ -3,6 +3,7 @@
 #include <rapidjson/error/en.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <utility>
 
@@ -99,6 +100,11 @@ const JsonValue& memberOf(const JsonValue& value, const char* name) {
 std::string_view textIn(const JsonValue& value) {
     return value.IsString() ? std::string_view(value.GetString(), value.GetStringLength())
                             : std::string_view();
+}
+
+std::optional<double> numberIn(const JsonValue& value) {
+    const bool isFinite = value.IsNumber() && std::isfinite(value.GetDouble());
+    return isFinite ? std::optional(value.GetDouble()) : std::nullopt;
 }
 
 }  // namespace client

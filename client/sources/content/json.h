@@ -4,6 +4,7 @@
 #include <rapidjson/document.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -34,5 +35,8 @@ const JsonValue& memberOf(const JsonValue& value, const char* name);
 
 // Returns the text; empty if the value is not a text.
 std::string_view textIn(const JsonValue& value);
+
+// Returns the number; nullopt if the value is not a finite number.
+std::optional<double> numberIn(const JsonValue& value);
 
 }  // namespace client

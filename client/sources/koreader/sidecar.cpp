@@ -12,7 +12,6 @@
 #include "client/files/whole_file.h"
 #include "client/sources/content/book_shelf.h"
 #include "client/sources/koreader/lua.h"
-#include "client/sources/koreader/lua_literals.h"
 #include "client/sources/koreader/sidecar_entry.h"
 #include "client/text/affixes.h"
 #include "client/text/iso_time.h"
@@ -53,119 +52,94 @@ bool isMadeUp(std::string_view comment) {
     return mark != comment.npos && parseIsoTime(comment.substr(mark + 2)).has_value();
 }
 
-// Reads the notes of one sidecar onto a shelf.
-class Reader {
-public:
-    Reader(const JsonValue& sidecar, const std::string& path);
+using Entries = std::vector<SidecarEntry>;
 
-    SourceContent read();
-
-private:
-    // Calls `visit` with each entry of a list, and reports those without a position.
-    template <class Visit>
-    void eachEntry(const JsonValue& list, const std::string& name,
-                   const SidecarTexts& texts, std::optional<double> page,
-                   const Visit& visit);
-    void addOldLists();
-    void add(const SidecarEntry& entry);
-
-    const JsonValue& sidecar_;
-    std::string title_;
-    std::string author_;
-    BookShelf shelf_;
-    SourceContent content_;
-};
-
-Reader::Reader(const JsonValue& sidecar, const std::string& path)
-    : sidecar_(sidecar),
-      title_(textOfBook(sidecar, "title")),
-      author_(replaced(textOfBook(sidecar, "authors"), "\n", "; ")) {
-    title_ = title_.empty() ? nameIn(path) : title_;
-}
-
-template <class Visit>
-void Reader::eachEntry(const JsonValue& list, const std::string& name,
-                       const SidecarTexts& texts, std::optional<double> page,
-                       const Visit& visit) {
+// Returns the entries of a list, and reports those without a position.
+Entries entriesIn(const JsonValue& list, const std::string& name, const SidecarTexts& texts,
+                  SkippedRecords& skipped, std::optional<double> page = {}) {
+    Entries entries;
     for (const auto& [number, json] : numberedIn(list)) {
         if (auto entry = parseEntry(*json, texts, page)) {
-            visit(*entry);
+            entries.push_back(std::move(*entry));
         } else {
-            content_.skipped.add(name + '[' + decimal(number) + "]: no position");
+            skipped.add(name + '[' + decimal(number) + "]: no position");
         }
     }
+    return entries;
 }
 
-void Reader::add(const SidecarEntry& entry) {
-    shelf_.book(title_, author_).add(entry.note, {entry.position, entry.datetime});
-}
-
-SourceContent Reader::read() {
-    const JsonValue& annotations = memberOf(sidecar_, "annotations");
-    if (annotations.IsNull()) {
-        addOldLists();
-    }
-    eachEntry(annotations, "annotations", {"text", "note"}, std::nullopt,
-              [this](const SidecarEntry& entry) { add(entry); });
-    content_.books = shelf_.take();
-    return std::move(content_);
-}
-
-// Finds the bookmarks of passages, which share a time or a position.
-class Bookmarks {
-public:
-    void add(SidecarEntry& entry);
-
-    // Removes the passage's bookmark, and returns its comment.
-    std::string take(const SidecarEntry& passage);
-
-    // Returns the bookmarks that were not taken.
-    const std::vector<std::optional<SidecarEntry>>& others() const { return entries_; }
-
-private:
-    std::vector<std::optional<SidecarEntry>> entries_;
-    std::unordered_map<std::string, std::size_t> indices_;
-};
-
-void Bookmarks::add(SidecarEntry& entry) {
-    if (isMadeUp(entry.note.comment)) {
-        entry.note.comment.clear();
-    }
+// Returns what a passage and its bookmark may share, the surest first.
+std::vector<std::string> keysOf(const SidecarEntry& entry) {
+    std::vector<std::string> keys;
     if (!entry.datetime.empty()) {
-        indices_.emplace(entry.datetime, entries_.size());
+        keys = {entry.datetime + entry.position, entry.datetime};
     }
     if (entry.isPassage) {
-        indices_.emplace(entry.position, entries_.size());
+        keys.push_back(entry.position);
     }
-    entries_.emplace_back(std::move(entry));
+    return keys;
 }
 
-std::string Bookmarks::take(const SidecarEntry& passage) {
-    for (const std::string& key : {passage.datetime, passage.position}) {
-        const auto found = indices_.find(key);
-        if (found != indices_.end() && entries_[found->second]) {
-            return std::exchange(entries_[found->second], std::nullopt)->note.comment;
-        }
+// The passages of an old sidecar, to which bookmarks are added.
+class OldEntries {
+public:
+    void addPassage(SidecarEntry passage);
+
+    // Takes the bookmark's comment for that of its passage.
+    void addBookmark(SidecarEntry bookmark);
+
+    Entries take() { return std::move(entries_); }
+
+private:
+    SidecarEntry* passageOf(const SidecarEntry& bookmark);
+
+    Entries entries_;
+    std::unordered_map<std::string, std::size_t> passages_;
+};
+
+void OldEntries::addPassage(SidecarEntry passage) {
+    for (const std::string& key : keysOf(passage)) {
+        passages_.emplace(key, entries_.size());
     }
-    return {};
+    entries_.push_back(std::move(passage));
 }
 
-void Reader::addOldLists() {
-    Bookmarks bookmarks;
-    eachEntry(memberOf(sidecar_, "bookmarks"), "bookmarks", {"notes", "text"}, std::nullopt,
-              [&](SidecarEntry& entry) { bookmarks.add(entry); });
-    for (const auto& [page, list] : numberedIn(memberOf(sidecar_, "highlight"))) {
-        eachEntry(*list, "highlight[" + decimal(page) + ']', {"text", ""}, page,
-                  [&](SidecarEntry& passage) {
-                      passage.note.comment = bookmarks.take(passage);
-                      add(passage);
-                  });
-    }
-    for (const auto& bookmark : bookmarks.others()) {
-        if (bookmark) {
-            add(*bookmark);
+SidecarEntry* OldEntries::passageOf(const SidecarEntry& bookmark) {
+    for (const std::string& key : keysOf(bookmark)) {
+        const auto found = passages_.find(key);
+        if (found != passages_.end()) {
+            return &entries_[found->second];
         }
     }
+    return nullptr;
+}
+
+void OldEntries::addBookmark(SidecarEntry bookmark) {
+    std::string& comment = bookmark.note.comment;
+    if (isMadeUp(comment)) {
+        comment.clear();
+    }
+    SidecarEntry* const passage = passageOf(bookmark);
+    if (passage == nullptr || !(comment.empty() || passage->note.comment.empty())) {
+        entries_.push_back(std::move(bookmark));
+    } else if (!comment.empty()) {
+        passage->note.comment = std::move(comment);
+    }
+}
+
+Entries oldEntriesIn(const JsonValue& sidecar, SkippedRecords& skipped) {
+    OldEntries entries;
+    for (const auto& [page, list] : numberedIn(memberOf(sidecar, "highlight"))) {
+        const std::string name = "highlight[" + decimal(page) + ']';
+        for (SidecarEntry& entry : entriesIn(*list, name, {"text", ""}, skipped, page)) {
+            entries.addPassage(std::move(entry));
+        }
+    }
+    for (SidecarEntry& entry : entriesIn(memberOf(sidecar, "bookmarks"), "bookmarks",
+                                         {"notes", "text"}, skipped)) {
+        entries.addBookmark(std::move(entry));
+    }
+    return entries.take();
 }
 
 }  // namespace
@@ -182,9 +156,22 @@ bool isSidecar(std::string_view start) {
 }
 
 SourceContent readSidecar(const std::string& path) {
-    std::string text = readFile(path);
-    const JsonDocument sidecar = parseLua(text, path);
-    return Reader(sidecar, path).read();
+    const JsonDocument sidecar = parseLua(readFile(path), path);
+    const JsonValue& list = memberOf(sidecar, "annotations");
+    const std::string ownTitle = textOfBook(sidecar, "title");
+    const std::string title = ownTitle.empty() ? nameIn(path) : ownTitle;
+    const std::string author = replaced(textOfBook(sidecar, "authors"), "\n", "; ");
+    SourceContent content;
+    BookShelf shelf;
+    for (SidecarEntry& entry :
+         list.IsNull()
+             ? oldEntriesIn(sidecar, content.skipped)
+             : entriesIn(list, "annotations", {"text", "note"}, content.skipped)) {
+        shelf.book(title, author)
+            .add(std::move(entry.note), {entry.position, entry.datetime});
+    }
+    content.books = shelf.take();
+    return content;
 }
 
 }  // namespace client

@@ -16,12 +16,6 @@ std::string textOf(const JsonValue& entry, const char* name) {
     return std::string(textIn(memberOf(entry, name)));
 }
 
-// Returns nullopt if the value is not a finite number.
-std::optional<double> numberIn(const JsonValue& value) {
-    const double number = value.IsNumber() ? value.GetDouble() : HUGE_VAL;
-    return std::isfinite(number) ? std::optional(number) : std::nullopt;
-}
-
 std::int64_t timeOf(const JsonValue& entry, const char* name) {
     return parseIsoTime(textIn(memberOf(entry, name))).value_or(0);
 }

@@ -13,16 +13,13 @@
 namespace client {
 namespace {
 
-// Limits the stack for hostile files, whose selectors may be nested deeply.
-constexpr int kMaxNested = 16;
-
 // Returns the first text that `find` returns for a selector and is not empty.
 template <class Find>
-std::string firstIn(const JsonValue& selectors, const Find& find, int depth = 0) {
+std::string firstIn(const JsonValue& selectors, const Find& find) {
     for (const JsonValue* selector : elementsOf(selectors)) {
         std::string found = find(*selector);
-        if (found.empty() && depth < kMaxNested) {
-            found = firstIn(memberOf(*selector, "refinedBy"), find, depth + 1);
+        if (found.empty()) {
+            found = firstIn(memberOf(*selector, "refinedBy"), find);
         }
         if (!found.empty()) {
             return found;
@@ -31,10 +28,10 @@ std::string firstIn(const JsonValue& selectors, const Find& find, int depth = 0)
     return {};
 }
 
-// Returns nullopt for text such as "XI".
-std::optional<double> numberIn(const JsonValue& value) {
+// Returns the number, also of a text; nullopt for one such as "XI".
+std::optional<double> numericIn(const JsonValue& value) {
     const auto number =
-        value.IsNumber() ? value.GetDouble() : parseNumber<double>(textOf(value));
+        value.IsNumber() ? numberIn(value) : parseNumber<double>(textOf(value));
     return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
@@ -95,7 +92,7 @@ std::string quoteIn(const JsonValue& target) {
 Place placeIn(const JsonValue& target) {
     const JsonValue& meta = memberOf(target, "meta");
     Place place;
-    place.page = numberIn(memberOf(meta, "page"));
+    place.page = numericIn(memberOf(meta, "page"));
     place.chapter = chapterIn(memberOf(meta, "headings"));
     return place;
 }
@@ -121,10 +118,10 @@ std::string progressionIn(const JsonValue& target) {
             return startsWith(text, kFragment)
                        ? keyOf(parseNumber<double>(withoutPrefix(text, kFragment)))
                    : textOf(memberOf(selector, "type")) == "ProgressionSelector"
-                       ? keyOf(numberIn(value))
+                       ? keyOf(numericIn(value))
                        : "";
         });
-    return key.empty() ? keyOf(numberIn(memberOf(memberOf(target, "meta"), "progression")))
+    return key.empty() ? keyOf(numericIn(memberOf(memberOf(target, "meta"), "progression")))
                        : key;
 }
 
