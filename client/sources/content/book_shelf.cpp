@@ -23,33 +23,31 @@ std::string ShelvedBook::derivedUuid(const Identity& identity) const {
     return digestOf(parts).hexadecimal();
 }
 
-bool ShelvedBook::identify(Note& note, const Identity& identity) {
+bool ShelvedBook::identify(Note& note, const Identity& identity,
+                           const std::vector<Identity>& former) {
     if (note.uuid.empty()) {
         note.uuid = derivedUuid(identity);
     }
     const DigestValue digest =
         digestOf({note.text, note.comment, note.color, note.picture});
-    const auto [first, isNew] = contents_.emplace(digestOf({note.uuid}), digest);
-    if (isNew || first->second == digest) {
-        return isNew;
+    const auto [first, isFirst] = contents_.emplace(digestOf({note.uuid}), digest);
+    if (!isFirst && first->second == digest) {
+        return false;
     }
-    note.uuid = digestOf({note.uuid, digest.hexadecimal()}).hexadecimal();
-    return contents_.emplace(digestOf({note.uuid}), digest).second;
+    if (!isFirst) {
+        note.uuid = digestOf({note.uuid, digest.hexadecimal()}).hexadecimal();
+    }
+    const bool isNew = isFirst || contents_.emplace(digestOf({note.uuid}), digest).second;
+    if (isNew) {
+        for (const Identity& other : former) {
+            content_.formerUuids[note.uuid].push_back(derivedUuid(other));
+        }
+    }
+    return isNew;
 }
 
 void ShelvedBook::add(Note note, const Identity& identity) {
     if (identify(note, identity)) {
-        content_.notes.add(std::move(note));
-    }
-}
-
-void ShelvedBook::add(Note note, const Identity& identity,
-                      const std::vector<Identity>& former) {
-    if (identify(note, identity)) {
-        std::vector<std::string>& uuids = content_.formerUuids[note.uuid];
-        for (const Identity& other : former) {
-            uuids.push_back(derivedUuid(other));
-        }
         content_.notes.add(std::move(note));
     }
 }

@@ -23,16 +23,15 @@ public:
     explicit ShelvedBook(IncomingBook book) : content_(std::move(book)) {}
 
     // Sets the note's uuid. If it has none, one is derived from the book and `identity`,
-    // equal on every machine. If the book already has a note with the uuid, another note
-    // gets a uuid derived from its content. Returns false if the notes are equal.
-    bool identify(Note& note, const Identity& identity);
+    // equal on every machine; if the collection has the note under the uuid of one of the
+    // `former` identities, it keeps that. If the book already has a note with the uuid,
+    // another note gets a uuid derived from its content. Returns false if the notes are
+    // equal.
+    bool identify(Note& note, const Identity& identity,
+                  const std::vector<Identity>& former = {});
 
     // Adds the note with the uuid that identify() gives, unless the book has it.
     void add(Note note, const Identity& identity = {});
-
-    // Adds a note without a uuid. If the collection has it under the uuid of one of the
-    // `former` identities, it keeps that.
-    void add(Note note, const Identity& identity, const std::vector<Identity>& former);
 
     IncomingBook& content() { return content_; }
 

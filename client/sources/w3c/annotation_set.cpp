@@ -2,7 +2,10 @@
 
 #include <rapidjson/memorystream.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -13,7 +16,6 @@
 #include "client/sources/w3c/annotation.h"
 #include "client/sources/w3c/json_ld.h"
 #include "client/sources/w3c/orders.h"
-#include "client/sources/w3c/twins.h"
 #include "client/text/affixes.h"
 
 namespace client {
@@ -67,7 +69,7 @@ std::string titleOf(const JsonValue& set) {
 }
 
 // Returns the annotations of the set, or of a collection's first page.
-std::vector<const JsonValue*> itemsOf(const JsonValue& set, const std::string& path) {
+std::vector<const JsonValue*> annotationsIn(const JsonValue& set, const std::string& path) {
     const JsonValue& items = memberOf(set, "items");
     const JsonValue& ofFirstPage = memberOf(memberOf(set, "first"), "items");
     if (!items.IsArray() && !ofFirstPage.IsArray()) {
@@ -76,50 +78,55 @@ std::vector<const JsonValue*> itemsOf(const JsonValue& set, const std::string& p
     return elementsOf(items.IsArray() ? items : ofFirstPage);
 }
 
-// Reads the items of a set onto a shelf.
-class Reader {
-public:
-    Reader(const JsonValue& set, const std::string& path)
-        : title_(titleOf(set)),
-          author_(creatorsOf(memberOf(set, "about"))),
-          fileName_(std::filesystem::path(path).stem().string()) {}
-
-    SourceContent read(const std::vector<const JsonValue*>& items);
-
-private:
-    void addAnnotation(Annotation annotation);
-
-    const std::string title_;
-    const std::string author_;
-    const std::string fileName_;
-    BookShelf shelf_;
+struct Item {
+    Annotation annotation;
+    ShelvedBook* book;
+    bool isNew = true;  // in its book
 };
 
-SourceContent Reader::read(const std::vector<const JsonValue*>& items) {
-    SourceContent content;
-    const Orders orders(items);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (auto annotation = parseAnnotation(*items[i])) {
-            annotation->note.place.order = orders.of(*items[i]);
-            addAnnotation(std::move(*annotation));
+// Puts the books of the annotations on the shelf.
+std::vector<Item> itemsIn(const JsonValue& set, const std::string& path, BookShelf& shelf,
+                          SkippedRecords& skipped) {
+    const std::vector<const JsonValue*> annotations = annotationsIn(set, path);
+    const Orders orders(annotations);
+    const std::string title = titleOf(set);
+    const std::string author = creatorsOf(memberOf(set, "about"));
+    const std::string fileName = std::filesystem::path(path).stem().string();
+    std::vector<Item> items;
+    for (std::size_t i = 0; i < annotations.size(); ++i) {
+        if (auto annotation = parseAnnotation(*annotations[i])) {
+            const std::string& source = annotation->source;
+            ShelvedBook& book = shelf.book(!title.empty()    ? title
+                                           : !source.empty() ? source
+                                                             : fileName,
+                                           author);
+            annotation->note.place.order = orders.of(*annotations[i]);
+            items.push_back({std::move(*annotation), &book});
         } else {
-            content.skipped.add("items[" + std::to_string(i) + "]: no target");
+            skipped.add("items[" + std::to_string(i) + "]: no target");
         }
     }
-    content.books = shelf_.take();
-    return content;
+    return items;
 }
 
-void Reader::addAnnotation(Annotation annotation) {
-    const std::string& title = !title_.empty()             ? title_
-                               : annotation.source.empty() ? fileName_
-                                                           : annotation.source;
-    ShelvedBook& book = shelf_.book(title, author_);
-    if (annotation.note.uuid.empty()) {
-        book.add(std::move(annotation.note), annotation.identity,
-                 annotation.formerIdentities);
-    } else {
-        book.add(std::move(annotation.note));
+// Gives the notes their uuids by time, then by content, because the first one of an id
+// keeps it: so the uuids do not depend on the order in the file.
+void identify(std::vector<Item>& items) {
+    std::vector<Item*> sorted;
+    sorted.reserve(items.size());
+    for (Item& item : items) {
+        sorted.push_back(&item);
+    }
+    const auto keyOf = [](const Item* item) {
+        const Note& note = item->annotation.note;
+        return std::tie(note.time, note.text, note.comment, note.color);
+    };
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [&](const Item* a, const Item* b) { return keyOf(a) < keyOf(b); });
+    for (Item* item : sorted) {
+        Annotation& annotation = item->annotation;
+        item->isNew = item->book->identify(annotation.note, annotation.identity,
+                                           annotation.formerIdentities);
     }
 }
 
@@ -136,9 +143,17 @@ bool isAnnotationSet(std::string_view start) {
 SourceContent readAnnotationSet(const std::string& path) {
     std::string text = readFile(path);
     const JsonDocument set = parseJson(text, path);
-    std::vector<const JsonValue*> items = itemsOf(set, path);
-    sortTwins(items);
-    return Reader(set, path).read(items);
+    BookShelf shelf;
+    SourceContent content;
+    std::vector<Item> items = itemsIn(set, path, shelf, content.skipped);
+    identify(items);
+    for (Item& item : items) {
+        if (item.isNew) {
+            item.book->content().notes.add(std::move(item.annotation.note));
+        }
+    }
+    content.books = shelf.take();
+    return content;
 }
 
 }  // namespace client

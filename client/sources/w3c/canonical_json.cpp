@@ -2,49 +2,35 @@
 
 #include <rapidjson/stringbuffer.h>
 
-#include <algorithm>
-#include <vector>
+#include <map>
+#include <string_view>
 
 namespace client {
 namespace {
 
-// Limits the stack for hostile files.
-constexpr int kMaxDepth = 32;
-
 using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, host::ThrowingAllocator>;
 using Writer = host::JsonWriter<Buffer>;
-using Member = JsonValue::Member;
 
-std::vector<const Member*> sortedMembers(const JsonValue& object) {
-    std::vector<const Member*> members;
-    members.reserve(object.MemberCount());
-    for (const Member& member : object.GetObject()) {
-        members.push_back(&member);
-    }
-    std::stable_sort(members.begin(), members.end(), [](const Member* a, const Member* b) {
-        return textIn(a->name) < textIn(b->name);
-    });
-    return members;
-}
-
-void write(const JsonValue& value, int depth, Writer& writer) {
-    if (!value.IsObject() && !value.IsArray()) {
-        value.Accept(writer);
-    } else if (depth == kMaxDepth) {
-        writer.Null();
-    } else if (value.IsObject()) {
+void write(const JsonValue& value, Writer& writer) {
+    if (value.IsObject()) {
+        std::multimap<std::string_view, const JsonValue*> members;
+        for (const auto& member : value.GetObject()) {
+            members.emplace(textIn(member.name), &member.value);
+        }
         writer.StartObject();
-        for (const Member* member : sortedMembers(value)) {
-            member->name.Accept(writer);
-            write(member->value, depth + 1, writer);
+        for (const auto& [name, element] : members) {
+            writer.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
+            write(*element, writer);
         }
         writer.EndObject();
-    } else {
+    } else if (value.IsArray()) {
         writer.StartArray();
         for (const JsonValue& element : value.GetArray()) {
-            write(element, depth + 1, writer);
+            write(element, writer);
         }
         writer.EndArray();
+    } else {
+        value.Accept(writer);
     }
 }
 
@@ -53,7 +39,7 @@ void write(const JsonValue& value, int depth, Writer& writer) {
 std::string canonicalJson(const JsonValue& value) {
     Buffer buffer;
     Writer writer(buffer);
-    write(value, 0, writer);
+    write(value, writer);
     return {buffer.GetString(), buffer.GetSize()};
 }
 

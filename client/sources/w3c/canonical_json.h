@@ -8,7 +8,7 @@
 namespace client {
 
 // Returns the value as JSON without white space, with the members of objects in the order
-// of their names. Objects and arrays that are nested too deep become null.
+// of their names.
 std::string canonicalJson(const JsonValue& value);
 
 }  // namespace client
