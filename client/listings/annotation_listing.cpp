@@ -40,13 +40,6 @@ void writeAbout(JsonText& json, const Book& book) {
     });
 }
 
-void writeSelector(JsonText& json, const std::string& text) {
-    writeObject(json, "selector", [&] {
-        writeText(json, "type", "TextQuoteSelector");
-        writeText(json, "exact", text);
-    });
-}
-
 void writeHeadings(JsonText& json, const std::string& chapter) {
     json.Key("headings");
     json.StartArray();
@@ -71,7 +64,10 @@ void writeTarget(JsonText& json, const Note& note, const std::string& source) {
     writeObject(json, "target", [&] {
         writeText(json, "source", source);
         if (!note.text.empty()) {
-            writeSelector(json, note.text);
+            writeObject(json, "selector", [&] {
+                writeText(json, "type", "TextQuoteSelector");
+                writeText(json, "exact", note.text);
+            });
         }
         if (note.place.page || !note.place.chapter.empty()) {
             writeMeta(json, note);
@@ -109,22 +105,21 @@ void writeAnnotation(JsonText& json, const Note& note, const std::string& source
 
 class AnnotationSet : public NoteListing {
 public:
-    explicit AnnotationSet(std::ostream& out) : out_(out), stream_(out) {}
+    using NoteListing::NoteListing;
 
     void startBook(const Book& book) override;
     void add(const Note& note) override;
     void end() override;
 
 private:
-    std::ostream& out_;
-    JsonStream stream_;
+    JsonStream stream_{out_};
     std::string source_;  // a reference to the book
     Note newest_;         // its time alone
 };
 
 void AnnotationSet::startBook(const Book& book) {
     source_ = linkTo(book.path.empty() ? nameOf(book) : book.path);
-    JsonText& json = stream_.json();
+    JsonText& json = stream_.writer();
     json.StartObject();
     writeText(json, "@context", "https://www.w3.org/ns/epub-anno.jsonld");
     writeText(json, "id", "urn:x-notes:" + book.hash);
@@ -138,27 +133,22 @@ void AnnotationSet::startBook(const Book& book) {
 void AnnotationSet::add(const Note& note) {
     const bool isNewer = newest_.time == 0 || note.time > newest_.time;
     newest_.time = note.time != 0 && isNewer ? note.time : newest_.time;
-    writeAnnotation(stream_.json(), note, source_);
+    writeAnnotation(stream_.writer(), note, source_);
     stream_.flush();
 }
 
 // Prints a time of the notes, so that the same notes give the same bytes on any day.
 void AnnotationSet::end() {
-    JsonText& json = stream_.json();
+    JsonText& json = stream_.writer();
     json.EndArray();
     writeTextIfAny(json, "generated", timeText(newest_));
     json.EndObject();
-    stream_.flush();
-    out_ << '\n';
-}
-
-std::unique_ptr<NoteListing> listAnnotations(std::ostream& out,
-                                             const NoteListingOptions& /*options*/) {
-    return std::make_unique<AnnotationSet>(out);
+    stream_.endLine();
 }
 
 }  // namespace
 
-constexpr ListingFormat kAnnotationFormat = {"annotations", nullptr, listAnnotations};
+constexpr ListingFormat kAnnotationFormat = {"annotations", nullptr,
+                                             makeNoteListing<AnnotationSet>};
 
 }  // namespace client

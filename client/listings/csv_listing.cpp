@@ -21,7 +21,7 @@ void writeRow(std::ostream& out, std::initializer_list<std::string> texts) {
 
 class CsvBooks : public BookListing {
 public:
-    explicit CsvBooks(std::ostream& out) : out_(out) {
+    explicit CsvBooks(std::ostream& out) : BookListing(out) {
         out_ << kByteOrderMark;
         writeRow(out_, {"hash", "title", "author", "path"});
     }
@@ -29,14 +29,12 @@ public:
     void add(const Book& book) override {
         writeRow(out_, {book.hash, book.title, book.author, book.path});
     }
-
-private:
-    std::ostream& out_;
 };
 
 class CsvNotes : public NoteListing {
 public:
-    CsvNotes(std::ostream& out, const NoteListingOptions& /*options*/) : out_(out) {
+    CsvNotes(std::ostream& out, const NoteListingOptions& options)
+        : NoteListing(out, options) {
         out_ << kByteOrderMark;
         writeRow(out_, {"book", "author", "page", "colour", "text", "comment", "time",
                         "uuid", "location", "chapter"});
@@ -51,12 +49,12 @@ public:
     }
 
 private:
-    std::ostream& out_;
     Book book_;
 };
 
 }  // namespace
 
-constexpr ListingFormat kCsvFormat = listingFormat<CsvBooks, CsvNotes>("csv");
+constexpr ListingFormat kCsvFormat = {"csv", makeBookListing<CsvBooks>,
+                                      makeNoteListing<CsvNotes>};
 
 }  // namespace client

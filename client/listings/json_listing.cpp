@@ -6,36 +6,8 @@
 namespace client {
 namespace {
 
-using Writer = JsonText;
-
-// The array, from its first bracket to the line end after its last.
-class Array {
-public:
-    explicit Array(std::ostream& out) : out_(out), stream_(out) {
-        stream_.json().StartArray();
-    }
-
-    template <class Members>
-    void add(const Members& members) {
-        stream_.json().StartObject();
-        members(stream_.json());
-        stream_.json().EndObject();
-        stream_.flush();
-    }
-
-    void end() {
-        stream_.json().EndArray();
-        stream_.flush();
-        out_ << '\n';
-    }
-
-private:
-    std::ostream& out_;
-    JsonStream stream_;
-};
-
 // An empty text becomes null.
-void writeNumber(Writer& json, const char* name, const std::string& digits) {
+void writeNumber(JsonText& json, const char* name, const std::string& digits) {
     json.Key(name);
     if (digits.empty()) {
         json.Null();
@@ -44,14 +16,14 @@ void writeNumber(Writer& json, const char* name, const std::string& digits) {
     }
 }
 
-void writeMembers(Writer& json, const Book& book) {
+void writeMembers(JsonText& json, const Book& book) {
     writeText(json, "hash", book.hash);
     writeText(json, "title", book.title);
     writeText(json, "author", book.author);
     writeText(json, "path", book.path);
 }
 
-void writeMembers(Writer& json, const Note& note) {
+void writeMembers(JsonText& json, const Note& note) {
     json.Key("id");
     json.Uint64(note.id);
     writeText(json, "uuid", note.uuid);
@@ -70,42 +42,56 @@ void writeMembers(Writer& json, const Note& note) {
 
 class JsonBooks : public BookListing {
 public:
-    explicit JsonBooks(std::ostream& out) : array_(out) {}
+    explicit JsonBooks(std::ostream& out) : BookListing(out) {
+        json_.writer().StartArray();
+    }
 
     void add(const Book& book) override {
-        array_.add([&](Writer& json) { writeMembers(json, book); });
+        json_.writer().StartObject();
+        writeMembers(json_.writer(), book);
+        json_.writer().EndObject();
+        json_.flush();
     }
-    void end() override { array_.end(); }
+    void end() override {
+        json_.writer().EndArray();
+        json_.endLine();
+    }
 
 private:
-    Array array_;
+    JsonStream json_{out_};
 };
 
 class JsonNotes : public NoteListing {
 public:
     JsonNotes(std::ostream& out, const NoteListingOptions& options)
-        : array_(out), severalBooks_(options.severalBooks) {}
+        : NoteListing(out, options) {
+        json_.writer().StartArray();
+    }
 
     void startBook(const Book& book) override { hash_ = book.hash; }
 
     void add(const Note& note) override {
-        array_.add([&](Writer& json) {
-            if (severalBooks_) {
-                writeText(json, "book", hash_);
-            }
-            writeMembers(json, note);
-        });
+        json_.writer().StartObject();
+        if (options_.severalBooks) {
+            writeText(json_.writer(), "book", hash_);
+        }
+        writeMembers(json_.writer(), note);
+        json_.writer().EndObject();
+        json_.flush();
     }
-    void end() override { array_.end(); }
+    void end() override {
+        json_.writer().EndArray();
+        json_.endLine();
+    }
 
 private:
-    Array array_;
-    bool severalBooks_;
+    JsonStream json_{out_};
     std::string hash_;
 };
 
 }  // namespace
 
-constexpr ListingFormat kJsonFormat = listingFormat<JsonBooks, JsonNotes>("json");
+constexpr ListingFormat kJsonFormat = {"json", makeBookListing<JsonBooks>,
+                                       makeNoteListing<JsonNotes>};
 
 }  // namespace client

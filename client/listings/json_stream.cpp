@@ -26,4 +26,9 @@ void JsonStream::flush() {
     buffer_.Clear();
 }
 
+void JsonStream::endLine() {
+    flush();
+    out_ << '\n';
+}
+
 }  // namespace client

@@ -27,13 +27,16 @@ public:
     explicit JsonStream(std::ostream& out) : out_(out) {}
 
     // Returns the writer. What it writes is printed by flush().
-    JsonText& json() { return json_; }
+    JsonText& writer() { return writer_; }
     void flush();
+
+    // Prints the rest, and ends the line.
+    void endLine();
 
 private:
     std::ostream& out_;
     JsonBuffer buffer_;
-    JsonText json_{buffer_};
+    JsonText writer_{buffer_};
 };
 
 }  // namespace client

@@ -8,24 +8,20 @@ namespace {
 
 class BookLines : public BookListing {
 public:
-    explicit BookLines(std::ostream& out) : out_(out) {}
+    using BookListing::BookListing;
 
     void add(const Book& book) override {
         out_ << oneLine(book.hash) << '\t' << bold(oneLine(book.title)) << '\t'
              << oneLine(book.author) << '\n';
     }
-
-private:
-    std::ostream& out_;
 };
 
 class NoteLines : public NoteListing {
 public:
-    NoteLines(std::ostream& out, const NoteListingOptions& options)
-        : out_(out), severalBooks_(options.severalBooks) {}
+    using NoteListing::NoteListing;
 
     void startBook(const Book& book) override {
-        start_ = severalBooks_ ? oneLine(book.hash) + '\t' : std::string();
+        start_ = options_.severalBooks ? oneLine(book.hash) + '\t' : std::string();
     }
 
     void add(const Note& note) override {
@@ -34,13 +30,12 @@ public:
     }
 
 private:
-    std::ostream& out_;
-    bool severalBooks_;
     std::string start_;  // the start of each note's line
 };
 
 }  // namespace
 
-constexpr ListingFormat kLineFormat = listingFormat<BookLines, NoteLines>("lines");
+constexpr ListingFormat kLineFormat = {"lines", makeBookListing<BookLines>,
+                                       makeNoteListing<NoteLines>};
 
 }  // namespace client

@@ -4,6 +4,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "client/collection/book.h"
 #include "client/collection/note.h"
@@ -12,21 +13,16 @@
 
 namespace client {
 
-// The list is complete after end().
+// The list is complete after end(). Constructors may write already.
 class BookListing {
 public:
+    explicit BookListing(std::ostream& out) : out_(out) {}
     virtual ~BookListing() = default;
     virtual void add(const Book& book) = 0;
     virtual void end() {}
-};
 
-class NoteListing {
-public:
-    virtual ~NoteListing() = default;
-    // Sets the book of the next notes.
-    virtual void startBook(const Book& book) = 0;
-    virtual void add(const Note& note) = 0;
-    virtual void end() {}
+protected:
+    std::ostream& out_;
 };
 
 // The folder in which pictures are written; none if `path` is empty.
@@ -40,7 +36,21 @@ struct NoteListingOptions {
     FolderForPictures pictures;
 };
 
-// A listing writes to `out`, which its constructor may already do.
+class NoteListing {
+public:
+    NoteListing(std::ostream& out, NoteListingOptions options)
+        : out_(out), options_(std::move(options)) {}
+    virtual ~NoteListing() = default;
+    // Sets the book of the next notes.
+    virtual void startBook(const Book& book) = 0;
+    virtual void add(const Note& note) = 0;
+    virtual void end() {}
+
+protected:
+    std::ostream& out_;
+    const NoteListingOptions options_;
+};
+
 struct ListingFormat {
     const char* name;
     // Null if the format is for notes only.
@@ -49,16 +59,15 @@ struct ListingFormat {
                                               const NoteListingOptions& options);
 };
 
-template <class Books, class Notes>
-constexpr ListingFormat listingFormat(const char* name) {
-    return {name,
-            [](std::ostream& out) -> std::unique_ptr<BookListing> {
-                return std::make_unique<Books>(out);
-            },
-            [](std::ostream& out,
-               const NoteListingOptions& options) -> std::unique_ptr<NoteListing> {
-                return std::make_unique<Notes>(out, options);
-            }};
+template <class Books>
+std::unique_ptr<BookListing> makeBookListing(std::ostream& out) {
+    return std::make_unique<Books>(out);
+}
+
+template <class Notes>
+std::unique_ptr<NoteListing> makeNoteListing(std::ostream& out,
+                                             const NoteListingOptions& options) {
+    return std::make_unique<Notes>(out, options);
 }
 
 extern const ListingFormat kLineFormat;

@@ -36,7 +36,7 @@ std::string lastLine(const Note& note, bool hasHiddenPicture) {
 
 class MarkdownBooks : public BookListing {
 public:
-    explicit MarkdownBooks(std::ostream& out) : out_(out) {}
+    using BookListing::BookListing;
 
     void add(const Book& book) override {
         out_ << "- " << markdownLine(nameOf(book));
@@ -45,15 +45,11 @@ public:
         }
         out_ << " (" << markdownLine(book.hash) << ")\n";
     }
-
-private:
-    std::ostream& out_;
 };
 
 class MarkdownNotes : public NoteListing {
 public:
-    MarkdownNotes(std::ostream& out, const NoteListingOptions& options)
-        : out_(out), severalBooks_(options.severalBooks), pictures_(options.pictures) {}
+    using NoteListing::NoteListing;
 
     void startBook(const Book& book) override;
     void add(const Note& note) override;
@@ -61,9 +57,6 @@ public:
 private:
     void writePart(const std::string& text);
 
-    std::ostream& out_;
-    bool severalBooks_;
-    PictureFolder pictures_;
     std::string title_;           // of the book, for names of pictures
     std::string chapter_;         // of the last heading
     const char* separator_ = "";  // between the parts of the document
@@ -72,12 +65,12 @@ private:
 void MarkdownNotes::startBook(const Book& book) {
     title_ = nameOf(book);
     chapter_.clear();
-    if (!severalBooks_) {
+    if (!options_.severalBooks) {
         out_ << frontMatter(book);
     }
     writePart("# " + markdownLine(nameOf(book)) + '\n');
     writePart(book.author.empty() ? "" : markdownLine(book.author) + '\n');
-    writePart(severalBooks_ ? markdownLine(book.hash) + '\n' : "");
+    writePart(options_.severalBooks ? markdownLine(book.hash) + '\n' : "");
 }
 
 // A note without a chapter stays under the last heading.
@@ -88,7 +81,7 @@ void MarkdownNotes::add(const Note& note) {
         chapter_ = chapter;
     }
     writePart(markdownParagraphs(note.text, "> "));
-    const std::string link = pictures_.add(title_, note.picture);
+    const std::string link = addPicture(note.picture, title_, options_.pictures);
     writePart(link.empty() ? "" : "![picture](" + link + ")\n");
     writePart(markdownParagraphs(note.comment, ""));
     writePart(lastLine(note, !note.picture.empty() && link.empty()) + '\n');
@@ -103,7 +96,7 @@ void MarkdownNotes::writePart(const std::string& text) {
 
 }  // namespace
 
-constexpr ListingFormat kMarkdownFormat =
-    listingFormat<MarkdownBooks, MarkdownNotes>("markdown");
+constexpr ListingFormat kMarkdownFormat = {"markdown", makeBookListing<MarkdownBooks>,
+                                           makeNoteListing<MarkdownNotes>};
 
 }  // namespace client

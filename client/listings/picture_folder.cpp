@@ -70,19 +70,20 @@ bool holds(const fs::path& path, const std::string& content) {
 
 }  // namespace
 
-std::string PictureFolder::add(const std::string& title, const std::string& picture) const {
-    if (folder_.path.empty() || picture.empty()) {
+std::string addPicture(const std::string& picture, const std::string& title,
+                       const FolderForPictures& folder) {
+    if (folder.path.empty() || picture.empty()) {
         return {};
     }
-    makeFolders(folder_.path);
+    makeFolders(folder.path);
     const std::string stem = stemOf(title, picture);
     std::string name = stem + extensionOf(picture);
-    for (int counter = 1; !writeNewFile(fs::path(folder_.path) / name, picture) &&
-                          !holds(fs::path(folder_.path) / name, picture);
+    for (int counter = 1; !writeNewFile(fs::path(folder.path) / name, picture) &&
+                          !holds(fs::path(folder.path) / name, picture);
          ++counter) {
         name = stem + " (" + std::to_string(counter) + ')' + extensionOf(picture);
     }
-    return linkTo((fs::path(folder_.linked) / name).string());
+    return linkTo((fs::path(folder.linked) / name).string());
 }
 
 }  // namespace client
