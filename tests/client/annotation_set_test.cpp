@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "cases.h"
-#include "client/sources/w3c/color.h"
 #include "sample_source.h"
 
 namespace {
@@ -172,12 +171,17 @@ TEST(AnnotationSet, GivesItsNotesBack) {
 }
 
 TEST(AnnotationColor, BecomesNearestName) {
+    const ScratchDirectory scratch;
     std::istringstream pairs(
         "#ffe400 yellow #FE9B05 orange #d00000 red #ff80c0 pink #9050d0 purple #0000ff "
         "blue "
         "#00ffff cyan #00ff00 green #808080 grey mauve mauve #ff0 #ff0 #gggggg #gggggg");
     for (std::string text, name; pairs >> text >> name;) {
-        EXPECT_EQ(client::colorNamed(text), name) << text;
+        EXPECT_EQ(shownNotes(
+                      R"({"items": [{"target": "c", "body": {"color": ")" + text + "\"}}]}",
+                      [](const client::Note& note) { return note.color; }),
+                  name + '\n')
+            << text;
     }
 }
 

@@ -15,4 +15,8 @@ std::vector<const JsonValue*> elementsOf(const JsonValue& value);
 // Returns a text, also if it is under the name of its language; empty for other values.
 std::string textOf(const JsonValue& value);
 
+// Returns the value as JSON that does not depend on who wrote it: without white space, with
+// the members of objects in the order of their names.
+std::string canonicalJson(const JsonValue& value);
+
 }  // namespace client
