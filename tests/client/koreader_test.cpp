@@ -80,6 +80,8 @@ TEST(Sidecar, PlaceIsThatOfEntry) {
         {R"(["pos0"] = {["x"] = 1e308, ["y"] = -1}, ["page"] = 2)",
          "|2|||o.0000000002.0000000001.9999999999\n"},
         {R"(["page"] = 2)", "|2|||o.0000000002\n"},
+        {R"(["pos0"] = "/body/h2/text().5")",
+         "||||o.0000000001.0000000001.0000000001.0000000005\n"},
     };
     expectEach(cases,
                [](const std::string& members) { return shownPlaces(annotation(members)); });
@@ -92,7 +94,13 @@ TEST(Sidecar, EntriesBecomeNotes) {
              ["note"] = "b"}, [1e308] = {["page"] = 1, ["note"] = "d"}, [-1] = {["page"] = 1,
              ["note"] = "x"}, [-1.0] = {["page"] = 1, ["note"] = "a"}}})",
          "a\nb\nc\nd\n"},
-        {R"({["annotations"] = {}, ["bookmarks"] = {{["page"] = 1, ["text"] = "a"}}})", ""},
+        {R"({["annotations"] = {}, ["bookmarks"] = {{["page"] = 1, ["text"] = "a @ 2023-05-19"}}})",
+         "a @ 2023-05-19\n"},
+        {R"({["highlight"] = {[4] = {[1] = "junk", [2] = {}}}})", ""},
+        {R"({["highlight"] = {[1] = {{["pos0"] = "p", ["datetime"] = "1"}, {["pos0"] = "q",
+             ["datetime"] = "1"}}}, ["bookmarks"] = {{["pos0"] = "q", ["datetime"] = "1",
+             ["text"] = "b"}, {["pos0"] = "p", ["datetime"] = "1", ["text"] = "a"}}})",
+         "a\nb\n"},
         {R"({["highlight"] = {[1] = {{["pos0"] = "p", ["datetime"] = "1"}}}, ["bookmarks"] =
              {{["pos0"] = "p", ["datetime"] = "2", ["text"] = "a"}, {["page"] = "p",
              ["text"] = "b"}}})",
@@ -114,7 +122,7 @@ TEST(Sidecar, NamesItsBook) {
         {"Mr. Weston.annotations.lua", "", "Mr. Weston by "},
         {"Mr. Weston.lua", R"(["doc_props"] = {["title"] = "E"},)", "E by "},
         {"a.lua",
-         R"(["doc_props"] = {["title"] = ""}, ["stats"] = {["title"] = "E", ["authors"] = "A\nB"},)",
+         R"(["doc_props"] = {["title"] = ""}, ["stats"] = {["title"] = "E", ["authors"] = "A\nB\n"},)",
          "E by A; B"},
         {"b.lua", R"(["stats"] = {["authors"] = "N/A"},)", "b by "},
     };

@@ -135,7 +135,7 @@ void Parser::parseValue() {
 }
 
 double Parser::number() {
-    double value = HUGE_VAL;  // stays if the number is too large
+    double value = HUGE_VAL;  // stays if the number is out of range
     const char* const begin = text_.data() + at_;
     const char* const end = std::from_chars(begin, text_.data() + text_.size(), value).ptr;
     if (end == begin) {
@@ -176,7 +176,7 @@ char Parser::escaped() {
         return static_cast<char>(code);
     }
     const std::size_t meaning = kLetters.find(text_[at_]);
-    if (meaning == kLetters.npos) {
+    if (meaning == std::string_view::npos) {
         fail("unknown escape.");
     }
     ++at_;

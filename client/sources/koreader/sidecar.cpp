@@ -48,8 +48,10 @@ std::string textOfBook(const JsonValue& sidecar, const char* name) {
 // Returns whether the comment ends with the time of a bookmark that has no comment:
 // "Page 12 the text @ 2023-05-19 23:42:17".
 bool isMadeUp(std::string_view comment) {
+    constexpr std::size_t kTimeLength = 19;
     const std::size_t mark = comment.rfind("@ ");
-    return mark != comment.npos && parseIsoTime(comment.substr(mark + 2)).has_value();
+    return mark != std::string_view::npos && comment.size() - mark == 2 + kTimeLength &&
+           parseIsoTime(comment.substr(mark + 2)).has_value();
 }
 
 using Entries = std::vector<SidecarEntry>;
@@ -151,7 +153,7 @@ bool isSidecar(std::string_view start) {
                                           "[\"bookmarks\"]", "[\"doc_props\"]"};
     return startsWith(text, "{") && startsWith(withoutLuaSpace(text.substr(1)), "[") &&
            std::any_of(std::begin(kKeys), std::end(kKeys), [text](std::string_view key) {
-               return text.find(key) != text.npos;
+               return text.find(key) != std::string_view::npos;
            });
 }
 
@@ -160,11 +162,13 @@ SourceContent readSidecar(const std::string& path) {
     const JsonValue& list = memberOf(sidecar, "annotations");
     const std::string ownTitle = textOfBook(sidecar, "title");
     const std::string title = ownTitle.empty() ? nameIn(path) : ownTitle;
-    const std::string author = replaced(textOfBook(sidecar, "authors"), "\n", "; ");
+    constexpr std::string_view kSpaces[] = {"\n", " "};
+    const std::string authors = textOfBook(sidecar, "authors");
+    const std::string author = replaced(std::string(trimmed(authors, kSpaces)), "\n", "; ");
     SourceContent content;
     BookShelf shelf;
     for (SidecarEntry& entry :
-         list.IsNull()
+         numberedIn(list).empty()
              ? oldEntriesIn(sidecar, content.skipped)
              : entriesIn(list, "annotations", {"text", "note"}, content.skipped)) {
         shelf.book(title, author)

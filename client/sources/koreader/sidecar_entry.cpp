@@ -43,12 +43,17 @@ std::string positionOf(const JsonValue& entry, std::optional<double> page) {
     return position;
 }
 
-// Returns the position's numbers, of which a step without a number is the first of its
-// kind: text()[2] is after text().
+// Returns the position's numbers, without those in the names of elements. A step without a
+// number is the first of its kind: text()[2] is after text().
 std::string orderOf(const std::string& position) {
     constexpr std::size_t kMax = 1000;  // real ones are shorter
     std::string numbered;
+    bool isName = false;
     for (const char letter : position.substr(0, kMax)) {
+        isName = isAsciiLetter(letter) || (isName && isAsciiDigit(letter));
+        if (isName) {
+            continue;
+        }
         const bool isEnd = (letter == '/' || letter == '.') && !numbered.empty();
         numbered += isEnd && numbered.back() != ']' ? "[1]" : "";
         numbered += letter;
@@ -67,15 +72,15 @@ std::optional<SidecarEntry> parseEntry(const JsonValue& json, const SidecarTexts
         note.place.page = note.place.page ? note.place.page : page;
     }
     std::string position = positionOf(json, note.place.page);
-    if (position.empty()) {
+    const bool hasStart = !memberOf(json, "pos0").IsNull();
+    const bool isPassage = pageOfList || hasStart || !memberOf(json, "drawer").IsNull();
+    note.text = isPassage ? textOf(json, texts.passage) : "";  // a bookmark's is made up
+    if (position.empty() || (pageOfList && !hasStart && note.text.empty())) {
         return std::nullopt;
     }
-    const bool isPassage = pageOfList || !memberOf(json, "drawer").IsNull() ||
-                           !memberOf(json, "pos0").IsNull();
     note.place.chapter = textOf(json, "chapter");
     note.place.order = orderOf(position);
     note.color = colorOf(json);
-    note.text = isPassage ? textOf(json, texts.passage) : "";  // a bookmark's is made up
     note.comment = textOf(json, texts.comment);
     note.time = timeOf(json, "datetime");
     note.changeTime = timeOf(json, "datetime_updated");

@@ -18,8 +18,6 @@ public:
 
 private:
     bool areCfis_ = false;
-    // If targets have several sources, these are files within the book.
-    bool areWithinFiles_ = false;
 };
 
 }  // namespace client
