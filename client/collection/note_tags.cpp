@@ -1,7 +1,7 @@
 #include "client/collection/note_tags.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -13,12 +13,13 @@
 namespace client {
 namespace {
 
-// Members of positions and ranges.
-constexpr const char* kAnchor = "anchor";
-constexpr const char* kBegin = "begin";
+// The JSON text of a position, around its URI.
+constexpr std::string_view kAnchorStart = R"({"anchor":")";
+constexpr std::string_view kRangeStart = R"({"begin":")";
+constexpr std::string_view kEnd = R"("})";
 
-std::string json(const char* member, const std::string& position) {
-    return std::string("{\"") + member + "\":\"" + position + "\"}";
+std::string json(std::string_view start, const std::string& position) {
+    return std::string(start).append(position).append(kEnd);
 }
 
 void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
@@ -28,30 +29,31 @@ void addText(host::NoteRecord& record, host::NoteTag tag, std::string text,
     }
 }
 
-// Returns the member of a JSON text that json() gives; empty for other texts.
-std::string_view plainMember(std::string_view text, const char* member) {
-    const std::size_t start = json(member, "").size() - 2;
+// Returns the position in a text that json() gives; empty for other texts.
+std::string_view plainPosition(std::string_view text, std::string_view start) {
     constexpr std::size_t kLongest = 4096;  // that the host platform reads
-    if (text.size() < start + 2 || text.size() > kLongest) {
+    if (text.size() > kLongest || text.size() < start.size() + kEnd.size() ||
+        !startsWith(text, start) || !endsWith(text, kEnd)) {
         return {};
     }
-    const std::string_view position = text.substr(start, text.size() - start - 2);
-    return text == json(member, std::string(position)) ? position : std::string_view();
+    text = text.substr(start.size(), text.size() - start.size() - kEnd.size());
+    return text.find_first_of("\"\\") == std::string_view::npos ? text : "";
 }
 
-// Returns the text of the member; empty if there is none.
-std::string memberOf(const std::optional<std::string>& text, const char* member) {
+// Returns the URI in any JSON text; empty if there is none.
+std::string uriIn(const std::optional<std::string>& text, std::string_view start) {
     if (!text) {
         return {};
     }
-    const std::string_view position = plainMember(*text, member);
-    if (!position.empty() && position.find_first_of("\"\\") == std::string_view::npos) {
+    if (const auto position = plainPosition(*text, start); !position.empty()) {
         return std::string(position);
     }
+    const std::string_view member = start.substr(2, start.size() - 5);
     const auto parsed = host::NoteJson().parse(*text);
-    const char* const end = member + std::strlen(member);
     const Json::Value* found =
-        parsed && parsed->isObject() ? parsed->find(member, end) : nullptr;
+        parsed && parsed->isObject()
+            ? parsed->find(member.data(), member.data() + member.size())
+            : nullptr;
     return found != nullptr && found->isString() ? found->asString() : std::string();
 }
 
@@ -66,8 +68,9 @@ host::NoteRecord toRecord(Note note) {
         const std::int64_t positionTime =
             isKnown(note.place) ? time : std::min<std::int64_t>(time, 0);
         record.tags.push_back(
-            {host::kAnchorTag, "", json(kAnchor, position), positionTime});
-        record.tags.push_back({host::kRangeTag, "", json(kBegin, position), positionTime});
+            {host::kAnchorTag, "", json(kAnchorStart, position), positionTime});
+        record.tags.push_back(
+            {host::kRangeTag, "", json(kRangeStart, position), positionTime});
     }
     addText(record, host::kColorTag, std::move(note.color), time);
     addText(record, host::kTextTag, std::move(note.text), time);
@@ -78,18 +81,19 @@ host::NoteRecord toRecord(Note note) {
 }
 
 std::string positionIn(const host::TagRecord& tag) {
-    const char* const member = tag.tag == host::kAnchorTag  ? kAnchor
-                               : tag.tag == host::kRangeTag ? kBegin
-                                                            : nullptr;
-    return member == nullptr ? "" : std::string(plainMember(tag.json.value_or(""), member));
+    const bool isPosition = tag.tag == host::kAnchorTag || tag.tag == host::kRangeTag;
+    return isPosition && tag.json
+               ? std::string(plainPosition(
+                     *tag.json, tag.tag == host::kAnchorTag ? kAnchorStart : kRangeStart))
+               : std::string();
 }
 
 Place placeIn(const std::optional<std::string>& anchor,
               const std::optional<std::string>& range) {
-    const std::string position = memberOf(anchor, kAnchor);
+    const std::string position = uriIn(anchor, kAnchorStart);
     Place place = placeAt(position);
     if (!place.page && !place.location && range) {
-        const Place passage = placeAt(memberOf(range, kBegin));
+        const Place passage = placeAt(uriIn(range, kRangeStart));
         place = position.empty() ? passage : place;
         place.page = passage.page;
         place.location = passage.location;

@@ -130,14 +130,16 @@ std::vector<std::int64_t> ReaderStore::noteIdsByCreation(std::int64_t bookId) {
     return ids;
 }
 
+// Looks for few ranges, because each takes a third of the time.
 std::vector<NoteOutline> ReaderStore::outlines(std::int64_t bookId) {
     Query rows = connection_->query(
-        "SELECT id, uuid, made.timestamp, anchor.json, range.json FROM notes "
+        "SELECT id, uuid, made.timestamp, anchor.json, "
+        "CASE WHEN anchor.json GLOB '{\"anchor\":\"book:/position[?]*' THEN NULL ELSE "
+        "(SELECT json FROM tags WHERE note_id = id AND tag = ?) END FROM notes "
         "LEFT JOIN tags AS made ON made.note_id = id AND made.tag = ? "
         "LEFT JOIN tags AS anchor ON anchor.note_id = id AND anchor.tag = ? "
-        "LEFT JOIN tags AS range ON range.note_id = id AND range.tag = ? "
         "WHERE book_id = ? ORDER BY id",
-        std::int64_t{kUuidTag}, std::int64_t{kAnchorTag}, std::int64_t{kRangeTag}, bookId);
+        std::int64_t{kRangeTag}, std::int64_t{kUuidTag}, std::int64_t{kAnchorTag}, bookId);
     std::vector<NoteOutline> notes;
     while (rows.next()) {
         notes.push_back({rows.integer(0), rows.bytes(1), rows.integer(2),

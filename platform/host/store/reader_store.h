@@ -27,8 +27,8 @@ struct NoteOutline {
     std::int64_t id = 0;
     std::string uuid;
     std::int64_t time = 0;              // when it was made; 0 if not known
-    std::optional<std::string> anchor;  // JSON text, as the next one
-    std::optional<std::string> range;
+    std::optional<std::string> anchor;  // JSON text
+    std::optional<std::string> range;   // also; none if the anchor is "book:/position?…"
 };
 
 struct MergedNote {
