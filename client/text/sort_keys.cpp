@@ -1,6 +1,7 @@
 #include "client/text/sort_keys.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 namespace client {
@@ -53,7 +54,7 @@ std::string sortKeyOfFraction(double fraction) {
     constexpr double kParts = 1e6;
     const bool isInRange = fraction > 0;  // and not NaN
     const double parts = isInRange ? std::min(fraction, 1.0) * kParts : 0;
-    return keyOf(std::to_string(static_cast<std::uint32_t>(parts + 0.5)), 7);
+    return keyOf(std::to_string(std::lround(parts)), 7);
 }
 
 }  // namespace client
