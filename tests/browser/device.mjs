@@ -16,7 +16,20 @@ const shownNote = (note) => ({
     comment: paragraphs(note.comment),
 });
 
-const pageKey = (note) => (note.page === undefined ? 1 : Math.trunc(note.page) + 1);
+const timeOf = (note) => note.timestamp ?? 0;
+
+// By page, then by time; a note without a page after the one that was made before it.
+function inReadingOrder(notes) {
+    const ordered = notes
+        .filter((note) => note.page !== undefined)
+        .sort((a, b) => a.page - b.page || timeOf(a) - timeOf(b));
+    for (const note of notes.filter((other) => other.page === undefined)) {
+        const times = ordered.map(timeOf).filter((time) => time <= timeOf(note));
+        const before = ordered.map(timeOf).lastIndexOf(Math.max(...times));
+        ordered.splice(before + 1, 0, note);
+    }
+    return ordered;
+}
 
 export function exportBooks(deviceFile, folder) {
     rmSync(folder, { recursive: true, force: true });
@@ -28,6 +41,6 @@ export function exportBooks(deviceFile, folder) {
         file: path.resolve(run('export', book.hash)),
         title: book.title,
         author: book.author ?? '',
-        notes: [...book.notes].sort((a, b) => pageKey(a) - pageKey(b)).map(shownNote),
+        notes: inReadingOrder(book.notes).map(shownNote),
     }));
 }

@@ -129,7 +129,7 @@ TEST(Sidecar, NamesItsBook) {
     for (const auto& [file, members, book] : cases) {
         client::makeFolders("Emma.sdr");
         writeFile(file, "return {" + members + R"(["annotations"] = {{["page"] = 1}}})");
-        const client::Book& read = client::readSource(file).books.at(0).book;
+        const client::Book read = client::readSource(file).books.at(0).book;
         EXPECT_EQ(read.title + " by " + read.author, book) << file;
     }
 }
