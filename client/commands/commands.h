@@ -35,8 +35,8 @@ struct NotesRequest {
     FolderForPictures pictures;
 };
 
-// Prints the selected notes of the books, in lines their identifier, place, colour and text,
-// separated by tabs; with several books, the hash of their book comes first.
+// Prints the selected notes of the books, in lines their identifier, place, colour and
+// text, separated by tabs; with several books, the hash of their book comes first.
 void listNotes(const NotesRequest& request);
 
 struct ExportRequest {
