@@ -28,7 +28,7 @@ bool isPosition(const TagRecord& tag) {
     return tag.tag == host::kAnchorTag || tag.tag == host::kRangeTag;
 }
 
-// Returns whether `complete` has all parts of the other position.
+// Returns whether `complete` has all parts of the other position; false for other tags.
 bool hasAllPartsOf(const TagRecord& complete, const TagRecord& other) {
     const std::string position = positionIn(complete);
     const std::string part = positionIn(other);
@@ -42,7 +42,7 @@ bool hasAllPartsOf(const TagRecord& complete, const TagRecord& other) {
 
 bool isEqual(const TagRecord& present, const TagRecord& loaded) {
     return (present.text == loaded.text && present.json == loaded.json) ||
-           (isPosition(loaded) && hasAllPartsOf(present, loaded));
+           hasAllPartsOf(present, loaded);
 }
 
 bool differs(const NoteRecord& present, const NoteRecord& loaded) {
@@ -117,7 +117,7 @@ bool NoteLoader::completePosition(std::int64_t id, const NoteRecord& present,
                                   const NoteRecord& loaded) {
     bool isChanged = false;
     for (const TagRecord& tag : loaded.tags) {
-        const TagRecord* other = isPosition(tag) ? findTag(present, tag.tag) : nullptr;
+        const TagRecord* other = findTag(present, tag.tag);
         if (other != nullptr && other->timestamp == tag.timestamp &&
             other->json != tag.json && hasAllPartsOf(tag, *other)) {
             store_.replaceTag(id, tag);

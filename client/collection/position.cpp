@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "client/text/affixes.h"
-#include "client/text/ascii.h"
 #include "client/text/numbers.h"
 #include "client/text/percent_encoding.h"
 #include "client/text/sort_keys.h"
@@ -23,12 +22,6 @@ constexpr std::string_view kChapter = "chapter=";
 constexpr std::string_view kOrder = "order=";
 constexpr std::string_view kRank = "r.";
 
-bool isPlain(unsigned char byte) {
-    const char letter = static_cast<char>(byte);
-    return isAsciiLetter(letter) || isAsciiDigit(letter) ||
-           std::string_view("-._~").find(letter) != std::string_view::npos;
-}
-
 // Cuts the text between two characters, because the host platform does not read positions
 // of more than 4 KiB.
 std::string encoded(std::string_view text) {
@@ -39,7 +32,7 @@ std::string encoded(std::string_view text) {
         while (length < text.size() && (text[length] & 0xC0) == 0x80) {
             ++length;
         }
-        const std::string character = percentEncoded(text.substr(0, length), isPlain);
+        const std::string character = percentEncoded(text.substr(0, length), isUnreserved);
         if (result.size() + character.size() > kMax) {
             break;
         }
@@ -117,8 +110,8 @@ std::string rankOrder(std::size_t number) { return std::string(kRank) + sortKey(
 
 bool isRank(std::string_view order) { return startsWith(order, kRank); }
 
-bool isKnown(const Place& place) {
-    return place.page || place.location || !(place.order.empty() || isRank(place.order));
-}
+bool hasOrder(const Place& place) { return !place.order.empty() && !isRank(place.order); }
+
+bool isKnown(const Place& place) { return place.page || place.location || hasOrder(place); }
 
 }  // namespace client

@@ -25,6 +25,9 @@ std::string rankOrder(std::size_t number);
 
 bool isRank(std::string_view order);
 
+// Returns whether the place has an order that is no rank.
+bool hasOrder(const Place& place);
+
 // Returns whether the place is known, apart from a chapter.
 bool isKnown(const Place& place);
 

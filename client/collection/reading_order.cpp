@@ -15,10 +15,6 @@ namespace {
 
 enum class Decisive { Location, Order, Page };
 
-bool hasOrder(const PlacedNote& note) {
-    return !note.place.order.empty() && !isRank(note.place.order);
-}
-
 std::string_view prefixOf(const std::string& order) {
     return std::string_view(order).substr(0, order.find('.'));
 }
@@ -30,7 +26,7 @@ Decisive decisivePart(const std::vector<PlacedNote>& notes) {
         if (note.place.location) {
             return Decisive::Location;
         }
-        if (hasOrder(note)) {
+        if (hasOrder(note.place)) {
             ordered = ordered == nullptr ? &note : ordered;
             isOrder =
                 isOrder && prefixOf(note.place.order) == prefixOf(ordered->place.order);
@@ -49,7 +45,7 @@ constexpr Key kNoKey(-1, 0, "");
 Key keyOf(const PlacedNote& note, Decisive part) {
     const Place& place = note.place;
     if (part == Decisive::Order) {
-        return hasOrder(note) ? Key(0, 0, place.order) : kNoKey;
+        return hasOrder(place) ? Key(0, 0, place.order) : kNoKey;
     }
     if (place.location) {
         return {0, static_cast<double>(*place.location), ""};

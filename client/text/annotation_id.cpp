@@ -23,14 +23,11 @@ bool isUuid(std::string_view text) {
         });
 }
 
-bool isPlain(char letter, std::string_view marks) {
-    return isAsciiLetter(letter) || isAsciiDigit(letter) ||
-           marks.find(letter) != std::string_view::npos;
-}
-
 bool isPlainText(std::string_view text, std::string_view marks) {
-    return std::all_of(text.begin(), text.end(),
-                       [marks](char letter) { return isPlain(letter, marks); });
+    return std::all_of(text.begin(), text.end(), [marks](char letter) {
+        return isAsciiLetter(letter) || isAsciiDigit(letter) ||
+               marks.find(letter) != std::string_view::npos;
+    });
 }
 
 // Returns whether the text has a scheme and only characters of URIs.
@@ -50,9 +47,7 @@ std::string annotationIdOf(const std::string& uuid) {
     if (isUri(uuid) && !startsWith(uuid, kUuid) && !startsWith(uuid, kOther)) {
         return uuid;
     }
-    return std::string(kOther) + percentEncoded(uuid, [](unsigned char byte) {
-               return isPlain(static_cast<char>(byte), "-._~");
-           });
+    return std::string(kOther) + percentEncoded(uuid, isUnreserved);
 }
 
 std::string uuidOfAnnotation(const std::string& id) {

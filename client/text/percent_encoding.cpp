@@ -4,14 +4,11 @@
 #include "client/text/control_characters.h"
 
 namespace client {
-namespace {
-
-bool isPlainInLink(char byte) {
-    return isAsciiLetter(byte) || isAsciiDigit(byte) ||
-           std::string_view("/-._~").find(byte) != std::string_view::npos;
+bool isUnreserved(unsigned char byte) {
+    const char letter = static_cast<char>(byte);
+    return isAsciiLetter(letter) || isAsciiDigit(letter) ||
+           std::string_view("-._~").find(letter) != std::string_view::npos;
 }
-
-}  // namespace
 
 std::string percentDecoded(std::string_view text) {
     std::string result;
@@ -29,7 +26,7 @@ std::string percentDecoded(std::string_view text) {
 std::string linkTo(const std::string& path) {
     const bool isText = oneLine(path) == path;
     return percentEncoded(path, [isText](unsigned char byte) {
-        return isPlainInLink(static_cast<char>(byte)) || (isText && byte >= 0x80);
+        return byte == '/' || isUnreserved(byte) || (isText && byte >= 0x80);
     });
 }
 

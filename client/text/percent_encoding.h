@@ -20,6 +20,9 @@ std::string percentEncoded(std::string_view text, const IsPlain& isPlain) {
     return result;
 }
 
+// Returns whether RFC 3986 never requires the byte to be encoded.
+bool isUnreserved(unsigned char byte);
+
 // Returns the text with all encoded bytes decoded; "%" before anything else stays.
 std::string percentDecoded(std::string_view text);
 

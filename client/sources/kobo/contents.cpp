@@ -18,7 +18,7 @@ constexpr int kBook = 6;
 constexpr int kFile = 9;
 constexpr int kHeading = 899;  // in the table of contents
 
-// Of a chapter whose number is not known; after all others.
+// The number of a chapter that has none in the database: it is after all others.
 constexpr std::int64_t kNoIndex = std::numeric_limits<std::int64_t>::max();
 
 // Collections store so much of a title or an order. Each note has its own copy.

@@ -1,4 +1,4 @@
-// What an annotation is about: a passage, and its place in the book.
+// The target of an annotation: its passage, and the place in the book.
 #pragma once
 
 #include <string>
