@@ -2,44 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <random>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "client/collection/loading.h"
-#include "client/error.h"
-#include "client/sources/source.h"
-#include "scratch_files.h"
+#include "collection_in_memory.h"
 #include "store/note_tags.h"
 
 namespace {
-
-// A collection in memory.
-class Collection {
-public:
-    int load(std::string_view content) {
-        writeFile("source", std::string(content));
-        client::SourceContent source;
-        try {
-            source = client::readSource("source");
-        } catch (const client::UserError&) {  // a first record that is cut is refused
-        }
-        const client::LoadResult result =
-            client::loadBooks(source.books, source.onKnownBook, reader_, library_);
-        isAnyKept = !result.kept.isEmpty();
-        return result.changed;
-    }
-
-    std::vector<host::BookRecord> records() { return reader_.records(); }
-
-    bool isAnyKept = false;  // of the last file, because it differed
-
-private:
-    host::ReaderStore reader_{":memory:"};
-    host::LibraryStore library_{":memory:"};
-};
 
 std::string valueOf(const host::NoteRecord& note, std::int32_t number) {
     for (const host::TagRecord& tag : note.tags) {
@@ -52,20 +21,6 @@ std::string valueOf(const host::NoteRecord& note, std::int32_t number) {
         }
     }
     return "-";
-}
-
-std::string show(const std::vector<host::BookRecord>& books) {
-    std::string text;
-    for (const host::BookRecord& book : books) {
-        text += book.fastHash + ' ' + book.title + '\n';
-        for (const host::NoteRecord& note : book.notes) {
-            for (const host::TagRecord& tag : note.tags) {
-                text += "  " + note.uuid + ' ' + std::to_string(tag.tag) + ' ' + tag.text +
-                        tag.json.value_or("") + '@' + std::to_string(tag.timestamp) + '\n';
-            }
-        }
-    }
-    return text;
 }
 
 // Returns the notes' text, comment, colour and page.
@@ -172,7 +127,7 @@ TEST(Loading, MeetsWhatTheCollectionHas) {
     };
     const ScratchDirectory scratch;
     for (const auto& row : rows) {
-        Collection collection;
+        CollectionInMemory collection;
         for (const std::string& content : row.loads) {
             collection.load(content);
         }
@@ -185,7 +140,7 @@ TEST(Loading, MeetsWhatTheCollectionHas) {
 TEST(Loading, KeepsReplacedNoteThatSomethingElseChanged) {
     const ScratchDirectory scratch;
     const std::string remark = clipping("Note on page 2", "mine");
-    Collection collection;
+    CollectionInMemory collection;
     collection.load(remark);
     const host::BookRecord book = collection.records().at(0);
     collection.load(
@@ -200,7 +155,7 @@ TEST(Loading, KeepsReplacedRemarkThatItsPassageLacks) {
     const ScratchDirectory scratch;
     const std::string file =
         clipping("Highlight on page 1", "a") + clipping("Note on page 3", "mine");
-    Collection collection;
+    CollectionInMemory collection;
     collection.load(file);
     const host::BookRecord book = collection.records().at(0);
     collection.load(device(
@@ -210,97 +165,9 @@ TEST(Loading, KeepsReplacedRemarkThatItsPassageLacks) {
     EXPECT_EQ(shortly(collection.records()), "Emma: - mine - =3\"}; ab c - =1\"}; ");
 }
 
-// A few places, times and texts, so that records meet.
-class Generator {
-public:
-    explicit Generator(unsigned seed) : random_(seed) {}
-
-    std::size_t below(std::size_t limit) { return random_() % limit; }
-
-    std::string file() {
-        std::string text;
-        std::vector<std::string> records;
-        for (std::size_t count = 2 + below(12); count > 0; --count) {
-            const bool isCopy = !records.empty() && below(10) == 0;
-            records.push_back(isCopy ? records[below(records.size())] : record());
-            text += records.back();
-        }
-        return text;
-    }
-
-private:
-    template <std::size_t count>
-    std::string oneOf(const char* const (&texts)[count]) {
-        return texts[below(count)];
-    }
-
-    std::string range(const char* name) {
-        const std::size_t first = 1 + below(8);
-        const std::size_t length = below(4);
-        return std::string(name) + ' ' + std::to_string(first) +
-               (length == 0 ? "" : '-' + std::to_string(first + length));
-    }
-
-    std::string place() {
-        switch (below(8)) {
-            case 0:
-                return "";
-            case 1:
-                return "on page xi | " + range("Location");
-            case 2:
-                return range("on page") + " | " + range("Location");
-            case 3:
-            case 4:
-                return range("on page");
-            default:
-                return range("at location");
-        }
-    }
-
-    std::string date() {
-        const std::string minute = std::to_string(10 + below(20));
-        return below(4) == 0 ? ""
-                             : " | Added on Sunday, June 10, 2012 10:" + minute + ":00 PM";
-    }
-
-    std::string record() {
-        static constexpr const char* kTitles[] = {"Emma (J)",       "Emma (J)",
-                                                  "\uFEFFEmma (J)", "\u00C9mma  (J)",
-                                                  "E\u0301mma (J)", "\xC9mma (J)"};
-        static constexpr const char* kTexts[] = {"a", "b",         "ab",
-                                                 "",  "\xC9\r\na", "c\u2029b"};
-        static constexpr const char* kKinds[] = {"Highlight", "Highlight", "Note", "Note",
-                                                 "Bookmark"};
-        const std::string kind = oneOf(kKinds);
-        return oneOf(kTitles) + "\n- Your " + kind + ' ' + place() + date() + "\n\n" +
-               (kind == "Bookmark" ? "" : oneOf(kTexts)) +
-               "\n==========" + (below(8) == 0 ? "" : "\n");
-    }
-
-    std::mt19937 random_;
-};
-
-void expectGrownEqualsFresh(unsigned seed) {
-    Generator generator(seed);
-    const std::string file = generator.file();
-    Collection fresh;
-    fresh.load(file);
-    Collection grown;
-    std::vector<std::size_t> cuts = {file.size(), file.size()};  // twice changes nothing
-    for (std::size_t count = generator.below(5); count > 0; --count) {
-        cuts.push_back(generator.below(file.size()));
-    }
-    std::sort(cuts.begin(), cuts.end());
-    for (const std::size_t cut : cuts) {
-        grown.load(std::string_view(file).substr(0, cut));
-    }
-    ASSERT_EQ(show(grown.records()), show(fresh.records())) << "seed " << seed << '\n'
-                                                            << file;
-}
-
 TEST(Loading, CompletedPlaceIsNotKept) {
     const ScratchDirectory scratch;
-    Collection collection;
+    CollectionInMemory collection;
     collection.load(emma(R"({"uuid": "u", "page": 5})"));
     EXPECT_EQ(collection.load(emma(R"({"uuid": "u", "page": 5, "chapter": "I"})")), 1);
     EXPECT_FALSE(collection.isAnyKept);
@@ -308,16 +175,6 @@ TEST(Loading, CompletedPlaceIsNotKept) {
     EXPECT_TRUE(collection.isAnyKept);
     EXPECT_EQ(collection.load(emma(R"({"uuid": "u", "chapter": "I"})")), 0);
     EXPECT_FALSE(collection.isAnyKept);
-}
-
-// NOTES_EXPORT_GROWING_FILES sets the number of files.
-TEST(Growth, GivesWhatFreshLoadGives) {
-    const ScratchDirectory scratch;
-    const char* count = std::getenv("NOTES_EXPORT_GROWING_FILES");
-    const unsigned long files = count == nullptr ? 200 : std::stoul(count);
-    for (unsigned seed = 1; seed <= files && !HasFatalFailure(); ++seed) {
-        expectGrownEqualsFresh(seed);
-    }
 }
 
 }  // namespace
